@@ -1,0 +1,40 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tessarin {
+
+static_assert(sizeof(int) == 4, "values, indices and counts have 32 bits");
+
+/// Items in the order in which they were added, at the positions 1 to Count().
+template <class T>
+class Collection {
+public:
+    int Count() const { return static_cast<int>(mItems.size()); }
+
+    /// The item at `position`. Throws std::out_of_range outside 1 to Count().
+    const T& Item(int position) const {
+        if (!Has(position))
+            throw std::out_of_range("no item at position " + std::to_string(position) + " of " +
+                                    std::to_string(Count()));
+        return mItems[static_cast<std::size_t>(position) - 1];
+    }
+
+    bool Has(int position) const { return position >= 1 && position <= Count(); }
+
+    void Add(T item) { mItems.push_back(std::move(item)); }
+    /// Makes room for `count` items, so that adding them does not move the others.
+    void Reserve(int count) { mItems.reserve(static_cast<std::size_t>(count)); }
+
+    auto begin() const { return mItems.begin(); }
+    auto end() const { return mItems.end(); }
+    bool operator==(const Collection&) const = default;
+
+private:
+    std::vector<T> mItems;
+};
+
+} // namespace tessarin

@@ -1,0 +1,145 @@
+#pragma once
+
+#include "model/Collection.h"
+#include "model/Event.h"
+#include "model/Field.h"
+#include "model/KeyedNumbers.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tessarin {
+
+/// The grid: all fields, the cursor, the counts and the status of the puzzle, and the events that
+/// tell of every change. Of dimension D it has boxes of D by D fields, Numbers() = D*D rows and
+/// columns and Count() = Numbers()*Numbers() fields, numbered from 1 row by row.
+///
+/// The status is lazy: a change only marks it dirty, and the next read of a status property counts
+/// all fields anew, pumping window events once for each. Commands that run meanwhile may change the
+/// grid or read the status themselves; whoever reads gets the numbers of the grid as it then is.
+class Fields {
+public:
+    /// What the grid tells. After each event that SetIndex or FieldChanged raises, window events
+    /// are pumped.
+    struct GridEvents {
+        Event<int> BeforeIndexChanged; ///< index of the cursor field that is about to be left
+        Event<int> IndexChanged;       ///< the new cursor index, 0 when there is no cursor now
+        Event<int> StatusChanged;      ///< the changed field; for a lock the cursor's index
+        Event<int> IsWinner;           ///< as StatusChanged; 0: the grid is not complete any more
+        Event<int> IsDeadEnd;          ///< the lowest dead field; 0: the dead end is gone
+        Event<> Init;                  ///< the grid has new fields that know no group yet
+    };
+
+    /// A grid of dimension 3.
+    Fields();
+
+    GridEvents Events;
+    std::shared_ptr<Field> Cursor;            ///< the current field or none; set by the grid alone
+    Collection<std::shared_ptr<Field>> Items; ///< the field with Index k at position k
+    /// The empty fields without any free value as of the last count, ascending; none before it.
+    std::optional<KeyedNumbers> DeadFields;
+
+    /// Replaces all fields by new ones for a dimension that is odd and at least 3 (0: dimension 3),
+    /// without cursor, and raises Init. Returns "", or why the dimension was refused; then the grid
+    /// is as before. Throws std::overflow_error for a dimension above 215.
+    std::string Init(int MyDimension = 0);
+    /// Empties and unlocks all fields, or only those that are not locked, and puts the cursor on
+    /// field 1. Tells of the cursor alone.
+    void Clear(bool FreeOnly = false);
+
+    /// The grid as text: "Index;Value;Locked" and a line for each field with a value (or for all).
+    std::string TextCSV(bool WithEmpty = false) const;
+    /// Rebuilds the grid, of dimension 3, from such a text. A text with another first line leaves
+    /// it empty. Throws what Field::SetTextCSV throws, and std::out_of_range for an index outside
+    /// 1 to 81; what was loaded before stays. Raises Init only.
+    void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
+    /// The grid as text: "\"Sudoku\"" and a line of values for each row.
+    std::string TextSDK() const;
+    /// Rebuilds the grid from such a text, the values as locked fields. A text with another first
+    /// line, or of a number of rows that no dimension has, leaves it as it is. Throws what
+    /// Field::SetTextSDK throws, and std::out_of_range for items past the last field; what was
+    /// loaded before stays. Raises Init only.
+    void SetTextSDK(std::string_view MyTextCSV);
+
+    /// Locks or unlocks every field that holds a value.
+    void SetLockAll(bool LockState);
+
+    // The status. Each of these counts the fields first when the status is dirty.
+    int FreeCount();     ///< empty fields, locked or not
+    int LockedCount();   ///< locked fields, empty or not
+    int SetCount();      ///< fields with a value that are not locked
+    int NextFreeField(); ///< empty field with the fewest free values, at least one; 0 if none
+    bool IsWinner();     ///< no field is empty
+    bool IsDeadEnd();    ///< some empty field has no free value
+    int Status();        ///< what is to be reported: 0 winner state, 1 nothing, 2 dead-end state
+    int DeadField();     ///< the lowest index of an empty field without free value; 0 if none
+
+    /// The number of DeadFields. Does not count anew.
+    int DeadCount() const;
+
+    /// The cursor field's index, 0 without a cursor.
+    int Index() const;
+    /// Moves the cursor to a field, or takes it away with 0. The current index again does nothing;
+    /// nor does a number below 1 without a cursor. Throws std::out_of_range, and changes nothing,
+    /// for any other number outside 0 to Count().
+    void SetIndex(int MyIndex);
+
+    // The sizes. They throw std::overflow_error where 32 bits do not hold them.
+    int Count() const;
+    int Numbers() const;
+    int Dimension() const { return mlDimension; }
+
+    /// For Field alone: a field's value (its index) or lock (0) has changed. Raises StatusChanged
+    /// and then IsWinner or IsDeadEnd, unless a command that rebuilds the grid is under way.
+    void FieldChanged(int ThisIndex);
+
+private:
+    // What one pass over all fields counts.
+    struct Counts {
+        int Set = 0;
+        int Free = 0;
+        int Locked = 0;
+        int NextFreeField = 0;
+        KeyedNumbers DeadFields;
+        int DeadField() const { return DeadFields.Count() > 0 ? DeadFields.Item(1) : 0; }
+    };
+    // Keeps changes from being reported, until it dies.
+    class Silence;
+
+    void MarkDirty();
+    void UpdateStatus();
+    Counts CountFields() const;
+    void TakeOver(Counts counts);
+    void LoadCSVLine(std::string_view line);
+    void LoadSDKRow(int row, std::string_view line);
+
+    int mlSetCount = 0;
+    int mlFreeCount = 0;
+    int mlLockedCount = 0;
+    int mlNextFreeField = 0;
+    int mlStatus = 0;
+    bool mbIsWinner = false;
+    bool mbIsDeadEnd = false;
+    bool mbDirty = false;
+    bool mbNotify = true;
+    int mlDimension = 0;
+    int mlDeadField = 0;
+    unsigned mlChanges = 0; // grows with everything that makes the status dirty
+};
+
+/// Holds back the reports of field changes for its lifetime; they are on again when it ends,
+/// however it ends.
+class Fields::Silence {
+public:
+    explicit Silence(Fields& fields) : mFields(fields) { mFields.mbNotify = false; }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+    ~Silence() { mFields.mbNotify = true; }
+
+private:
+    Fields& mFields;
+};
+
+} // namespace tessarin

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "model/Collection.h"
+#include "model/Group.h"
+#include "model/ValueSet.h"
+
+#include <memory>
+#include <vector>
+
+namespace tessarin {
+
+/// All groups of the grid: N rows, N columns and N boxes, each of N fields, in this order.
+class Groups {
+public:
+    Collection<std::shared_ptr<Group>> Items; ///< the group with Index g at position g
+
+    /// Builds the groups of the current board's grid.
+    Groups() { Init(); }
+
+    /// Throws the old groups away and builds all anew, registering each with its fields. Must run
+    /// once on each new grid: fields that know their groups already end it with DuplicateKeyError.
+    void Init();
+
+    /// The values taken in each group, group g at g - 1.
+    std::vector<ValueSet> TakenValues() const;
+
+private:
+    void AddRowGroups();
+    void AddColumnGroups();
+    void AddBoxGroups();
+    void AddBoxGroup(int RowOffset, int ColumnOffset);
+    std::shared_ptr<Group> NewGroup(int flavor);
+    void RegisterGroup(const std::shared_ptr<Group>& Grp);
+
+    int mlGroupCount = 0;
+};
+
+} // namespace tessarin

@@ -1,0 +1,93 @@
+// The two puzzle text formats, in both directions, for a field and for the whole grid.
+#include "model/Field.h"
+#include "model/Fields.h"
+#include "model/TextItems.h"
+
+namespace tessarin {
+
+namespace {
+
+constexpr std::string_view LineBreak = "\r\n";
+constexpr std::string_view HeaderCSV = "Index;Value;Locked";
+constexpr std::string_view HeaderSDK = "\"Sudoku\"";
+
+std::string_view FirstLine(std::string_view text) { return text.substr(0, text.find(LineBreak)); }
+
+// The dimension of a grid with so many rows; 0 for a number of rows that no puzzle has. The grid
+// itself refuses dimension 4.
+int DimensionOfRows(std::size_t rows) {
+    for (const int dimension : {3, 4, 5})
+        if (rows == static_cast<std::size_t>(dimension * dimension)) return dimension;
+    return 0;
+}
+
+} // namespace
+
+std::string Field::TextCSV(bool WithEmpty) const {
+    if (!WithEmpty && mlValue == 0) return "";
+    return std::to_string(Index) + ";" + std::to_string(mlValue) + (mbLocked ? ";1" : ";0");
+}
+
+void Field::SetTextCSV(std::string_view MyTextCSV) {
+    Clear();
+    const auto items = Split(MyTextCSV, ";");
+    if (ToNumber(ItemAt(items, 0)) != Index) return;
+    SetValue(ToNumber(ItemAt(items, 1)));
+    SetLocked(ToNumber(ItemAt(items, 2)) == 1);
+}
+
+void Field::SetTextSDK(std::string_view MyTextSDK) {
+    Clear();
+    mlValue = ToNumber(MyTextSDK);
+    mbLocked = mlValue != 0;
+}
+
+std::string Fields::TextCSV(bool WithEmpty) const {
+    std::string text(HeaderCSV);
+    for (const auto& field : Items)
+        if (const auto line = field->TextCSV(WithEmpty); !line.empty())
+            text.append(LineBreak).append(line);
+    return text;
+}
+
+void Fields::SetTextCSV(std::string_view MyTextCSV, bool /*WithEmpty*/) {
+    Init(3); // leaves the status dirty, so that loading need not, not even when it fails
+    if (FirstLine(MyTextCSV) != HeaderCSV) return;
+    const Silence silence(*this);
+    const auto lines = Split(MyTextCSV, LineBreak);
+    for (auto line = lines.begin() + 1; line != lines.end(); ++line)
+        if (!line->empty()) LoadCSVLine(*line);
+}
+
+void Fields::LoadCSVLine(std::string_view line) {
+    const int index = ToNumber(Split(line, ";").front());
+    Items.Item(index)->SetTextCSV(line);
+}
+
+std::string Fields::TextSDK() const {
+    std::string text = std::string(HeaderSDK).append(LineBreak);
+    const int n = Numbers();
+    for (int row = 1; row <= n; ++row)
+        for (int column = 1; column <= n; ++column) {
+            text += std::to_string(Items.Item((row - 1) * n + column)->Value());
+            text += column < n ? "," : LineBreak;
+        }
+    return text;
+}
+
+void Fields::SetTextSDK(std::string_view MyTextCSV) {
+    if (FirstLine(MyTextCSV) != HeaderSDK) return;
+    const auto lines = Split(MyTextCSV, LineBreak);
+    // The line break of the last row leaves one more, empty line.
+    const int dimension = DimensionOfRows(lines.size() - 2);
+    if (dimension == 0 || !Init(dimension).empty()) return;
+    const Silence silence(*this);
+    for (std::size_t i = 1; i < lines.size(); ++i) LoadSDKRow(static_cast<int>(i), lines[i]);
+}
+
+void Fields::LoadSDKRow(int row, std::string_view line) {
+    int position = (row - 1) * Numbers();
+    for (const auto item : Split(line, ",")) Items.Item(++position)->SetTextSDK(item);
+}
+
+} // namespace tessarin

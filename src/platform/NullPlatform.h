@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/Platform.h"
+
+namespace tessarin {
+
+/// A machine without a window: nothing to pump, no sleep, ESC is never pressed, every question is
+/// answered No, and the style of windows is forgotten. Logic, benchmarks and fuzzers run on it.
+class NullPlatform : public Platform {
+public:
+    void PumpEvents() override {}
+    void Sleep(int /*milliseconds*/) override {}
+    bool EscPressed() override { return false; }
+    Message::Answer ShowMessage(const Message& message) override;
+    void Beep() override {}
+    void SetMousePointer(MousePointer /*pointer*/) override {}
+    std::string ProgramName() override { return "Tessarin"; }
+    std::string ProgramFolder() override { return "."; }
+    int GetDesktopWindow() override { return 0; }
+    void LockWindowUpdate(int /*handle*/) override {}
+    void ShowWindow(int /*handle*/, int /*command*/) override {}
+    int GetWindowLongA(int /*handle*/, int /*index*/) override { return 0; }
+    void SetWindowLongA(int /*handle*/, int /*index*/, int /*value*/) override {}
+};
+
+} // namespace tessarin

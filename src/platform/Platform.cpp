@@ -1,0 +1,48 @@
+#include "platform/Platform.h"
+
+#include "platform/NullPlatform.h"
+
+#include <ctime>
+
+namespace tessarin {
+
+namespace {
+NullPlatform theNullPlatform;
+Platform* theCurrent = &theNullPlatform;
+} // namespace
+
+Platform& Platform::Current() { return *theCurrent; }
+
+Platform* Platform::SetCurrent(Platform* platform) {
+    Platform* const previous = theCurrent == &theNullPlatform ? nullptr : theCurrent;
+    theCurrent = platform != nullptr ? platform : &theNullPlatform;
+    return previous;
+}
+
+VersionRecord Platform::Version() {
+    return {.FileDescription = TESSARIN_DESCRIPTION,
+            .LegalNotice = "Copyright 2022 Velmora",
+            .WebAddress = TESSARIN_WEB_ADDRESS,
+            .Major = TESSARIN_VERSION_MAJOR,
+            .Minor = TESSARIN_VERSION_MINOR,
+            .Revision = TESSARIN_VERSION_REVISION};
+}
+
+DateTime Platform::Now() {
+    const std::time_t now = std::time(nullptr);
+    const std::tm parts = *std::localtime(&now);
+    return {.Year = parts.tm_year + 1900,
+            .Month = parts.tm_mon + 1,
+            .Day = parts.tm_mday,
+            .Hour = parts.tm_hour,
+            .Minute = parts.tm_min,
+            .Second = parts.tm_sec};
+}
+
+std::string Platform::NativePath(const std::string& path) {
+    std::string native = path;
+    if (const auto joint = native.rfind('\\'); joint != std::string::npos) native[joint] = '/';
+    return native;
+}
+
+} // namespace tessarin

@@ -1,0 +1,39 @@
+#include "play/Game.h"
+
+#include "platform/Platform.h"
+
+namespace tessarin {
+
+namespace {
+
+Connection Relay(Event<int>& from, const Event<int>& to) {
+    return from.Connect([&to](int Index) {
+        to.Raise(Index);
+        PumpEvents();
+    });
+}
+
+} // namespace
+
+Game::Game() {
+    goGame = this;
+    Fields = std::make_unique<tessarin::Fields>();
+    auto& grid = Fields->Events;
+    mConnections = {Relay(grid.BeforeIndexChanged, Events.BeforeIndexChanged),
+                    Relay(grid.IndexChanged, Events.IndexChanged),
+                    Relay(grid.StatusChanged, Events.StatusChanged),
+                    Relay(grid.IsWinner, Events.IsWinner),
+                    Relay(grid.IsDeadEnd, Events.IsDeadEnd),
+                    grid.Init.Connect([this] { Fields_Init(); })};
+    Groups = std::make_unique<tessarin::Groups>();
+    Play = std::make_unique<tessarin::Play>();
+}
+
+Game::~Game() {
+    Play.reset();
+    Groups.reset();
+    Fields.reset();
+    goGame = nullptr;
+}
+
+} // namespace tessarin

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "model/Board.h"
+#include "model/Event.h"
+#include "model/Fields.h"
+#include "model/Groups.h"
+#include "play/Play.h"
+#include "play/modGame.h"
+
+#include <array>
+#include <memory>
+#include <string>
+
+namespace tessarin {
+
+/// Owns the puzzle being worked: grid, groups and player. It passes the grid's events on to the
+/// window, each followed by one pump of window events, and rebuilds the groups when the grid has
+/// new fields. There is one game, goGame.
+class Game : public Board {
+public:
+    /// The grid's events under the same names, with the grid's own argument.
+    struct GameEvents {
+        Event<int> BeforeIndexChanged;
+        Event<int> IndexChanged;
+        Event<int> StatusChanged;
+        Event<int> IsWinner;
+        Event<int> IsDeadEnd;
+    };
+
+    /// An empty grid of dimension 3, its groups and a player without history.
+    Game();
+    ~Game() override;
+
+    GameEvents Events;
+    std::unique_ptr<tessarin::Play> Play;
+
+    // Puzzle files. None of these tells whether it succeeded.
+
+    /// Writes the grid to a new file as CSV text; an existing file is left as it is. Without a name
+    /// the file lies beside the program and is called after it and the current time.
+    void FileExportCSV(const std::string& MyFileName = "");
+    /// Loads the grid from a CSV file (an unreadable one counts as empty), then drops the history
+    /// and switches tracing off. Throws what Fields::SetTextCSV throws; then the player is as
+    /// before.
+    void FileImportCSV(const std::string& FileName);
+    /// The same as FileExportCSV in the SDK format.
+    void FileExportSDK(const std::string& MyFileName = "");
+    /// Loads the grid from an SDK file. The player stays as it is. Throws what Fields::SetTextSDK
+    /// throws.
+    void FileImportSDK(const std::string& FileName);
+
+private:
+    void Fields_Init() { Groups->Init(); }
+
+    std::array<Connection, 6> mConnections;
+};
+
+} // namespace tessarin
