@@ -32,8 +32,8 @@ struct Message {
     enum class Buttons { Ok, YesNo };
     enum class Answer { Ok, Yes, No };
 
-    std::string Prompt;
-    std::string Title;
+    std::string Prompt = {};
+    std::string Title = {};
     Buttons ButtonSet = Buttons::Ok;
     bool QuestionIcon = false;
 };

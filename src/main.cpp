@@ -1,0 +1,12 @@
+#include "platform/qt/QtPlatform.h"
+#include "ui/frmTessarin.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    tessarin::qt::QtPlatform platform;
+    tessarin::frmTessarin window(platform);
+    window.Show();
+    return QApplication::exec();
+}

@@ -1,0 +1,176 @@
+#include "platform/qt/QtForm.h"
+
+#include "platform/qt/QtLook.h"
+#include "platform/qt/QtPlatform.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QTimer>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace tessarin::qt {
+
+namespace {
+
+// A frame as most window managers draw it, until the real one is known.
+constexpr QMargins AssumedFrame(1, 20, 1, 1);
+// Narrower frames leave a strip beside the controls unused, in which the side column would begin.
+constexpr int MinFrameAcross = 6;
+// The grid and the panels need so many pixels below the menu bar, whatever the frame takes.
+constexpr int MinClientHeight = 410;
+
+constexpr int ApplicationWindow = 0x40000;
+
+} // namespace
+
+QtForm::QtForm(Form& form, QtPlatform& platform)
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      mForm(form), mPlatform(platform), mFrame(AssumedFrame) {
+    setObjectName(ToQt(form.Name()));
+    setWindowTitle(ToQt(form.Caption()));
+    setWindowIcon(QIcon(":/tessarin/icon.svg"));
+    mMenuBar.setNativeMenuBar(false);
+    ApplySize();
+}
+
+void QtForm::Changed(Property property) {
+    if (property == Property::Bounds) ApplySize();
+    if (property == Property::Caption) setWindowTitle(ToQt(mForm.Caption()));
+    if (property == Property::Visible) {
+        ArrangeTabOrder();
+        setVisible(mForm.Visible());
+    }
+}
+
+void QtForm::ApplySize() {
+    const int across = std::max(MinFrameAcross, mFrame.left() + mFrame.right());
+    const int menuHeight = mMenuBar.sizeHint().height();
+    const QSize size(Pixels(mForm.Width()) - across,
+                     std::max(Pixels(mForm.Height()) - mFrame.top() - mFrame.bottom(),
+                              menuHeight + MinClientHeight));
+    setFixedSize(size);
+    mMenuBar.setGeometry(0, 0, size.width(), menuHeight);
+    mClient.setGeometry(0, menuHeight, size.width(), size.height() - menuHeight);
+    for (const auto& [widget, control] : mPlaced)
+        if (widget) PlaceWidget(*widget, *control);
+}
+
+void QtForm::CheckFrame(bool trustZero) {
+    if (!isVisible() || windowHandle() == nullptr) return;
+    const QMargins frame = windowHandle()->frameMargins();
+    if (frame == mFrame || (frame.isNull() && !trustZero)) return;
+    mFrame = frame;
+    ApplySize();
+}
+
+void QtForm::PlaceWidget(QWidget& widget, const Control& control) {
+    const bool inClient = widget.parentWidget() == &mClient;
+    if (inClient && std::none_of(mPlaced.begin(), mPlaced.end(), [&](const auto& placed) {
+            return placed.first == &widget;
+        }))
+        mPlaced.append({&widget, &control});
+    widget.setVisible(control.Visible() && !(inClient && widget.x() >= mClient.width()));
+}
+
+void QtForm::KeepFocus(const std::function<void()>& change) {
+    const QPointer<QWidget> before = focusWidget();
+    change();
+    QWidget* const after = focusWidget();
+    if (before != nullptr && after != before) {
+        if (!mLostFocus || before != mFocusInstead) mLostFocus = before;
+        mFocusInstead = after;
+    } else if (mLostFocus && mLostFocus->isVisible() && mLostFocus->isEnabled()) {
+        if (after == mFocusInstead) mLostFocus->setFocus();
+        mLostFocus.clear();
+    }
+}
+
+void QtForm::LockUpdate() { mbLocked = true; }
+
+void QtForm::UnlockUpdate() {
+    if (!mbLocked) return;
+    mbLocked = false;
+    ApplyStyle();
+}
+
+// Hiding and showing a window would place it anew and take the focus from it. Inside a lock both
+// come to nothing but the new style, which a mapped window can take over as it is.
+void QtForm::ShowCommand(int command) {
+    if (!mbLocked) setVisible(command != 0);
+}
+
+void QtForm::SetExtendedStyle(int style) {
+    mlExtendedStyle = style;
+    if (!mbLocked) ApplyStyle();
+}
+
+void QtForm::ApplyStyle() {
+    if (windowHandle() == nullptr) return;
+    const Qt::WindowFlags type =
+        (mlExtendedStyle & ApplicationWindow) != 0 ? Qt::Window : Qt::Tool;
+    const Qt::WindowFlags flags = (windowHandle()->flags() & ~Qt::WindowType_Mask) | type;
+    if (flags != windowHandle()->flags()) windowHandle()->setFlags(flags);
+}
+
+bool QtForm::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+        CheckFrame(false);
+        break;
+    case QEvent::Paint:
+        CheckFrame(true);
+        // Some systems never tell that the first window has become active.
+        if (!mbActivated)
+            QTimer::singleShot(1, this, [this] {
+                if (!mbActivated) RaiseActivate();
+            });
+        break;
+    case QEvent::WindowActivate:
+        if (!std::exchange(mbLeftForOwnBox, false)) RaiseActivate();
+        break;
+    case QEvent::WindowDeactivate:
+        mbLeftForOwnBox = QApplication::activeModalWidget() != nullptr;
+        break;
+    default:
+        break;
+    }
+    return handled;
+}
+
+// An activation that comes while one is being handled is part of it.
+void QtForm::RaiseActivate() {
+    if (mbActivating || mPlatform.Closed()) return;
+    mbActivated = mbActivating = true;
+    mForm.Form_Activate();
+    mbActivating = false;
+}
+
+void QtForm::closeEvent(QCloseEvent* event) {
+    bool cancel = false;
+    if (!mPlatform.Closed()) mForm.Form_Unload(cancel);
+    event->setAccepted(!cancel);
+    if (cancel) return;
+    mForm.Gate.Close();
+    mPlatform.Close();
+}
+
+// The Tab key walks the controls of each container from left to right and from top to bottom.
+void QtForm::ArrangeTabOrder() {
+    auto widgets = mClient.findChildren<QWidget*>();
+    widgets.removeIf([](const QWidget* widget) { return widget->focusPolicy() == Qt::NoFocus; });
+    const auto place = [this](QWidget* widget) {
+        QWidget* const container = widget->parentWidget();
+        const QPoint outer = container->mapTo(&mClient, QPoint());
+        return std::tuple(outer.x(), outer.y(), widget->y(), widget->x());
+    };
+    std::stable_sort(widgets.begin(), widgets.end(),
+                     [&](QWidget* a, QWidget* b) { return place(a) < place(b); });
+    for (qsizetype i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
+}
+
+} // namespace tessarin::qt

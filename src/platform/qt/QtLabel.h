@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/Control.h"
+
+#include <QLabel>
+
+namespace tessarin::qt {
+
+/// Paints a label from its control's properties: background, border and text.
+class QtLabel : public QLabel {
+public:
+    QtLabel(Control& control, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    // A click is a left press and a left release inside. The second press of a double click is one
+    // like any other.
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    Control& mControl;
+    bool mbPressed = false;
+};
+
+} // namespace tessarin::qt

@@ -1,0 +1,66 @@
+#include "platform/qt/QtLook.h"
+
+#include <QApplication>
+#include <QPalette>
+
+namespace tessarin::qt {
+
+namespace {
+
+// The plain font is small enough for all lines of the information panel.
+constexpr int PlainPixelSize = 10;
+// Texts of this kind have a weight of their own, which a family substitution would lose.
+constexpr auto HeavyFamily = "Arial Black";
+
+bool IsSystemColor(Color color) { return (color & SystemColor(0)) != 0; }
+
+} // namespace
+
+int Pixels(float twips) { return qRound(twips / 15); }
+
+QRect PixelRect(const Design& design) {
+    return {Pixels(design.Left), Pixels(design.Top), Pixels(design.Width), Pixels(design.Height)};
+}
+
+QColor ToQt(Color color) {
+    if (!IsSystemColor(color))
+        return QColor::fromRgb(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
+                               static_cast<int>(color >> 16 & 0xFF));
+    const QPalette palette = QApplication::palette();
+    switch (color & 0xFF) {
+    case 5:
+        return palette.color(QPalette::Base);
+    case 18:
+        return palette.color(QPalette::ButtonText);
+    default:
+        return palette.color(QPalette::Window);
+    }
+}
+
+QColor TextColor(Color fore, Color back) {
+    if (!IsSystemColor(fore) || IsSystemColor(back)) return ToQt(fore);
+    return qGray(ToQt(back).rgb()) > 110 ? Qt::black : Qt::white;
+}
+
+QFont ToQt(const FontStyle& font) {
+    QFont result = QApplication::font();
+    if (font.Name.empty()) {
+        result.setPixelSize(PlainPixelSize);
+        return result;
+    }
+    if (font.Name == HeavyFamily) {
+        result.setFamilies({HeavyFamily, "Open Sans", "DejaVu Sans"});
+        result.setWeight(QFont::Black);
+    } else {
+        result.setFamily(ToQt(font.Name));
+    }
+    result.setPixelSize(Pixels(font.Size * 20)); // a point is 20 twips
+    result.setItalic(font.Italic);
+    return result;
+}
+
+QString Plain(const std::string& caption) {
+    return ToQt(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace tessarin::qt

@@ -1,0 +1,80 @@
+#include "ui/ctlRotor/ctlRotor.h"
+
+#include "ui/ctlRotor/RotorImage.h"
+
+#include <utility>
+
+namespace tessarin {
+
+namespace {
+
+constexpr int TickMilliseconds = 5;
+constexpr float PictureSide = 480;
+constexpr int PicturesInColumn = 4;
+
+Design PictureAt(int index) {
+    return {.Name = "Image1",
+            .Left = PictureSide * static_cast<float>(index / PicturesInColumn),
+            .Top = PictureSide * static_cast<float>(index % PicturesInColumn),
+            .Width = PictureSide,
+            .Height = PictureSide,
+            .Visible = false};
+}
+
+} // namespace
+
+ctlRotor::ctlRotor(Control& container, Design design)
+    : UserControl(container, std::move(design)), Image1(*this, PictureAt(0)) {
+    for (int i = 1; i < RotorImages; ++i) Image1.Add(i, PictureAt(i));
+    for (int i = 0; i < RotorImages; ++i) Image1(i).SetImage(RotorImage(i));
+    Timer1.Tick = [this] { Timer1_Timer(); };
+    UserControl_Initialize();
+    UserControl_Resize();
+}
+
+void ctlRotor::UserControl_Initialize() {
+    Timer1.SetInterval(TickMilliseconds);
+    UseHourglass = true;
+    Stop();
+}
+
+void ctlRotor::UserControl_Resize() {
+    for (int i = 1; i < RotorImages; ++i) Image1(i).MoveTo(Image1(0));
+    SizeLike(Image1(0));
+}
+
+void ctlRotor::SetRunning(bool SetRunning) {
+    if (SetRunning)
+        Start();
+    else
+        Stop();
+}
+
+void ctlRotor::Start() {
+    SetPointer(MousePointer::Hourglass);
+    FrameIndex = 0;
+    Timer1.SetEnabled(true);
+}
+
+void ctlRotor::Stop() {
+    Timer1.SetEnabled(false);
+    SetPointer(MousePointer::Default);
+    FrameIndex = -1;
+    ShowFrame();
+}
+
+void ctlRotor::Timer1_Timer() {
+    FrameIndex = static_cast<std::int16_t>((FrameIndex + 1) % RotorImages);
+    ShowFrame();
+}
+
+void ctlRotor::ShowFrame() {
+    for (int i = 0; i < RotorImages; ++i) Image1(i).SetVisible(i == FrameIndex);
+    PumpEvents();
+}
+
+void ctlRotor::SetPointer(MousePointer pointer) const {
+    if (UseHourglass) Platform::Current().SetMousePointer(pointer);
+}
+
+} // namespace tessarin

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/ControlArray.h"
+#include "platform/Controls.h"
+
+#include <cstdint>
+
+namespace tessarin {
+
+/// A turning rotor that shows that the program is busy: twelve pictures on top of each other, of
+/// which a timer makes one visible at a time. While it runs, the mouse pointer is the hourglass.
+/// The control always has the size of one picture, 480 by 480 twips.
+class ctlRotor : public UserControl {
+public:
+    ctlRotor(Control& container, Design design);
+
+    /// True starts the rotor (a running one from the beginning), the first picture appears with the
+    /// next tick; False stops it and hides all pictures.
+    void SetRunning(bool SetRunning);
+    bool Running() const { return FrameIndex >= 0; }
+
+private:
+    void UserControl_Initialize();
+    void UserControl_Resize();
+    void Start();
+    void Stop();
+    void Timer1_Timer();
+    void ShowFrame();
+    void SetPointer(MousePointer pointer) const;
+
+    void Resized() override { UserControl_Resize(); }
+
+    ControlArray<Picture> Image1;
+    Timer Timer1{*this, {.Name = "Timer1"}};
+    bool UseHourglass = false;
+    std::int16_t FrameIndex = -1; // the visible picture; -1 while stopped
+};
+
+} // namespace tessarin

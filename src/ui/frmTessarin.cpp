@@ -1,0 +1,97 @@
+// The window's controls as designed, and its life cycle.
+#include "ui/frmTessarin.h"
+
+#include "support/modKbd.h"
+#include "support/modTaskBar.h"
+
+namespace tessarin {
+
+namespace {
+
+Design ChillOption(const char* caption, const char* toolTip, float left, float top) {
+    return {.Name = "optChill",
+            .Caption = caption,
+            .ToolTipText = toolTip,
+            .Left = left,
+            .Top = top,
+            .Width = 855,
+            .Height = 255};
+}
+
+} // namespace
+
+// clang-format off
+frmTessarin::frmTessarin(Toolkit& toolkit)
+    : Form(toolkit, {.Name = "frmTessarin", .Caption = "Velmora Sudoku Solver", .Visible = false}),
+      lblFile(*this, {.Name = "lblFile", .Top = 120, .Width = 8535, .Height = 255}),
+      lblField(*this, {.Name = "lblField", .Visible = false}),
+      fraNumPad(*this, {.Name = "fraNumPad"}),
+      btnNumPad(fraNumPad, {.Name = "btnNumPad", .Caption = "0"}),
+      fraAction(*this, {.Name = "fraAction"}),
+      btnNextFree(fraAction, {.Name = "btnNextFree", .Caption = ">", .ToolTipText = "goto next free field"}),
+      btnNextFreeAuto(fraAction, {.Name = "btnNextFreeAuto", .Caption = ">I", .ToolTipText = "goto next free field and fill value in"}),
+      btnSolve(fraAction, {.Name = "btnSolve", .Caption = "S", .ToolTipText = "solve the sudoku"}),
+      btnGoBack(fraAction, {.Name = "btnGoBack", .Caption = "<", .ToolTipText = "go back to previous field"}),
+      btnGoBackToFreedom(fraAction, {.Name = "btnGoBackToFreedom", .Caption = "<<", .ToolTipText = "go back to last field with freedom"}),
+      btnNextFreeValue(fraAction, {.Name = "btnNextFreeValue", .Caption = "F", .ToolTipText = "next free value"}),
+      btnInfo(fraAction, {.Name = "btnInfo", .Caption = "I", .ToolTipText = "show/hide fild info"}),
+      lblDeadEnd(fraAction, {.Name = "lblDeadEnd", .Caption = "DeadEnd", .ToolTipText = "dead end"}),
+      lblWinner(fraAction, {.Name = "lblWinner", .Caption = "Winner", .ToolTipText = "winner"}),
+      fraInfo(*this, {.Name = "fraInfo", .Caption = "FieldInfo", .Width = 2535, .Height = 3375, .Border = BorderStyle::FixedSingle}),
+      lblInfo(fraInfo, {.Name = "lblInfo", .Caption = "Label1", .Left = 240, .Top = 360, .Width = 2055, .Height = 2655}),
+      fraChill(*this, {.Name = "fraChill", .Caption = "Chillout", .Width = 2535, .Height = 2175, .Border = BorderStyle::FixedSingle}),
+      optChill(fraChill, ChillOption("Quiet", "only show result", 1320, 240)),
+      fraRotor(fraChill, {.Name = "fraRotor", .Left = 1320, .Top = 960, .Width = 975, .Height = 975, .Border = BorderStyle::FixedSingle}),
+      ctlRotor1(fraRotor, {.Name = "ctlRotor1", .Width = 480, .Height = 480}),
+      CommonDialog1(toolkit),
+      mnuFile(*this, {.Name = "mnuFile", .Caption = "File"}),
+      mnuFileImportCSV(mnuFile, {.Name = "mnuFileImportCSV", .Caption = "Import"}),
+      mnuFileExportCSV(mnuFile, {.Name = "mnuFileExportCSV", .Caption = "Export"}),
+      mnuSplit0(mnuFile, {.Name = "mnuSplit0", .Caption = "-"}),
+      mnuFileQuit(mnuFile, {.Name = "mnuFileQuit", .Caption = "Quit"}),
+      mnuEdit(*this, {.Name = "mnuEdit", .Caption = "Edit"}),
+      mnuEditClear(mnuEdit, {.Name = "mnuEditClear", .Caption = "Clear"}),
+      mnuEditClearFree(mnuEditClear, {.Name = "mnuEditClearFree", .Caption = "Free"}),
+      mnuEditClearAll(mnuEditClear, {.Name = "mnuEditClearAll", .Caption = "All"}),
+      mnuEditLockAll(mnuEdit, {.Name = "mnuEditLockAll", .Caption = "Lock All"}),
+      mnuEditLockAllSet(mnuEditLockAll, {.Name = "mnuEditLockAllSet", .Caption = "Set"}),
+      mnuEditLockClear(mnuEditLockAll, {.Name = "mnuEditLockClear", .Caption = "Clear"}),
+      mnuView(*this, {.Name = "mnuView", .Caption = "View"}),
+      mnuViewFreedom(mnuView, {.Name = "mnuViewFreedom", .Caption = "Freedom"}),
+      mnuSplit2(mnuView, {.Name = "mnuSplit2", .Caption = "-"}),
+      mnuViewGroups(mnuView, {.Name = "mnuViewGroups", .Caption = "Groups"}),
+      mnuViewNeighbours(mnuView, {.Name = "mnuViewNeighbours", .Caption = "Neighbours"}),
+      mnuHelp(*this, {.Name = "mnuHelp", .Caption = "?"}),
+      mnuAbout(mnuHelp, {.Name = "mnuAbout", .Caption = "About"}) {
+    optChill.Add(1, ChillOption("0", "ms", 240, 240));
+    optChill.Add(2, ChillOption("100", "ms", 240, 600));
+    optChill.Add(3, ChillOption("200", "ms", 240, 960));
+    optChill.Add(4, ChillOption("400", "ms", 240, 1320));
+    optChill.Add(5, ChillOption("800", "ms", 240, 1680));
+    optChill.Add(6, ChillOption("Step", "stop after every move / continue with solve", 1320, 600));
+    Form_Initialize();
+}
+// clang-format on
+
+// The end of the window releases the game.
+frmTessarin::~frmTessarin() = default;
+
+void frmTessarin::Form_Initialize() {
+    moGame = std::make_unique<Game>();
+    ConnectGame();
+    ConnectCommands();
+    LayoutWindow();
+}
+
+void frmTessarin::Form_Activate() {
+    ShowInTaskBar(Handle(), true);
+    RefreshAll();
+}
+
+void frmTessarin::Form_Unload(bool& cancel) {
+    cancel = Solving;
+    // A solve in step mode is still on its way out when the window may already close.
+    if (!cancel) SetCancel();
+}
+
+} // namespace tessarin

@@ -1,0 +1,158 @@
+#pragma once
+
+#include "platform/CommonDialog.h"
+#include "platform/ControlArray.h"
+#include "platform/Controls.h"
+#include "platform/Form.h"
+#include "play/Game.h"
+#include "ui/ctlRotor/ctlRotor.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tessarin {
+
+class Field;
+
+/// The window: 81 field labels, the number pad, the action panel, the menus and the side column
+/// with the field's data and the pace of the automatic solve. It owns the game, calls its player
+/// and grid, and repaints what their events tell of; it keeps no puzzle state of its own.
+///
+/// Commands pump window events while they work, so any of them may run inside another one. What
+/// guards them is Solving, which keeps the window open and goes with disabled panels, and
+/// ViewRunning, which disables the menus and the clicks on fields.
+///
+/// Sizes and positions are in twips; field indices count from 1.
+class frmTessarin : public Form {
+public:
+    explicit frmTessarin(Toolkit& toolkit);
+    ~frmTessarin() override;
+
+    // Life cycle.
+    void Form_Activate() override;
+    void Form_Unload(bool& cancel) override;
+
+    // Display.
+
+    /// Paints a field (0 or less: the current one) in its present state and shows its data in the
+    /// information panel; while a solve runs at a pace, waits afterwards. A mark draws it yellow.
+    /// A field that the window has no label for is left out.
+    void PaintField(int index, bool neighbourMark = false, bool groupMark = false);
+    /// Shows the number of free values in every empty field.
+    void PaintFreedoms();
+    /// Makes the number pad follow the current field; without one it stays as it is.
+    void RefreshNumPad();
+    /// Paints everything, after putting the cursor on field 1 if there is none.
+    void RefreshAll();
+    /// A view is shown: the menus but the last one are disabled.
+    void SetViewRunning(bool running);
+    bool ViewRunning() const { return mbViewRunning; }
+    /// The side column is shown; the window is wider for it.
+    void SetInfoVisible(bool visible);
+    bool InfoVisible() const { return mbInfoVisible; }
+
+    Label lblFile;
+    ControlArray<Label> lblField;
+    Frame fraNumPad;
+    ControlArray<CommandButton> btnNumPad;
+    Frame fraAction;
+    CommandButton btnNextFree;
+    CommandButton btnNextFreeAuto;
+    CommandButton btnSolve;
+    CommandButton btnGoBack;
+    CommandButton btnGoBackToFreedom;
+    CommandButton btnNextFreeValue;
+    CommandButton btnInfo;
+    Label lblDeadEnd;
+    Label lblWinner;
+    Frame fraInfo;
+    Label lblInfo;
+    Frame fraChill;
+    ControlArray<OptionButton> optChill;
+    Frame fraRotor;
+    ctlRotor ctlRotor1;
+    CommonDialog CommonDialog1;
+
+    MenuItem mnuFile;
+    MenuItem mnuFileImportCSV;
+    MenuItem mnuFileExportCSV;
+    MenuItem mnuSplit0;
+    MenuItem mnuFileQuit;
+    MenuItem mnuEdit;
+    MenuItem mnuEditClear;
+    MenuItem mnuEditClearFree;
+    MenuItem mnuEditClearAll;
+    MenuItem mnuEditLockAll;
+    MenuItem mnuEditLockAllSet;
+    MenuItem mnuEditLockClear;
+    MenuItem mnuView;
+    MenuItem mnuViewFreedom;
+    MenuItem mnuSplit2;
+    MenuItem mnuViewGroups;
+    MenuItem mnuViewNeighbours;
+    MenuItem mnuHelp;
+    MenuItem mnuAbout;
+
+private:
+    void Form_Initialize();
+    void ConnectGame();
+    void ConnectCommands();
+    void LayoutWindow();
+    void CreateFieldLabels();
+    void CreateNumPad();
+    void ArrangeActionPanel();
+    void ArrangeSideColumn();
+
+    std::string InfoText(const Field& field, bool isCursor, bool isDead) const;
+    // The labels of the dead fields as of the last count.
+    std::vector<Label*> DeadLabels();
+    bool PaintingOff() const { return Solving && ChillDelay == Quiet; }
+
+    // Commands.
+    void lblField_Click(int Index);
+    void lblDeadEnd_Click();
+    void mnuAbout_Click();
+    void mnuFileImportCSV_Click();
+    void mnuFileExportCSV_Click();
+    void mnuFileQuit_Click();
+    void mnuEditClearFree_Click();
+    void mnuEditClearAll_Click();
+    void mnuEditLockAllSet_Click();
+    void mnuEditLockClear_Click();
+    void mnuViewFreedom_Click();
+    void mnuViewGroups_Click();
+    void mnuViewNeighbours_Click();
+    void btnNextFree_Click();
+    void btnNextFreeAuto_Click();
+    void btnGoBack_Click();
+    void btnGoBackToFreedom_Click();
+    void btnNextFreeValue_Click();
+    void btnSolve_Click();
+    void btnInfo_Click();
+    void btnNumPad_Click(int Index);
+    void optChill_Click(int Index);
+
+    // What the game tells.
+    void moGame_BeforeIndexChanged(int Index);
+    void moGame_IndexChanged(int Index);
+    void moGame_StatusChanged(int Index);
+    void moGame_IsWinner(int Index);
+    void moGame_IsDeadEnd(int Index);
+
+    // Values of ChillDelay that are no pause.
+    static constexpr int Quiet = -1;
+    static constexpr int Step = -2;
+
+    std::unique_ptr<Game> moGame;
+    std::array<Connection, 5> mConnections;
+    bool Solving = false;
+    int ChillDelay = 0;    // Quiet, Step, or the pause in milliseconds after each painted field
+    int PreviousIndex = 0; // the cursor field before the move that was announced last
+    bool mbViewRunning = false;
+    bool mbInfoVisible = false;
+};
+
+} // namespace tessarin

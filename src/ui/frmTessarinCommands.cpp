@@ -1,0 +1,213 @@
+// What the menus, buttons, keys and options do, and what follows from the game's events.
+#include "support/modKbd.h"
+#include "ui/FieldLook.h"
+#include "ui/frmTessarin.h"
+
+#include <exception>
+#include <functional>
+#include <utility>
+
+namespace tessarin {
+
+namespace {
+
+// ChillDelay by option; Quiet and Step are the first and the last one.
+constexpr std::array ChillDelays{-1, 0, 100, 200, 400, 800, -2};
+
+constexpr auto FileFilter = "CSV Dokumente (*.csv)|*.csv|Alle Dateien (*.*)|*.*";
+
+// One step of a command that errors do not interrupt. Returns whether it succeeded.
+bool Attempt(const std::function<void()>& step) {
+    try {
+        step();
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+bool Confirmed(const std::string& question) {
+    return Platform::Current().ShowMessage({.Prompt = question,
+                                            .ButtonSet = Message::Buttons::YesNo,
+                                            .QuestionIcon = true}) == Message::Answer::Yes;
+}
+
+} // namespace
+
+void frmTessarin::ConnectGame() {
+    auto& events = moGame->Events;
+    mConnections = {
+        events.BeforeIndexChanged.Connect([this](int i) { moGame_BeforeIndexChanged(i); }),
+        events.IndexChanged.Connect([this](int i) { moGame_IndexChanged(i); }),
+        events.StatusChanged.Connect([this](int i) { moGame_StatusChanged(i); }),
+        events.IsWinner.Connect([this](int i) { moGame_IsWinner(i); }),
+        events.IsDeadEnd.Connect([this](int i) { moGame_IsDeadEnd(i); })};
+}
+
+void frmTessarin::ConnectCommands() {
+    using Handler = void (frmTessarin::*)();
+    const std::pair<Control&, Handler> commands[] = {
+        {lblDeadEnd, &frmTessarin::lblDeadEnd_Click},
+        {mnuAbout, &frmTessarin::mnuAbout_Click},
+        {mnuFileImportCSV, &frmTessarin::mnuFileImportCSV_Click},
+        {mnuFileExportCSV, &frmTessarin::mnuFileExportCSV_Click},
+        {mnuFileQuit, &frmTessarin::mnuFileQuit_Click},
+        {mnuEditClearFree, &frmTessarin::mnuEditClearFree_Click},
+        {mnuEditClearAll, &frmTessarin::mnuEditClearAll_Click},
+        {mnuEditLockAllSet, &frmTessarin::mnuEditLockAllSet_Click},
+        {mnuEditLockClear, &frmTessarin::mnuEditLockClear_Click},
+        {mnuViewFreedom, &frmTessarin::mnuViewFreedom_Click},
+        {mnuViewGroups, &frmTessarin::mnuViewGroups_Click},
+        {mnuViewNeighbours, &frmTessarin::mnuViewNeighbours_Click},
+        {btnNextFree, &frmTessarin::btnNextFree_Click},
+        {btnNextFreeAuto, &frmTessarin::btnNextFreeAuto_Click},
+        {btnGoBack, &frmTessarin::btnGoBack_Click},
+        {btnGoBackToFreedom, &frmTessarin::btnGoBackToFreedom_Click},
+        {btnNextFreeValue, &frmTessarin::btnNextFreeValue_Click},
+        {btnSolve, &frmTessarin::btnSolve_Click},
+        {btnInfo, &frmTessarin::btnInfo_Click}};
+    for (const auto& [control, handler] : commands)
+        control.Click = [this, handler = handler] { (this->*handler)(); };
+    lblField.Click = [this](int Index) { lblField_Click(Index); };
+    btnNumPad.Click = [this](int Index) { btnNumPad_Click(Index); };
+    optChill.Click = [this](int Index) { optChill_Click(Index); };
+}
+
+void frmTessarin::btnSolve_Click() {
+    ctlRotor1.SetRunning(true);
+    fraAction.SetEnabled(false);
+    fraNumPad.SetEnabled(false);
+    Solving = true;
+    // However the search ends, the panels come back.
+    Attempt([this] { moGame->Play->Solve(); });
+    const int chillDelay = ChillDelay;
+    Solving = false;
+    if (chillDelay == Quiet) RefreshAll();
+    fraNumPad.SetEnabled(true);
+    fraAction.SetEnabled(true);
+    ctlRotor1.SetRunning(false);
+}
+
+void frmTessarin::moGame_BeforeIndexChanged(int Index) { PreviousIndex = Index; }
+
+void frmTessarin::moGame_IndexChanged(int Index) {
+    if (PaintingOff()) return;
+    PaintField(PreviousIndex);
+    PaintField(Index);
+    RefreshNumPad();
+}
+
+void frmTessarin::moGame_StatusChanged(int Index) {
+    if (!PaintingOff()) {
+        PaintField(Index);
+        RefreshNumPad();
+    }
+    if (!Solving || ChillDelay != Step) return;
+    SetCancel();
+    ctlRotor1.SetRunning(false);
+    Solving = false;
+}
+
+void frmTessarin::moGame_IsWinner(int Index) {
+    lblWinner.SetBackColor(Index == 0 ? WindowBackground : Green);
+}
+
+void frmTessarin::moGame_IsDeadEnd(int Index) {
+    lblDeadEnd.SetBackColor(Index == 0 ? WindowBackground : Red);
+}
+
+void frmTessarin::lblField_Click(int Index) {
+    if (!ViewRunning()) moGame->Fields->SetIndex(Index);
+}
+
+void frmTessarin::btnNumPad_Click(int Index) {
+    Play& play = *moGame->Play;
+    if (Index <= 9)
+        play.SetValue(Index);
+    else if (Index == 11)
+        play.SetValue(0);
+    else if (Index == 10)
+        play.SetLocked(!play.Locked());
+}
+
+void frmTessarin::optChill_Click(int Index) {
+    ClearCancel();
+    ChillDelay = ChillDelays.at(static_cast<std::size_t>(Index));
+}
+
+void frmTessarin::btnNextFree_Click() { moGame->Play->GotoNextFreeField(); }
+
+void frmTessarin::btnNextFreeAuto_Click() { moGame->Play->GotoNextFreeField(true); }
+
+void frmTessarin::btnGoBack_Click() { moGame->Play->GoBack(); }
+
+void frmTessarin::btnGoBackToFreedom_Click() { moGame->Play->GoBackToFreedom(); }
+
+void frmTessarin::btnNextFreeValue_Click() { moGame->Play->NextFreeValue(true); }
+
+void frmTessarin::btnInfo_Click() { SetInfoVisible(!InfoVisible()); }
+
+void frmTessarin::mnuFileImportCSV_Click() {
+    CommonDialog1.FileMustExist = true;
+    CommonDialog1.PathMustExist = true;
+    CommonDialog1.DialogTitle = "Import File";
+    CommonDialog1.Filter = FileFilter;
+    CommonDialog1.DefaultExt = ".csv";
+    CommonDialog1.CancelError = true;
+    const bool chosen = Attempt([this] { CommonDialog1.ShowOpen(); });
+    // A copy, because a command that runs meanwhile may use the dialog again.
+    if (const std::string fileName = CommonDialog1.FileName; chosen && !fileName.empty()) {
+        Attempt([this] { moGame->Fields->Clear(); });
+        Attempt([this] { RefreshAll(); });
+        lblFile.SetCaption("");
+        Attempt([&] { moGame->FileImportCSV(fileName); });
+        Attempt([this] { RefreshAll(); });
+        moGame->Play->SetTracing(true);
+        lblFile.SetCaption(fileName);
+    }
+    lblDeadEnd.SetBackColor(WindowBackground);
+    lblWinner.SetBackColor(WindowBackground);
+}
+
+void frmTessarin::mnuFileExportCSV_Click() {
+    CommonDialog1.FileMustExist = false;
+    CommonDialog1.PathMustExist = true;
+    CommonDialog1.DialogTitle = "Export File";
+    CommonDialog1.Filter = FileFilter;
+    CommonDialog1.DefaultExt = ".csv";
+    CommonDialog1.CancelError = true;
+    if (!Attempt([this] { CommonDialog1.ShowSave(); })) return;
+    const std::string fileName = CommonDialog1.FileName;
+    if (fileName.empty()) return;
+    Attempt([&] { moGame->FileExportCSV(fileName); });
+    moGame->Play->SetTracing(true);
+}
+
+void frmTessarin::mnuFileQuit_Click() { Unload(); }
+
+void frmTessarin::mnuEditClearFree_Click() {
+    if (!Confirmed("Clear Free?")) return;
+    moGame->Fields->Clear(true);
+    RefreshAll();
+}
+
+void frmTessarin::mnuEditClearAll_Click() {
+    if (!Confirmed("Clear All?")) return;
+    moGame->Fields->Clear(false);
+    RefreshAll();
+    lblFile.SetCaption("");
+}
+
+void frmTessarin::mnuEditLockAllSet_Click() {
+    moGame->Fields->SetLockAll(true);
+    RefreshAll();
+}
+
+void frmTessarin::mnuEditLockClear_Click() {
+    moGame->Fields->SetLockAll(false);
+    RefreshAll();
+}
+
+void frmTessarin::mnuAbout_Click() { ShowAbout(); }
+
+} // namespace tessarin

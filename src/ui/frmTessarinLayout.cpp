@@ -1,0 +1,146 @@
+// Where everything lies, for the dimension that the grid has at start-up.
+#include "ui/FieldLook.h"
+#include "ui/frmTessarin.h"
+
+#include <algorithm>
+
+namespace tessarin {
+
+namespace {
+
+constexpr int FieldSide = 600;
+constexpr int BoxGap = FieldSide / 4;
+constexpr int PadPitch = FieldSide + BoxGap;
+
+// Where the row or column `position` (from 1) begins: the boxes are a gap apart.
+int GridOffset(int position, int dimension) {
+    return position * FieldSide + ((position - 1) / dimension - 2) * FieldSide / 4;
+}
+
+void MakePanel(Frame& frame) {
+    frame.SetBorderStyle(BorderStyle::None);
+    frame.SetBackColor(WindowBackground);
+}
+
+} // namespace
+
+void frmTessarin::LayoutWindow() {
+    CreateFieldLabels();
+    PumpEvents();
+    CreateNumPad();
+    PumpEvents();
+    ArrangeActionPanel();
+    PumpEvents();
+    ArrangeSideColumn();
+    PumpEvents();
+    SetWidth(btnNumPad(3).Left() + fraNumPad.Left() + 1050);
+    const Label& last = lblField(moGame->Fields->Count());
+    SetHeight(last.Top() + 1650);
+}
+
+void frmTessarin::CreateFieldLabels() {
+    const int n = moGame->Fields->Numbers();
+    const int d = moGame->Fields->Dimension();
+    Label& pattern = lblField(0);
+    pattern.SetVisible(false);
+    pattern.SetWidth(FieldSide);
+    pattern.SetHeight(FieldSide);
+    pattern.SetFont(FieldFont);
+    pattern.SetCaption("");
+    pattern.SetBackColor(WindowBackground);
+    pattern.SetAlignment(Alignment::Center);
+    pattern.SetBorderStyle(BorderStyle::FixedSingle);
+    int k = 0;
+    for (int r = 1; r <= n; ++r)
+        for (int c = 1; c <= n; ++c) {
+            Label& label = lblField.Load(++k);
+            label.SetTop(static_cast<float>(GridOffset(r, d) + 120));
+            label.SetLeft(static_cast<float>(GridOffset(c, d)));
+            label.SetVisible(true);
+        }
+    lblFile.SetLeft(lblField(1).Left());
+}
+
+// Three by three digits and a fourth row, whatever the dimension.
+void frmTessarin::CreateNumPad() {
+    const FontStyle font{.Name = "Arial", .Size = 20};
+    const Label& lastOfRow = lblField(moGame->Fields->Numbers());
+    MakePanel(fraNumPad);
+    fraNumPad.SetLeft(lastOfRow.Left() + 750);
+    fraNumPad.SetTop(lastOfRow.Top());
+    fraNumPad.SetWidth(2400);
+    fraNumPad.SetHeight(3150);
+
+    CommandButton& zero = btnNumPad(0);
+    zero.SetWidth(FieldSide);
+    zero.SetHeight(FieldSide);
+    zero.SetFont(font);
+    zero.SetCaption("0");
+    const auto create = [this](int key, const std::string& caption,
+                               const std::string& toolTip) -> CommandButton& {
+        CommandButton& button = btnNumPad.Load(key);
+        button.SetCaption(caption);
+        button.SetToolTipText(toolTip);
+        button.SetVisible(true);
+        return button;
+    };
+    for (int i = 1; i <= 9; ++i) {
+        CommandButton& button = create(i, std::to_string(i), std::to_string(i));
+        button.SetLeft(static_cast<float>((i - 1) % 3 * PadPitch + BoxGap));
+        button.SetTop(static_cast<float>((i - 1) / 3 * PadPitch + BoxGap));
+    }
+    zero.SetLeft(btnNumPad(8).Left());
+    zero.SetTop(btnNumPad(8).Top() + PadPitch);
+    CommandButton& lock = create(10, "X", "locke");
+    lock.SetLeft(btnNumPad(9).Left());
+    lock.SetTop(zero.Top());
+    CommandButton& clear = create(11, "C", "clear");
+    clear.SetLeft(btnNumPad(7).Left());
+    clear.SetTop(zero.Top());
+}
+
+// Below the number pad, on the same grid, down to the bottom of the fields.
+void frmTessarin::ArrangeActionPanel() {
+    const Label& last = lblField(moGame->Fields->Count());
+    MakePanel(fraAction);
+    fraAction.SetLeft(fraNumPad.Left());
+    fraAction.SetTop(fraNumPad.Top() + fraNumPad.Height() + 120);
+    fraAction.SetWidth(fraNumPad.Width());
+    fraAction.SetHeight(last.Top() + last.Height() - fraAction.Top());
+
+    const FontStyle font{.Name = "Arial", .Size = 14};
+    const std::pair<Control&, int> places[] = {
+        {btnNextFree, 1},        {btnNextFreeAuto, 2},  {btnSolve, 3},   {btnGoBack, 4},
+        {btnGoBackToFreedom, 5}, {btnNextFreeValue, 6}, {lblDeadEnd, 7}, {btnInfo, 8},
+        {lblWinner, 9}};
+    for (const auto& [control, key] : places) {
+        control.MoveTo(btnNumPad(key));
+        control.SizeLike(btnNumPad(1));
+        control.SetFont(font);
+    }
+    for (Label* const indicator : {&lblDeadEnd, &lblWinner}) {
+        indicator->SetCaption("");
+        indicator->SetBorderStyle(BorderStyle::FixedSingle);
+        indicator->SetBackColor(WindowBackground);
+    }
+}
+
+void frmTessarin::ArrangeSideColumn() {
+    fraInfo.SetTop(fraNumPad.Top());
+    fraInfo.SetLeft(fraNumPad.Left() + fraNumPad.Width() + 240);
+    fraChill.SetTop(fraInfo.Top() + fraInfo.Height() + 105);
+    fraChill.SetLeft(fraInfo.Left());
+    fraChill.SetWidth(fraInfo.Width());
+    optChill(1).Select();
+    ctlRotor1.SetLeft((fraRotor.Width() - ctlRotor1.Width()) / 2);
+    ctlRotor1.SetTop((fraRotor.Height() - ctlRotor1.Height()) / 2);
+}
+
+void frmTessarin::SetInfoVisible(bool visible) {
+    if (visible == mbInfoVisible) return;
+    const float column = fraInfo.Width() + 240;
+    SetWidth(Width() + (visible ? column : -column));
+    mbInfoVisible = visible;
+}
+
+} // namespace tessarin
