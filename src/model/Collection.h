@@ -17,13 +17,17 @@ public:
 
     /// The item at `position`. Throws std::out_of_range outside 1 to Count().
     const T& Item(int position) const {
-        if (!Has(position))
-            throw std::out_of_range("no item at position " + std::to_string(position) + " of " +
-                                    std::to_string(Count()));
-        return mItems[static_cast<std::size_t>(position) - 1];
+        if (const T* const item = Find(position)) return *item;
+        throw std::out_of_range("no item at position " + std::to_string(position) + " of " +
+                                std::to_string(Count()));
     }
 
-    bool Has(int position) const { return position >= 1 && position <= Count(); }
+    /// The item at `position`, or nullptr outside 1 to Count().
+    const T* Find(int position) const {
+        const auto offset = static_cast<std::size_t>(position) - 1;
+        return offset < mItems.size() ? &mItems[offset] : nullptr;
+    }
+    bool Has(int position) const { return Find(position) != nullptr; }
 
     void Add(T item) { mItems.push_back(std::move(item)); }
     /// Makes room for `count` items, so that adding them does not move the others.

@@ -4,6 +4,8 @@
 #include "model/Fields.h"
 #include "model/Groups.h"
 
+#include <bit>
+
 namespace tessarin {
 
 void Field::Clear() {
@@ -28,40 +30,30 @@ void Field::GroupAdd(const Group& Grp) {
     for (const int index : Grp.Fields) Neighbours.TryAdd(index);
 }
 
-template <class TakenIn>
-ValueSet Field::TakenValues(TakenIn takenIn) const {
+ValueBits Field::FreeBits(int word) const {
     const Board& board = Board::Current();
-    ValueSet taken(board.Fields->Numbers());
-    for (const int group : InGroups) {
-        if (!board.Groups->Items.Has(group)) continue;
-        taken.Merge(takenIn(group));
-        taken.Insert(mlValue);
-    }
-    return taken;
-}
-
-ValueSet Field::TakenValues() const {
-    return TakenValues(
-        [](int group) { return Board::Current().Groups->Items.Item(group)->TakenValues(); });
+    ValueBits taken = 0;
+    for (const int index : InGroups)
+        if (const auto* const group = board.Groups->Items.Find(index))
+            taken |= (*group)->TakenValues(board.Fields->Items, word) | BitOf(mlValue, word);
+    return AllValues(board.Fields->Numbers(), word) & ~taken;
 }
 
 KeyedNumbers Field::FreeValues() const {
-    const ValueSet taken = TakenValues();
     const int numbers = Board::Current().Fields->Numbers();
     KeyedNumbers free;
     free.Reserve(numbers);
-    for (int value = 1; value <= numbers; ++value)
-        if (!taken.Contains(value)) free.Add(value);
+    for (int word = 0; word < WordCount(numbers); ++word)
+        for (ValueBits bits = FreeBits(word); bits != 0; bits &= bits - 1)
+            free.Add(word * ValuesInWord + std::countr_zero(bits) + 1);
     return free;
 }
 
-int Field::Freedom() const { return Board::Current().Fields->Numbers() - TakenValues().Count(); }
-
-int Field::Freedom(const std::vector<ValueSet>& takenByGroup) const {
-    const auto takenIn = [&](int group) -> const ValueSet& {
-        return takenByGroup[static_cast<std::size_t>(group) - 1];
-    };
-    return Board::Current().Fields->Numbers() - TakenValues(takenIn).Count();
+int Field::Freedom() const {
+    const int words = WordCount(Board::Current().Fields->Numbers());
+    int freedom = 0;
+    for (int word = 0; word < words; ++word) freedom += std::popcount(FreeBits(word));
+    return freedom;
 }
 
 std::string Field::FreeValuesList() const {

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "model/KeyedNumbers.h"
-#include "model/ValueSet.h"
+#include "model/ValueBits.h"
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tessarin {
 
@@ -45,9 +44,6 @@ public:
     KeyedNumbers FreeValues() const;
     /// The number of free values.
     int Freedom() const;
-    /// The same from the values taken in each group, which a pass over all fields knows already;
-    /// group g stands at g - 1.
-    int Freedom(const std::vector<ValueSet>& takenByGroup) const;
     /// The free values as text, each followed by ";": 2;5;9;
     std::string FreeValuesList() const;
 
@@ -66,9 +62,7 @@ public:
     void SetTextSDK(std::string_view MyTextSDK);
 
 private:
-    template <class TakenIn>
-    ValueSet TakenValues(TakenIn takenIn) const;
-    ValueSet TakenValues() const;
+    ValueBits FreeBits(int word) const;
 
     int mlValue = 0;
     bool mbLocked = false;

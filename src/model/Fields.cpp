@@ -1,7 +1,7 @@
 #include "model/Fields.h"
 
 #include "model/Board.h"
-#include "model/Groups.h"
+#include "model/TakenValues.h"
 #include "platform/Platform.h"
 
 #include <limits>
@@ -150,14 +150,15 @@ void Fields::UpdateStatus() {
     if (!mbDirty) return;
     const auto changes = mlChanges;
     Counts counts = CountFields();
-    for (int i = Items.Count(); i > 0; --i) PumpEvents();
+    Platform& platform = Platform::Current();
+    for (int i = Items.Count(); i > 0; --i) platform.PumpEvents();
     if (!mbDirty) return; // a read in the middle of the pumping has brought the status up to date
     if (mlChanges != changes) counts = CountFields();
     TakeOver(std::move(counts));
 }
 
 Fields::Counts Fields::CountFields() const {
-    const auto takenByGroup = Board::Current().Groups->TakenValues();
+    const TakenValues taken(Board::Current());
     Counts counts;
     int smallestFreedom = Numbers() + 1;
     for (const auto& field : Items) {
@@ -167,7 +168,7 @@ Fields::Counts Fields::CountFields() const {
             continue;
         }
         ++counts.Free;
-        const int freedom = field->Freedom(takenByGroup);
+        const int freedom = taken.FreedomOfEmpty(*field);
         if (freedom == 0) {
             counts.DeadFields.Add(field->Index);
         } else if (freedom < smallestFreedom) {

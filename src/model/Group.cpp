@@ -1,7 +1,6 @@
 #include "model/Group.h"
 
-#include "model/Board.h"
-#include "model/Fields.h"
+#include "model/Field.h"
 
 namespace tessarin {
 
@@ -20,11 +19,10 @@ std::string Group::FlavorText() const {
     }
 }
 
-ValueSet Group::TakenValues() const {
-    const auto& grid = *Board::Current().Fields;
-    ValueSet taken(grid.Numbers());
+ValueBits Group::TakenValues(const Collection<std::shared_ptr<Field>>& items, int word) const {
+    ValueBits taken = 0;
     for (const int index : Fields)
-        if (grid.Items.Has(index)) taken.Insert(grid.Items.Item(index)->Value());
+        if (const auto* const field = items.Find(index)) taken |= BitOf((*field)->Value(), word);
     return taken;
 }
 

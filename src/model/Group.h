@@ -1,11 +1,14 @@
 #pragma once
 
 #include "model/Collection.h"
-#include "model/ValueSet.h"
+#include "model/ValueBits.h"
 
+#include <memory>
 #include <string>
 
 namespace tessarin {
+
+class Field;
 
 /// A set of fields of which no two may hold the same value: a row, a column or a box.
 class Group {
@@ -19,8 +22,9 @@ public:
     /// The name of the flavor: "horizontal", "vertikal", "diagonal", "box" or "(unbekannt)".
     std::string FlavorText() const;
 
-    /// The values that the group's fields hold in the current grid.
-    ValueSet TakenValues() const;
+    /// Which values of `word` the group's fields hold; `items` are the grid's fields, and one that is
+    /// not among them holds nothing.
+    ValueBits TakenValues(const Collection<std::shared_ptr<Field>>& items, int word) const;
 };
 
 } // namespace tessarin

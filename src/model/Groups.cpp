@@ -19,13 +19,6 @@ void Groups::Init() {
     AddBoxGroups();
 }
 
-std::vector<ValueSet> Groups::TakenValues() const {
-    std::vector<ValueSet> taken;
-    taken.reserve(static_cast<std::size_t>(Items.Count()));
-    for (const auto& group : Items) taken.push_back(group->TakenValues());
-    return taken;
-}
-
 void Groups::AddRowGroups() {
     const int n = Grid().Numbers();
     for (int r = 1; r <= n; ++r) {

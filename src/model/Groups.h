@@ -2,10 +2,8 @@
 
 #include "model/Collection.h"
 #include "model/Group.h"
-#include "model/ValueSet.h"
 
 #include <memory>
-#include <vector>
 
 namespace tessarin {
 
@@ -20,9 +18,6 @@ public:
     /// Throws the old groups away and builds all anew, registering each with its fields. Must run
     /// once on each new grid: fields that know their groups already end it with DuplicateKeyError.
     void Init();
-
-    /// The values taken in each group, group g at g - 1.
-    std::vector<ValueSet> TakenValues() const;
 
 private:
     void AddRowGroups();
