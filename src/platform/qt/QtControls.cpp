@@ -166,10 +166,11 @@ std::unique_ptr<ControlPeer> CreatePicture(Control& control, QWidget* parent, Qt
                                     form);
 }
 
-QtMenuPeer::QtMenuPeer(Control& control, QtMenuPeer* parent, QtForm& form) : mControl(control) {
+QtMenuPeer::QtMenuPeer(Control& control, QtMenuPeer* parent, QtForm& form)
+    : mControl(control), mAction(&form) {
     mAction.setObjectName(ToQt(control.Name()));
-    mAction.setText(Plain(control.Caption()));
     mAction.setSeparator(control.Caption() == "-");
+    if (!mAction.isSeparator()) mAction.setText(Plain(control.Caption()));
     QObject::connect(&mAction, &QAction::triggered, [&control] { control.RaiseClick(); });
     if (parent == nullptr) {
         form.MenuBar().addAction(&mAction);
@@ -177,6 +178,7 @@ QtMenuPeer::QtMenuPeer(Control& control, QtMenuPeer* parent, QtForm& form) : mCo
     }
     if (!parent->mMenu) {
         parent->mMenu = std::make_unique<QMenu>(&form.MenuBar());
+        parent->mMenu->setObjectName(parent->mAction.objectName());
         parent->mAction.setMenu(parent->mMenu.get());
     }
     parent->mMenu->addAction(&mAction);

@@ -31,9 +31,11 @@ QtForm::QtForm(Form& form, QtPlatform& platform)
       mForm(form), mPlatform(platform), mFrame(AssumedFrame) {
     setObjectName(ToQt(form.Name()));
     setWindowTitle(ToQt(form.Caption()));
-    setWindowIcon(QIcon(":/tessarin/icon.svg"));
+    QIcon icon;
+    for (const char* const size : {"16", "32", "48", "64", "128", "256"})
+        icon.addFile(QLatin1String(":/tessarin/icon-") + size + ".png");
+    setWindowIcon(icon);
     mMenuBar.setNativeMenuBar(false);
-    ApplySize();
 }
 
 void QtForm::Changed(Property property) {
@@ -159,7 +161,7 @@ void QtForm::closeEvent(QCloseEvent* event) {
     mPlatform.Close();
 }
 
-// The Tab key walks the controls of each container from left to right and from top to bottom.
+// The Tab key walks the controls of each container row by row, beginning with the first.
 void QtForm::ArrangeTabOrder() {
     auto widgets = mClient.findChildren<QWidget*>();
     widgets.removeIf([](const QWidget* widget) { return widget->focusPolicy() == Qt::NoFocus; });
@@ -171,6 +173,7 @@ void QtForm::ArrangeTabOrder() {
     std::stable_sort(widgets.begin(), widgets.end(),
                      [&](QWidget* a, QWidget* b) { return place(a) < place(b); });
     for (qsizetype i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
+    if (!widgets.isEmpty()) widgets.constFirst()->setFocus();
 }
 
 } // namespace tessarin::qt

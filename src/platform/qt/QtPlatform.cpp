@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QStyleFactory>
 #include <QThread>
@@ -18,6 +19,14 @@ namespace {
 
 constexpr int ExtendedStyleIndex = -20;
 constexpr int UiPixelSize = 12;
+
+// Wide enough for the title of a box with a short text.
+constexpr int MinBoxWidth = 280;
+
+void WidenTo(int width, QMessageBox& box) {
+    if (auto* const grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
 
 QWidget* WidgetOf(Control& container) {
     if (auto* form = dynamic_cast<QtForm*>(&container.Peer())) return &form->Client();
@@ -59,6 +68,7 @@ Message::Answer QtPlatform::ShowMessage(const Message& message) {
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     // Desktops differ in the button that comes first, which would else be the default.
     box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
+    WidenTo(MinBoxWidth, box);
     return RunModal(box) == QMessageBox::Yes ? Message::Answer::Yes : refusal;
 }
 

@@ -1,0 +1,140 @@
+// What the real window costs on Qt's offscreen platform, from the click to the repainted grid, and
+// from the start of a process to its first painted window.
+#include "platform/NullPlatform.h"
+#include "platform/qt/QtPlatform.h"
+#include "ui/FieldLook.h"
+#include "ui/frmTessarin.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QProcess>
+
+#include <chrono>
+
+namespace tessarin {
+namespace {
+
+struct Window {
+    qt::QtPlatform Platform;
+    frmTessarin Form{Platform};
+
+    Window() {
+        Form.Show();
+        PumpEvents();
+    }
+};
+
+void LoadPuzzle(frmTessarin& form, const std::string& name) {
+    goGame->FileImportCSV(PUZZLES + name + ".csv");
+    goGame->Fields->SetIndex(1);
+    form.RefreshAll();
+    PumpEvents();
+}
+
+// Counts the pumps of the logic on its way.
+class CountingPlatform : public NullPlatform {
+public:
+    int Pumps = 0;
+    void PumpEvents() override { ++Pumps; }
+};
+
+int PumpsOfSolve(const std::string& name) {
+    CountingPlatform counting;
+    Platform* const before = Platform::SetCurrent(&counting);
+    {
+        Game game;
+        game.FileImportCSV(PUZZLES + name + ".csv");
+        game.Fields->SetIndex(1);
+        counting.Pumps = 0;
+        game.Play->Solve();
+    }
+    Platform::SetCurrent(before);
+    return counting.Pumps;
+}
+
+// By option of the side column: 0 is quiet, 1 paints every move without a pause.
+void SolveFromClick(benchmark::State& state, const char* puzzle, int option) {
+    Window window;
+    window.Form.optChill(option).Select();
+    for (auto _ : state) {
+        state.PauseTiming();
+        LoadPuzzle(window.Form, puzzle);
+        state.ResumeTiming();
+        window.Form.btnSolve.RaiseClick();
+        PumpEvents();
+    }
+    if (!goGame->Fields->IsWinner()) state.SkipWithError("not solved");
+}
+BENCHMARK_CAPTURE(SolveFromClick, quiet_easy, "easy-1", 0)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(SolveFromClick, quiet_hard, "hard-1", 0)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(SolveFromClick, painted_easy, "easy-1", 1)->Unit(benchmark::kMillisecond);
+
+// The pumps of the same solve with nothing between them.
+void BarePumps(benchmark::State& state, const char* puzzle) {
+    const int pumps = PumpsOfSolve(puzzle);
+    Window window;
+    for (auto _ : state)
+        for (int i = 0; i < pumps; ++i) PumpEvents();
+    state.SetItemsProcessed(state.iterations() * pumps);
+}
+BENCHMARK_CAPTURE(BarePumps, easy, "easy-1")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BarePumps, hard, "hard-1")->Unit(benchmark::kMillisecond);
+
+// One field painted and brought to the screen; its value changes, or nothing does.
+void PaintOneField(benchmark::State& state, bool changing) {
+    Window window;
+    int mark = 0;
+    for (auto _ : state) {
+        window.Form.PaintField(41, changing && (++mark & 1) != 0);
+        PumpEvents();
+    }
+}
+BENCHMARK_CAPTURE(PaintOneField, changed, true);
+BENCHMARK_CAPTURE(PaintOneField, unchanged, false);
+
+void RefreshAll(benchmark::State& state, bool changing) {
+    Window window;
+    LoadPuzzle(window.Form, "hard-1");
+    for (auto _ : state) {
+        if (changing) {
+            state.PauseTiming();
+            for (int k = 1; k <= 81; ++k) window.Form.lblField(k).SetBackColor(Yellow);
+            PumpEvents();
+            state.ResumeTiming();
+        }
+        window.Form.RefreshAll();
+        PumpEvents();
+    }
+}
+BENCHMARK_CAPTURE(RefreshAll, changed, true);
+BENCHMARK_CAPTURE(RefreshAll, unchanged, false);
+
+// The whole life of a process that ends with its first painted window.
+void FirstPaint(benchmark::State& state, const char* which) {
+    for (auto _ : state) {
+        const auto start = std::chrono::steady_clock::now();
+        if (QProcess::execute(START_PROBE, {which}) != 0) state.SkipWithError("no first paint");
+        state.SetIterationTime(
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+}
+BENCHMARK_CAPTURE(FirstPaint, tessarin, "tessarin")
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(20);
+BENCHMARK_CAPTURE(FirstPaint, bare_window, "bare")
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(20);
+
+} // namespace
+} // namespace tessarin
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,178 @@
+#!/bin/sh
+# Checks what gets installed and packaged, from a build folder that is built already.
+# Usage: check.sh all|install|start|desktop|metainfo|manual|package|lintian BUILD-FOLDER
+# Ends with 0 when all is well, 77 when a tool is not at hand, else with 1.
+set -eu
+export LC_ALL=C.UTF-8
+
+check=$1
+build=$(cd "$2" && pwd)
+sources=$(cd "$(dirname "$0")" && pwd)
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+root=$scratch/root
+id=example.velmora.tessarin
+doc=usr/share/doc/tessarin
+
+fail() {
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+need() {
+    for tool; do
+        command -v "$tool" >/dev/null || { echo "SKIPPED: $tool is not at hand"; exit 77; }
+    done
+}
+
+# Runs a command that has to succeed without a word.
+silent() {
+    output=$("$@" 2>&1) || fail "$* ended with $?: $output"
+    [ -z "$output" ] || fail "$* said: $output"
+}
+
+cached() {
+    sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt"
+}
+
+version=$(cached CMAKE_PROJECT_VERSION)
+
+# Every file a user is promised, below the root of the system.
+promised() {
+    echo usr/bin/Tessarin
+    echo usr/share/applications/$id.desktop
+    echo usr/share/metainfo/$id.metainfo.xml
+    echo usr/share/icons/hicolor/scalable/apps/tessarin.svg
+    for size in 16 32 48 64 128 256; do
+        echo "usr/share/icons/hicolor/${size}x$size/apps/tessarin.png"
+    done
+    echo usr/share/man/man6/Tessarin.6.gz
+    for text in README.md changelog.gz copyright; do echo $doc/$text; done
+    for puzzle in "$sources"/../puzzles/*.csv; do
+        echo "usr/share/tessarin/puzzles/${puzzle##*/}"
+    done
+}
+
+# The regular files below a folder are the promised ones, no more and no less, with their modes.
+compare_with_promise() {
+    promised | sed 's/$/ 644/; s/^\(usr\/bin\/.*\) 644$/\1 755/' | sort >"$scratch/promised"
+    (cd "$1" && find usr -type f -printf '%p %m\n') | sort >"$scratch/found"
+    diff "$scratch/promised" "$scratch/found" || fail "missing (<) or unexpected (>) files"
+    odd=$(find "$1/usr" -type d ! -perm 755)
+    [ -z "$odd" ] || fail "folders without mode 755: $odd"
+}
+
+installed() {
+    cmake --install "$build" --prefix "$root/usr" >"$scratch/log" 2>&1 ||
+        { cat "$scratch/log"; fail "the installation"; }
+}
+
+packaged() {
+    need dpkg-deb dpkg-shlibdeps file
+    (cd "$build" && cpack -G DEB -B "$scratch/deb") >"$scratch/log" 2>&1 ||
+        { cat "$scratch/log"; fail "cpack"; }
+    deb=$(echo "$scratch"/deb/*.deb)
+}
+
+check_install() {
+    installed
+    compare_with_promise "$root"
+    for size in 16 32 48 64 128 256; do
+        icon=$root/usr/share/icons/hicolor/${size}x$size/apps/tessarin.png
+        found=$(od -An -tu1 -j16 -N8 "$icon" | awk '{ print $3 * 256 + $4, $7 * 256 + $8 }')
+        [ "$found" = "$size $size" ] || fail "$icon measures $found"
+    done
+    gzip -dc "$root/$doc/changelog.gz" | grep -q "^tessarin ($version) " ||
+        fail "the changelog does not know $version"
+}
+
+# The program, away from its build folder, waits for its user and has nothing to complain about.
+check_start() {
+    need timeout
+    installed
+    mkdir -m 700 "$scratch/home"
+    ended=0
+    HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/home QT_QPA_PLATFORM=offscreen \
+        timeout 2 "$root/usr/bin/Tessarin" >"$scratch/log" 2>&1 || ended=$?
+    [ $ended -eq 124 ] || { cat "$scratch/log"; fail "the program ended by itself with $ended"; }
+    # The offscreen platform remarks on itself that it knows no size hints.
+    if grep -Fvx 'This plugin does not support propagateSizeHints()' "$scratch/log"; then
+        fail "the program complained"
+    fi
+}
+
+check_desktop() {
+    need desktop-file-validate
+    installed
+    entry=$root/usr/share/applications/$id.desktop
+    silent desktop-file-validate "$entry"
+    for key in Exec TryExec; do
+        program=$(sed -n "s/^$key=//p" "$entry")
+        [ -x "$root/usr/bin/$program" ] || fail "$key names $program, which is not installed"
+    done
+    icon=$(sed -n 's/^Icon=//p' "$entry")
+    [ -f "$root/usr/share/icons/hicolor/48x48/apps/$icon.png" ] || fail "no icon $icon"
+}
+
+# As strict as it gets, but for one hint: the validator does not know the domain ".example".
+check_metainfo() {
+    need appstreamcli
+    installed
+    metainfo=$root/usr/share/metainfo/$id.metainfo.xml
+    appstreamcli validate --no-net --pedantic --no-color "$metainfo" >"$scratch/log" ||
+        { cat "$scratch/log"; fail "the metainfo is not valid"; }
+    if grep '^[EWIP]: ' "$scratch/log" | grep -v ' cid-maybe-not-rdns '; then
+        fail "the validator has hints on the metainfo"
+    fi
+    grep -q "<release version=\"$version\" " "$metainfo" || fail "no release $version"
+}
+
+check_manual() {
+    need man gzip
+    installed
+    gzip -dc "$root/usr/share/man/man6/Tessarin.6.gz" >"$scratch/Tessarin.6"
+    MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$scratch/Tessarin.6" \
+        2>"$scratch/log" >/dev/null || fail "man"
+    [ ! -s "$scratch/log" ] || { cat "$scratch/log"; fail "the manual page has faults"; }
+    grep -q "\"Tessarin $version\"" "$scratch/Tessarin.6" || fail "the manual is not of $version"
+}
+
+check_package() {
+    packaged
+    dpkg-deb --extract "$deb" "$root"
+    compare_with_promise "$root"
+    owners=$(dpkg-deb --contents "$deb" | awk '{ print $2 }' | sort -u)
+    [ "$owners" = root/root ] || fail "owners: $owners"
+    field() { dpkg-deb --field "$deb" "$1"; }
+    [ "$(field Package) $(field Version)" = "tessarin $version" ] || fail "name and version"
+    [ "$(field Homepage)" = "$(cached CMAKE_PROJECT_HOMEPAGE_URL)" ] || fail "home page"
+    [ "$(field Maintainer)" = "Velmora <maintainer@velmora.example>" ] || fail "maintainer"
+    [ "$(field Description | head -n 1)" = "Solves sudoku games" ] || fail "description"
+    for library in libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6; do
+        field Depends | tr ',' '\n' | grep -q "^ *$library (>= " || fail "no need of $library"
+    done
+    dpkg-deb --info "$deb"
+    dpkg-deb --contents "$deb"
+}
+
+check_lintian() {
+    need lintian
+    packaged
+    # Superusers are asked to say so; everybody else need not.
+    lintian --allow-root --info --fail-on error,warning "$deb" || fail "lintian"
+}
+
+case $check in
+all)
+    ended=0
+    for each in install start desktop metainfo manual package lintian; do
+        result=0
+        echo "== $each"
+        sh "$0" $each "$build" || result=$?
+        case $result in 0 | 77) ;; *) ended=1 ;; esac
+    done
+    exit $ended
+    ;;
+install | start | desktop | metainfo | manual | package | lintian) "check_$check" ;;
+*) fail "unknown check $check" ;;
+esac

@@ -1,0 +1,52 @@
+# shellcheck shell=bash
+# A virtual X display for a program that is to be shown or driven without a screen. Whatever is
+# started with start_process ends with the script, however that ends.
+
+scratch=$(mktemp -d "${TMPDIR:-/tmp}/tessarin.XXXXXX")
+started=()
+
+start_process() {
+    "$@" &
+    started+=($!)
+}
+
+end_started() {
+    local i
+    for ((i = ${#started[@]} - 1; i >= 0; --i)); do
+        kill "${started[i]}" 2>/dev/null || true
+        wait "${started[i]}" 2>/dev/null || true
+    done
+    rm -rf "$scratch"
+}
+trap end_started EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM HUP
+
+# wait_until <seconds> <what is waited for> <command...>: until the command succeeds.
+wait_until() {
+    local end=$((SECONDS + $1)) what=$2
+    shift 2
+    until "$@"; do
+        ((SECONDS < end)) || fail "no $what"
+        sleep 0.05
+    done
+}
+
+# start_display <width>x<height>: an X server on a free number with a small window manager.
+start_display() {
+    need xvfb jwm
+    start_process Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp \
+        3>"$scratch/number" 2>"$scratch/Xvfb.log"
+    wait_until 20 "virtual display" test -s "$scratch/number"
+    DISPLAY=:$(<"$scratch/number")
+    export DISPLAY
+    unset WAYLAND_DISPLAY
+    export XDG_RUNTIME_DIR=$scratch
+    cat >"$scratch/jwmrc" <<'END'
+<JWM>
+  <Desktops width="1"><Background type="solid">#5a6472</Background></Desktops>
+  <FocusModel>click</FocusModel>
+</JWM>
+END
+    start_process jwm -f "$scratch/jwmrc" >"$scratch/jwm.log" 2>&1
+}

@@ -1,0 +1,24 @@
+#!/bin/bash
+# Fuzzes the puzzle files and the player: fuzz.sh [seconds for each target]
+# What is found stays in build/fuzz/found.
+set -euo pipefail
+# shellcheck source=scripts/lib.sh
+source "$(dirname "$0")/lib.sh"
+
+seconds=${1:-180}
+need "${build_packages[@]}" clang libclang-rt-14-dev
+configure_and_build debug fuzz -DCMAKE_CXX_COMPILER=clang++ -DTESSARIN_FUZZ=ON \
+    -DTESSARIN_WINDOW=OFF -DBUILD_TESTING=OFF -DCMAKE_CXX_FLAGS="-O2 -fno-omit-frame-pointer \
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all"
+
+mkdir -p build/fuzz/found
+for target in build/fuzz/fuzz/fuzz_*; do
+    [[ -f $target && -x $target ]] || continue
+    name=${target##*/}
+    corpus=build/fuzz/corpus/$name
+    mkdir -p "$corpus"
+    echo "$name, $seconds s"
+    "$target" -max_total_time="$seconds" -timeout=30 -verbosity=0 -print_funcs=0 -print_final_stats=1 \
+        -dict=fuzz/puzzle.dict -artifact_prefix="build/fuzz/found/$name-" \
+        "$corpus" puzzles fuzz/seeds
+done

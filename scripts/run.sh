@@ -1,0 +1,45 @@
+#!/bin/bash
+# Builds the program and opens its window. On a machine without a display the window opens on a
+# virtual one that a VNC viewer can reach, and everything ends with the window.
+set -euo pipefail
+# shellcheck source=scripts/lib.sh
+source "$(dirname "$0")/lib.sh"
+
+need "${build_packages[@]}" "${window_packages[@]}"
+configure_and_build release run -DTESSARIN_BENCH=OFF -DBUILD_TESTING=OFF \
+    -DCMAKE_COMPILE_WARNING_AS_ERROR=OFF
+program=build/run/src/Tessarin
+
+if [[ ${WAYLAND_DISPLAY:-} ]]; then
+    need qt6-wayland
+    exec env QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-wayland;xcb}" "$program"
+fi
+if [[ ${DISPLAY:-} ]]; then
+    exec "$program"
+fi
+
+echo "There is no display here (neither DISPLAY nor WAYLAND_DISPLAY is set): starting a virtual one."
+# shellcheck source=scripts/display.sh
+source scripts/display.sh
+need x11vnc
+start_display 1024x640
+start_process x11vnc -norc -display "$DISPLAY" -localhost -noipv6 -no6 -autoport 5900 \
+    -flag "$scratch/port" -forever -shared -nopw -quiet >"$scratch/x11vnc.log" 2>&1
+wait_until 20 "VNC server" grep -qs PORT= "$scratch/port"
+port=$(sed -n 's/.*PORT=//p' "$scratch/port")
+cat <<END
+
+The window is on the virtual display $DISPLAY. To see it, open with a VNC viewer
+
+    localhost:$port
+
+or, from another machine, first open a tunnel to this one and leave it open
+
+    ssh -L $port:localhost:$port ${USER:-$(id -un)}@$(uname -n)
+
+and then open the same address there. Only this machine itself can reach the port, and there is no
+password. Closing the window or pressing Ctrl-C here ends everything that was started.
+
+END
+start_process "$program"
+wait "${started[-1]}"

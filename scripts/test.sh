@@ -1,0 +1,10 @@
+#!/bin/bash
+# Builds the program and its tests and runs them all, without a display.
+set -euo pipefail
+# shellcheck source=scripts/lib.sh
+source "$(dirname "$0")/lib.sh"
+
+need "${build_packages[@]}" "${window_packages[@]}" "${test_packages[@]}" \
+    "${packaging_packages[@]}"
+configure_and_build release test -DTESSARIN_BENCH=OFF
+run_tests test "$@"

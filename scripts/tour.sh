@@ -1,0 +1,129 @@
+#!/bin/bash
+# Walks through the real program with mouse and keys on a virtual display and leaves a picture of
+# every station in build/tour/.
+set -euo pipefail
+# shellcheck source=scripts/lib.sh
+source "$(dirname "$0")/lib.sh"
+# shellcheck source=scripts/display.sh
+source scripts/display.sh
+
+title='Velmora Sudoku Solver'
+menu_height=20 # the controls begin below the menu bar
+red=FF0000
+green=00FF00
+steel=2F5D8C
+solve=(545 281)
+info=(495 376)
+dead_end=(445 376)
+winner=(545 376)
+rotor=(707 357)
+pace_0=(616 284)
+pace_100=(616 308)
+
+# pixel <x> <y>: its colour, for a point of the window below the menu bar.
+pixel() {
+    import -window "$main" -crop "1x1+$1+$(($2 + menu_height))" -depth 8 rgb:- |
+        od -An -tx1 | tr -d ' \n' | tr a-f A-F
+}
+has_color() { [[ $(pixel "$1" "$2") == "$3" ]]; }
+
+# While a puzzle is being solved the rotor turns, and the indicators may come and go.
+solved_to() { has_color "$@" && ! has_color "${rotor[@]}" $steel; }
+
+click() {
+    xdotool mousemove --sync --window "$main" "$1" "$(($2 + menu_height))" click 1
+}
+
+# choose <menu from the left> <entry, separators left out>: by keyboard, whatever the fonts.
+choose() {
+    local keys=(Alt_L) i
+    for ((i = 1; i < $1; ++i)); do keys+=(Right); done
+    for ((i = 1; i <= $2; ++i)); do keys+=(Down); done
+    xdotool key --delay 30 "${keys[@]}" Return
+}
+
+# The visible window of the given title besides the main one.
+find_box() {
+    box=$(xdotool search --onlyvisible --name "^$1\$" | grep -vxF "${main:-none}" | head -n 1) &&
+        [[ $box ]]
+}
+box_gone() { ! find_box "$1"; }
+wait_for_box() { wait_until 10 "window \"$1\"" find_box "$1"; }
+answer_box() {
+    xdotool key Return
+    wait_until 10 "end of window \"$1\"" box_gone "$1"
+}
+
+# take <name>: everything on the screen, without the empty desktop around it.
+take() {
+    sleep 0.3 # the last change is painted
+    import -window root png:- | convert - -trim +repage "build/tour/$1.png"
+    echo "build/tour/$1.png"
+}
+
+# import_puzzle <name> [picture of the dialog]
+import_puzzle() {
+    choose 1 1
+    wait_for_box 'Import File'
+    xdotool type --delay 5 "$HOME/$1.csv"
+    [[ -z ${2:-} ]] || take "$2"
+    xdotool key Return
+    wait_until 10 'end of the file dialog' box_gone 'Import File'
+    sleep 0.5
+}
+
+need "${build_packages[@]}" "${window_packages[@]}" xdotool imagemagick
+configure_and_build release run -DTESSARIN_BENCH=OFF -DBUILD_TESTING=OFF
+mkdir -p build/tour
+rm -f build/tour/*.png
+program=$PWD/build/run/src/Tessarin
+start_display 1280x960
+export HOME=$scratch XDG_CONFIG_HOME=$scratch # the file dialog keeps its state there
+cp puzzles/hard-1.csv puzzles/dead-end.csv "$HOME"
+
+start_process env --chdir="$HOME" QT_QPA_PLATFORM=xcb "$program"
+wait_until 20 'main window' find_box "$title"
+main=$box
+xdotool windowactivate --sync "$main"
+take 01-start
+
+import_puzzle hard-1 02-import-dialog
+take 03-imported
+
+choose 3 1
+wait_for_box "$title"
+take 04-freedom
+answer_box "$title"
+
+choose 3 3
+wait_for_box "$title"
+take 05-neighbours
+answer_box "$title"
+
+click "${info[@]}"
+click "${pace_100[@]}"
+click "${solve[@]}"
+sleep 4
+has_color "${winner[@]}" $green && fail 'the puzzle was solved without a pause'
+take 06-solving
+click "${pace_0[@]}"
+wait_until 120 'solution' solved_to "${winner[@]}" $green
+take 07-solved
+
+import_puzzle dead-end
+click "${solve[@]}"
+wait_until 120 'dead end' solved_to "${dead_end[@]}" $red
+take 08-dead-end
+click "${dead_end[@]}"
+wait_for_box "$title"
+take 09-dead-end-box
+answer_box "$title"
+
+choose 4 1
+wait_for_box 'About Tessarin'
+take 10-about
+answer_box 'About Tessarin'
+
+choose 1 3
+window_closed() { ! kill -0 "${started[-1]}" 2>/dev/null; }
+wait_until 10 'end of the program' window_closed

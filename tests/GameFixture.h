@@ -1,0 +1,185 @@
+#pragma once
+
+#include "ScriptedPlatform.h"
+#include "model/Errors.h"
+#include "play/Game.h"
+#include "support/modStringLibrary.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tessarin {
+
+/// A full grid of dimension 3 that keeps the rules.
+inline const std::string FullCells =
+    "123456789456789123789123456234567891567891234891234567345678912678912345912345678";
+
+/// Numbers as text, with a blank between them.
+template <class Numbers>
+std::string Text(const Numbers& numbers) {
+    std::string text;
+    for (const int number : numbers)
+        text += std::to_string(number) + " ";
+    return text.substr(0, text.size() - (text.empty() ? 0 : 1));
+}
+
+/// The kind of error that `action` ends with, "" for none.
+template <class Action>
+std::string ErrorOf(Action action) try {
+    action();
+    return "";
+} catch (const TypeMismatchError&) {
+    return "type mismatch ";
+} catch (const DuplicateKeyError&) {
+    return "duplicate key ";
+} catch (const std::out_of_range&) {
+    return "out of range ";
+} catch (const std::overflow_error&) {
+    return "overflow ";
+}
+
+/// A game on a scripted machine, worked by lines of text.
+class TestGame {
+public:
+    ScriptedPlatform platform;
+    Game game;
+    Fields& grid = *game.Fields;
+    Play& play = *game.Play;
+
+    TestGame() {
+        auto& events = grid.Events;
+        Listen(events.BeforeIndexChanged, "BeforeIndexChanged");
+        Listen(events.IndexChanged, "IndexChanged");
+        Listen(events.StatusChanged, "StatusChanged");
+        Listen(events.IsWinner, "IsWinner");
+        Listen(events.IsDeadEnd, "IsDeadEnd");
+        mConnections.push_back(events.Init.Connect([this] { mTold += "Init "; }));
+    }
+
+    Field& At(int index) { return *grid.Items.Item(index); }
+
+    /// Lets what the event tells be told under this name.
+    void Listen(Event<int>& event, const std::string& name) {
+        mConnections.push_back(event.Connect(
+            [this, name](int index) { mTold += name + "(" + std::to_string(index) + ") "; }));
+    }
+
+    /// Executes one of mCommands and returns what it tells: its error, the events in order, its
+    /// result, beeps and boxes, and the history in brackets when it has changed.
+    std::string Do(const std::string& line) {
+        std::istringstream words(line);
+        std::string command, text;
+        std::getline(words >> command >> std::ws, text);
+        mTold.clear();
+        platform.TakeCalls();
+        const std::string before = History();
+        std::string told = ErrorOf([&] { mCommands.at(command)(std::atoi(text.c_str()), text); });
+        told += mTold + platform.TakeCalls();
+        if (History() != before) told.append("[").append(History()).append("] ");
+        return told.substr(0, told.size() - (told.empty() ? 0 : 1));
+    }
+
+    /// Executes each step of the script, one a line or separated by " & ", up to its " > " and
+    /// compares what it tells with the rest. A step without " > " may tell anything.
+    void Script(const std::string& script) {
+        std::istringstream steps(ReplaceAll(script, " & ", "\n"));
+        for (std::string step; std::getline(steps >> std::ws, step);) {
+            const auto end = std::min(step.find(" >"), step.size());
+            const std::string told = Do(step.substr(0, end));
+            if (end == step.size()) continue;
+            EXPECT_EQ(told, step.substr(std::min(end + 3, step.size()))) << step;
+        }
+    }
+
+    /// Compares what the grid says of itself with a count of its fields.
+    void ExpectRightStatus() {
+        int free = 0, locked = 0, set = 0, next = 0, least = grid.Numbers() + 1;
+        std::vector<int> dead;
+        for (const auto& field : grid.Items) {
+            locked += field->Locked() ? 1 : 0;
+            set += field->Value() != 0 && !field->Locked() ? 1 : 0;
+            if (field->Value() != 0) continue;
+            ++free;
+            std::vector<bool> taken(256);
+            for (const int i : field->Neighbours)
+                taken[static_cast<std::uint8_t>(At(i).Value())] = true;
+            const auto first = taken.begin() + 1;
+            const int freedom = static_cast<int>(std::count(first, first + grid.Numbers(), false));
+            if (freedom == 0) dead.push_back(field->Index);
+            if (freedom > 0 && freedom < least) next = field->Index;
+            if (freedom > 0) least = std::min(least, freedom);
+        }
+        EXPECT_EQ(Text(std::vector{grid.FreeCount(), grid.LockedCount(), grid.SetCount()}),
+                  Text(std::vector{free, locked, set}));
+        EXPECT_EQ(grid.NextFreeField(), next);
+        EXPECT_EQ(grid.IsWinner(), free == 0);
+        EXPECT_EQ(grid.IsDeadEnd(), !dead.empty());
+        EXPECT_EQ(grid.DeadField(), dead.empty() ? 0 : dead[0]);
+        EXPECT_EQ(Text(*grid.DeadFields), Text(dead));
+    }
+
+protected:
+    std::string History() const { return play.History ? Text(*play.History) : "none"; }
+    void Tell(const std::string& result) { mTold += result.empty() ? "" : result + " "; }
+
+    // The values of `cells`, "." for none and none after its end, without telling.
+    void Fill(const std::string& cells) {
+        for (const auto& field : grid.Items) {
+            const auto i = static_cast<std::size_t>(field->Index) - 1;
+            field->SetValue(i < cells.size() && cells[i] != '.' ? cells[i] - '0' : 0);
+        }
+        grid.Status();
+        mTold.clear();
+    }
+    void Trace(const std::string& history) {
+        play.Reset();
+        play.SetTracing(true);
+        std::istringstream words(history);
+        for (int index = 0; words >> index;)
+            play.History->Add(index);
+    }
+    // The second number of `text`.
+    static int Second(const std::string& text) { return std::atoi(text.c_str() + text.find(' ')); }
+
+    // Each with the first number and the whole text of its arguments.
+    std::map<std::string, std::function<void(int, const std::string&)>> mCommands = {
+        {"fill", [&](int, auto& cells) { Fill(cells); }},
+        {"index", [&](int i, auto&) { grid.SetIndex(i); }},
+        {"set", [&](int i, auto& text) { At(i).SetValue(Second(text)); }},
+        {"lock", [&](int i, auto& text) { At(i).SetLocked(Second(text) == 1); }},
+        {"free", [&](int i, auto&) { Tell(At(i).FreeValuesList()); }},
+        {"raise", [&](int i, auto&) { Tell(std::to_string(At(i).NextFreeValue(true))); }},
+        {"init", [&](int dimension, auto&) { Tell(grid.Init(dimension)); }},
+        {"clear", [&](int freeOnly, auto&) { grid.Clear(freeOnly == 1); }},
+        {"lockall", [&](int state, auto&) { grid.SetLockAll(state == 1); }},
+        {"status", [&](int, auto&) { Tell(std::to_string(grid.Status())); }},
+        {"csv", [&](int, auto& text) { grid.SetTextCSV(ReplaceAll(text, "|", "\r\n")); }},
+        {"sdk", [&](int, auto& text) { grid.SetTextSDK(ReplaceAll(text, "|", "\r\n")); }},
+        {"is", [&](int, auto&) { Tell(ReplaceAll(grid.TextCSV(), "\r\n", "|").substr(18)); }},
+        {"trace", [&](int, auto& history) { Trace(history); }},
+        {"tracing", [&](int on, auto&) { play.SetTracing(on == 1); }},
+        {"reset", [&](int, auto&) { play.Reset(); }},
+        {"value", [&](int value, auto&) { play.SetValue(value); }},
+        {"auto", [&](int value, auto&) { play.SetValue(value, true); }},
+        {"next", [&](int set, auto&) { Tell(std::to_string(play.NextFreeValue(set == 1))); }},
+        {"goto", [&](int fill, auto&) { play.GotoNextFreeField(fill == 1); }},
+        {"back", [&](int fill, auto&) { play.GoBack(fill == 1); }},
+        {"retreat", [&](int fill, auto&) { Tell(play.GoBackToFreedom(fill == 1) ? "T" : "F"); }},
+        {"playlock", [&](int, auto&) { play.SetLocked(!play.Locked()); }},
+        {"solve", [&](int, auto&) { play.Solve(); }},
+    };
+
+    std::string mTold;
+
+private:
+    std::vector<Connection> mConnections;
+};
+
+class GameFixture : public testing::Test, protected TestGame {};
+
+} // namespace tessarin

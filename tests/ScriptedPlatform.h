@@ -1,0 +1,83 @@
+#pragma once
+
+#include "platform/NullPlatform.h"
+
+#include <deque>
+#include <functional>
+#include <sstream>
+#include <string>
+#include <utility>
+
+namespace tessarin {
+
+/// A machine that does what a test tells it and remembers what was asked of it. It is the current
+/// platform for its lifetime.
+class ScriptedPlatform : public NullPlatform {
+public:
+    ScriptedPlatform() : mPrevious(Platform::SetCurrent(this)) {}
+    ~ScriptedPlatform() override { Platform::SetCurrent(mPrevious); }
+
+    int Pumps = 0;
+    std::deque<bool> Esc;     ///< the next answers to EscPressed; not pressed after them
+    std::deque<bool> Answers; ///< to the next questions, Yes or No; No after them
+    DateTime Time;
+    std::string Folder;
+    VersionRecord Program;
+    int WindowStyle = 0;
+
+    /// Runs `action` inside the n-th pump from now, once.
+    void AtPump(int n, std::function<void()> action) {
+        mPumpOfAction = Pumps + n;
+        mAction = std::move(action);
+    }
+
+    /// Beeps, sleeps, boxes and window-style calls since the last call of this, in order.
+    std::string TakeCalls() { return std::exchange(mCalls, ""); }
+
+    void PumpEvents() override {
+        if (++Pumps == mPumpOfAction && mAction) std::exchange(mAction, nullptr)();
+    }
+    void Sleep(int milliseconds) override { Note("Sleep", milliseconds); }
+    bool EscPressed() override { return Next(Esc); }
+    Message::Answer ShowMessage(const Message& box) override {
+        const bool yesNo = box.ButtonSet == Message::Buttons::YesNo;
+        Note("Box", box.Prompt, box.Title, yesNo ? "YesNo" : "Ok", box.QuestionIcon ? "?" : "-");
+        if (!yesNo) return Message::Answer::Ok;
+        return Next(Answers) ? Message::Answer::Yes : Message::Answer::No;
+    }
+    void Beep() override { mCalls += "Beep "; }
+    std::string ProgramFolder() override { return Folder; }
+    VersionRecord Version() override { return Program; }
+    DateTime Now() override { return Time; }
+    int GetDesktopWindow() override { return 77; }
+    void LockWindowUpdate(int handle) override { Note("Lock", handle); }
+    void ShowWindow(int handle, int command) override { Note("Show", handle, command); }
+    int GetWindowLongA(int handle, int index) override {
+        Note("Get", handle, index);
+        return WindowStyle;
+    }
+    void SetWindowLongA(int handle, int index, int value) override {
+        Note("Set", handle, index, value);
+    }
+
+private:
+    static bool Next(std::deque<bool>& script) {
+        const bool next = !script.empty() && script.front();
+        if (!script.empty()) script.pop_front();
+        return next;
+    }
+    template <class First, class... Rest>
+    void Note(const char* call, const First& first, const Rest&... rest) {
+        std::ostringstream text;
+        text << call << '(' << first;
+        ((text << '|' << rest), ...);
+        mCalls += text.str() + ") ";
+    }
+
+    Platform* mPrevious;
+    int mPumpOfAction = 0;
+    std::function<void()> mAction;
+    std::string mCalls;
+};
+
+} // namespace tessarin

@@ -1,0 +1,178 @@
+// The automatic solve as the user sees it: pace, disabled panels, ESC and the busy indicator.
+#include "WindowFixture.h"
+
+#include "support/modKbd.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTest>
+
+namespace tessarin {
+namespace {
+
+class SolveWindowTest : public WindowTest {
+protected:
+    // Four fields are empty.
+    SolveWindowTest() { Import(TESSARIN_PUZZLES "/nearly-complete.csv"); }
+
+    // Runs `step` at each change of a field, after the window has answered it.
+    Connection AtEachChange(std::function<void(int)> step) {
+        return goGame->Events.StatusChanged.Connect(std::move(step));
+    }
+    bool IsIdle() {
+        return window.fraAction.Enabled() && window.fraNumPad.Enabled() &&
+               !window.ctlRotor1.Running() && QApplication::overrideCursor() == nullptr;
+    }
+    // What the system tells of the key, with its time in milliseconds.
+    void Esc(QWidget& top, QEvent::Type type, quint64 time, bool repeat = false) {
+        QKeyEvent event(type, Qt::Key_Escape, {}, {}, repeat);
+        event.setTimestamp(time);
+        QCoreApplication::sendEvent(top.windowHandle(), &event);
+    }
+};
+
+TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
+    Click("btnInfo");
+    // A pause for each of the two fields of a cursor move and for the value.
+    using Row = std::pair<int, std::vector<int>>;
+    for (const auto& [option, pauses] :
+         {Row{0, {}}, Row{1, {}}, Row{2, std::vector(12, 100)}, Row{5, std::vector(12, 800)}}) {
+        Import(TESSARIN_PUZZLES "/nearly-complete.csv");
+        Click(window.optChill(option).Name());
+        spy.Sleeps.clear();
+        int painted = 0;
+        const auto connection =
+            AtEachChange([&](int index) { painted += !window.lblField(index).Caption().empty(); });
+        Click("btnSolve");
+        EXPECT_EQ(painted, option == 0 ? 0 : 4);
+        EXPECT_EQ(spy.Sleeps, pauses);
+        for (int k = 1; k <= 81; ++k)
+            EXPECT_EQ(window.lblField(k).Caption(), std::to_string(At(k).Value())) << k;
+        EXPECT_EQ(window.lblField(Grid().Index()).BackColor(), GreenColor);
+        EXPECT_EQ(window.lblWinner.BackColor(), GreenColor);
+        EXPECT_TRUE(IsIdle());
+    }
+    Click("btnGoBack");
+    EXPECT_EQ(window.lblWinner.BackColor(), Normal);
+}
+
+TEST_F(SolveWindowTest, StepMakesOneCycleForEachClick) {
+    Click("btnInfo");
+    Click("optChill(6)");
+    for (int left = 3; left >= 0; --left) {
+        Click("btnSolve");
+        EXPECT_EQ(Grid().FreeCount(), left);
+        EXPECT_TRUE(IsIdle());
+    }
+}
+
+TEST_F(SolveWindowTest, WhileItRunsThePanelsAreDeadAndAllElseAnswers) {
+    Click("btnInfo");
+    Click("optChill(2)");
+    int changes = 0;
+    const auto connection = AtEachChange([&](int) {
+        if (++changes > 1) return;
+        ASSERT_NE(QApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        for (const char* const name : {"btnInfo", "btnGoBack", "lblDeadEnd", "btnNumPad(11)"})
+            Click(name);
+        EXPECT_EQ(window.Width(), 11625);
+        EXPECT_EQ(Grid().FreeCount(), 3);
+        EXPECT_FALSE(form->close());
+        EXPECT_TRUE(Menu("mnuFileQuit"));
+        EXPECT_TRUE(form->isVisible());
+        ClickField(1);
+        EXPECT_EQ(Grid().Index(), 1);
+        Answer(QMessageBox::Ok, [] { EXPECT_EQ(QApplication::overrideCursor(), nullptr); });
+        EXPECT_TRUE(Menu("mnuAbout"));
+        EXPECT_NE(QApplication::overrideCursor(), nullptr);
+        Click("optChill(0)"); // quiet from here on
+        spy.Sleeps.clear();
+    });
+    Click("btnSolve");
+    EXPECT_EQ(changes, 4);
+    EXPECT_TRUE(spy.Sleeps.empty());
+    EXPECT_TRUE(IsIdle());
+    EXPECT_TRUE(Menu("mnuFileQuit"));
+    EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(SolveWindowTest, EscAsksAndOnlyYesEndsTheSolve) {
+    int changes = 0;
+    const auto connection = AtEachChange([&](int) {
+        if (++changes <= 2) Key(Qt::Key_Escape);
+    });
+    Answer(QMessageBox::No);
+    Answer(QMessageBox::Yes);
+    Click("btnSolve");
+    EXPECT_EQ(changes, 2);
+    EXPECT_TRUE(IsIdle());
+    EXPECT_EQ(Boxes, QStringList(2, "ESC gedrückt: Abbrechen? [No Yes]"));
+    Click("btnSolve"); // the confirmed cancel is forgotten
+    EXPECT_TRUE(Grid().IsWinner());
+}
+
+TEST_F(SolveWindowTest, OnlyAnEscThatClosesNothingAsks) {
+    CancelDialog();
+    ASSERT_TRUE(Menu("mnuFileExportCSV"));
+    CancelDialog();
+    ASSERT_TRUE(Menu("mnuEditClearAll"));
+    Click(MenuBar(), {10, 5});
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    Key(Qt::Key_Escape); // leaves the menu bar
+    EXPECT_FALSE(CancelRequested());
+    Key(Qt::Key_Escape);
+    Answer(QMessageBox::Yes);
+    Click("btnSolve");
+    EXPECT_EQ(Boxes.size(), 2);
+    EXPECT_EQ(Grid().FreeCount(), 4);
+}
+
+TEST_F(SolveWindowTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
+    Esc(*form, QEvent::KeyPress, 1000);
+    bool staysOpen = false;
+    Answer(QMessageBox::Yes, [&] {
+        QWidget& box = *QApplication::activeModalWidget();
+        // The first repeat after the focus has changed is not marked as one.
+        for (const quint64 time : {1600U, 1630U, 1660U}) {
+            Esc(box, QEvent::KeyRelease, time, time > 1600);
+            Esc(box, QEvent::KeyPress, time, time > 1600);
+        }
+        staysOpen = box.isVisible();
+        Esc(box, QEvent::KeyRelease, 1700);
+    });
+    Click("btnSolve");
+    EXPECT_TRUE(staysOpen);
+    EXPECT_EQ(Grid().FreeCount(), 4);
+}
+
+TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
+    const auto visible = [this] {
+        QList<int> pictures;
+        for (int i = 0; i < 12; ++i)
+            if (!Widget("Image1(" + std::to_string(i) + ")").isHidden()) pictures << i;
+        return pictures;
+    };
+    EXPECT_TRUE(visible().empty());
+    for (const int pictures : {5, 14}) { // the second time a running rotor starts anew
+        window.ctlRotor1.SetRunning(true);
+        auto last = visible();
+        for (int seen = 0, picture = 0; seen < pictures; QTest::qWait(1)) {
+            if (visible() == last) continue;
+            last = visible();
+            ASSERT_EQ(last.size(), 1);
+            // On a busy machine one tick may come inside another, which skips a picture.
+            EXPECT_LE((last[0] - picture + 12) % 12, 3);
+            picture = last[0];
+            ++seen;
+        }
+    }
+    window.ctlRotor1.SetRunning(false);
+    EXPECT_TRUE(visible().empty());
+    EXPECT_TRUE(IsIdle());
+}
+
+} // namespace
+} // namespace tessarin

@@ -1,0 +1,165 @@
+#include "WindowFixture.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+
+#include <cmath>
+#include <map>
+
+namespace tessarin {
+
+namespace {
+
+constexpr int LookMilliseconds = 20;
+
+std::string NameOf(Color color) {
+    const std::map<Color, std::string> names{
+        {Normal, "normal"}, {SystemColor(18), "text"}, {RedColor, "red"}, {GreenColor, "green"}};
+    return color == 0xFFFF ? "yellow" : names.contains(color) ? names.at(color) : "?";
+}
+
+} // namespace
+
+void SpyPlatform::PumpEvents() {
+    if (AtPump) AtPump();
+    mBelow.PumpEvents();
+}
+
+void SpyPlatform::Sleep(int milliseconds) {
+    Sleeps.push_back(milliseconds);
+    if (ReallySleeps) mBelow.Sleep(milliseconds);
+}
+
+void SpyPlatform::SetWindowLongA(int handle, int index, int value) {
+    Styles.push_back(value);
+    mBelow.SetWindowLongA(handle, index, value);
+}
+
+WindowTest::WindowTest() {
+    Unexpected = [this](QDialog& dialog) {
+        ADD_FAILURE() << "unexpected box after " << Boxes.join("; ").toStdString();
+        dialog.reject();
+    };
+    QObject::connect(&mEyes, &QTimer::timeout, [this] { LookForBox(); });
+    mEyes.start(LookMilliseconds);
+    window.Show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+}
+
+void WindowTest::Click(QWidget& widget, QPoint where, Qt::MouseButton button) {
+    QWidget* const top = widget.window();
+    QTest::mouseClick(top->windowHandle(), button, {}, widget.mapTo(top, where));
+}
+
+void WindowTest::Key(Qt::Key key) {
+    // As between two strokes of a hand; without the pause the second one counts as a repeat.
+    QTest::qWait(LookMilliseconds);
+    QWidget* top = QApplication::activePopupWidget();
+    if (top == nullptr) top = QApplication::activeModalWidget();
+    QTest::keyClick((top == nullptr ? form : top)->windowHandle(), key);
+}
+
+bool WindowTest::Menu(const QString& entry) {
+    for (QAction* const action : MenuBar().actions())
+        if (action->objectName() == entry)
+            Click(MenuBar(), MenuBar().actionGeometry(action).center());
+    for (QMenu* const menu : MenuBar().findChildren<QMenu*>())
+        for (QAction* const action : menu->actions()) {
+            if (action->objectName() != entry) continue;
+            Menu(menu->menuAction()->objectName());
+            if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 500)) return false;
+            Click(*menu, menu->actionGeometry(action).center());
+            return true;
+        }
+    return false;
+}
+
+void WindowTest::Import(const QString& path) {
+    ChooseFile(path);
+    EXPECT_TRUE(Menu("mnuFileImportCSV"));
+}
+
+void WindowTest::Answer(QMessageBox::StandardButton button, std::function<void()> whileOpen) {
+    mAnswers.emplace_back([this, button, whileOpen = std::move(whileOpen)](QDialog& dialog) {
+        if (whileOpen) whileOpen();
+        auto* const box = qobject_cast<QMessageBox*>(&dialog);
+        if (box == nullptr || box->button(button) == nullptr) return Unexpected(dialog);
+        Click(*box->button(button), {5, 5});
+    });
+}
+
+void WindowTest::ChooseFile(const QString& path) {
+    mAnswers.emplace_back([this, path](QDialog& dialog) {
+        auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
+        if (name == nullptr) return Unexpected(dialog);
+        name->setText(path);
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+}
+
+void WindowTest::CancelDialog() {
+    mAnswers.emplace_back([this](QDialog&) { Key(Qt::Key_Escape); });
+}
+
+void WindowTest::LookForBox() {
+    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || dialog == mSeen) return;
+    mSeen = dialog;
+    mEyes.start(); // or it would not look again before the answer has ended
+    if (auto* const box = qobject_cast<QMessageBox*>(dialog)) {
+        QStringList buttons(box->icon() == QMessageBox::Question ? QStringList("?")
+                                                                 : QStringList());
+        for (const auto* const button : box->buttons())
+            buttons << button->text().remove('&');
+        buttons.sort();
+        Boxes << box->windowTitle() + ": " + box->text() + " [" + buttons.join(' ') + "]";
+    }
+    if (mAnswers.empty()) return Unexpected(*dialog);
+    const auto answer = std::move(mAnswers.front());
+    mAnswers.pop_front();
+    answer(*dialog);
+}
+
+QWidget& WindowTest::Widget(const std::string& name) {
+    auto* const widget = form->findChild<QWidget*>(QString::fromStdString(name));
+    if (widget == nullptr) throw std::invalid_argument("no control " + name);
+    return *widget;
+}
+
+std::string WindowTest::Shows(int index) {
+    const Label& label = window.lblField(index);
+    const auto& [name, size, italic] = label.Font();
+    const std::string look =
+        label.Caption() + " " + NameOf(label.BackColor()) + "/" + NameOf(label.ForeColor());
+    if (name == "Arial Black" && size == 20 && !italic) return look;
+    return look + " " + name + " " + std::to_string(std::lround(size)) + (italic ? " italic" : "");
+}
+
+std::vector<int> WindowTest::YellowFields() {
+    std::vector<int> fields;
+    for (int k = 1; k <= 81; ++k)
+        if (NameOf(window.lblField(k).BackColor()) == "yellow") fields.push_back(k);
+    return fields;
+}
+
+void WindowTest::Enter(int first, const std::vector<int>& values) {
+    for (std::size_t i = 0; i < values.size(); ++i)
+        if (values[i] != 0) At(first + static_cast<int>(i)).SetValue(values[i]);
+}
+
+void WindowTest::MakeFieldOneDead() {
+    Enter(2, {1, 2, 3, 4, 5, 6, 7, 8});
+    Enter(11, {9});
+}
+
+QString WindowTest::File(const QString& name, const QByteArray& content) {
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    return file.fileName();
+}
+
+} // namespace tessarin
