@@ -13,7 +13,9 @@ namespace {
 constexpr int Empty = 0;
 constexpr int HalfFull = 1;
 
-std::string Puzzle(const std::string& name) { return ReadTextFile(PUZZLES + name + ".csv"); }
+std::string Puzzle(const std::string& name) {
+    return ReadTextFile(PUZZLES + name + ".csv");
+}
 
 // Fills every second field of a solved grid of the current dimension.
 void FillHalf(Fields& grid) {
@@ -40,9 +42,7 @@ void StatusPass(benchmark::State& state) {
         benchmark::DoNotOptimize(grid.Status());
     }
 }
-BENCHMARK(StatusPass)
-    ->ArgNames({"dimension", "half"})
-    ->ArgsProduct({{3, 5, 7}, {Empty, HalfFull}});
+BENCHMARK(StatusPass)->ArgNames({"dimension", "half"})->ArgsProduct({{3, 5, 7}, {Empty, HalfFull}});
 
 void StatusPassYardstick(benchmark::State& state) {
     Game game;
@@ -65,7 +65,8 @@ void Freedom(benchmark::State& state) {
     Game game;
     Prepare(*game.Fields, state);
     const auto field = game.Fields->Items.Item(41);
-    for (auto _ : state) benchmark::DoNotOptimize(field->Freedom());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(field->Freedom());
 }
 BENCHMARK(Freedom)->ArgNames({"dimension", "half"})->Args({3, HalfFull})->Args({5, HalfFull});
 
@@ -73,7 +74,8 @@ void FreeValues(benchmark::State& state) {
     Game game;
     Prepare(*game.Fields, state);
     const auto field = game.Fields->Items.Item(41);
-    for (auto _ : state) benchmark::DoNotOptimize(field->FreeValues());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(field->FreeValues());
 }
 BENCHMARK(FreeValues)->ArgNames({"dimension", "half"})->Args({3, HalfFull})->Args({5, HalfFull});
 
@@ -102,7 +104,8 @@ void SolveMoves(benchmark::State& state) {
         game.Fields->Init(static_cast<int>(state.range(0)));
         game.Play->Reset();
         state.ResumeTiming();
-        for (moves = 0; moves < 40; ++moves) game.Play->GotoNextFreeField(true);
+        for (moves = 0; moves < 40; ++moves)
+            game.Play->GotoNextFreeField(true);
     }
     state.SetItemsProcessed(state.iterations() * moves);
 }
@@ -111,7 +114,8 @@ BENCHMARK(SolveMoves)->ArgName("dimension")->Arg(3)->Arg(5)->Arg(7);
 void LoadCSV(benchmark::State& state) {
     Game game;
     const std::string text = Puzzle("hard-1");
-    for (auto _ : state) game.Fields->SetTextCSV(text);
+    for (auto _ : state)
+        game.Fields->SetTextCSV(text);
 }
 BENCHMARK(LoadCSV);
 
@@ -119,7 +123,8 @@ void LoadSDK(benchmark::State& state) {
     Game game;
     game.Fields->SetTextCSV(Puzzle("hard-1"));
     const std::string text = game.Fields->TextSDK();
-    for (auto _ : state) game.Fields->SetTextSDK(text);
+    for (auto _ : state)
+        game.Fields->SetTextSDK(text);
 }
 BENCHMARK(LoadSDK);
 

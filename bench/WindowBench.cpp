@@ -75,7 +75,8 @@ void BarePumps(benchmark::State& state, const char* puzzle) {
     const int pumps = PumpsOfSolve(puzzle);
     Window window;
     for (auto _ : state)
-        for (int i = 0; i < pumps; ++i) PumpEvents();
+        for (int i = 0; i < pumps; ++i)
+            PumpEvents();
     state.SetItemsProcessed(state.iterations() * pumps);
 }
 BENCHMARK_CAPTURE(BarePumps, easy, "easy-1")->Unit(benchmark::kMillisecond);
@@ -99,7 +100,8 @@ void RefreshAll(benchmark::State& state, bool changing) {
     for (auto _ : state) {
         if (changing) {
             state.PauseTiming();
-            for (int k = 1; k <= 81; ++k) window.Form.lblField(k).SetBackColor(Yellow);
+            for (int k = 1; k <= 81; ++k)
+                window.Form.lblField(k).SetBackColor(Yellow);
             PumpEvents();
             state.ResumeTiming();
         }

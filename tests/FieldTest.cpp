@@ -12,6 +12,7 @@ TEST_F(FieldTest, NeighboursComeRowColumnBox) {
     Field alone;
     alone.SetValue(3);
     EXPECT_EQ(alone.FreeValuesList(), "1;2;3;4;5;6;7;8;9;");
+    EXPECT_EQ(alone.NextFreeValue(), 4);
 }
 
 TEST_F(FieldTest, FreeValuesAndTheNextOfThem) {

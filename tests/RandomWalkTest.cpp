@@ -23,7 +23,7 @@ TEST_F(RandomWalkTest, WhatAlwaysHolds) {
         {"goto", 2},   {"back", 2},    {"solve", 1},    {"solve", 1},
         {"next", 2},   {"auto", 1},    {"retreat", 2},  {"clear", 40},
         {"csv", 1},    {"tracing", 2}, {"playlock", 1}, {"lockall", 2}};
-    for (int step = 0; step < 1500 && !HasFailure(); ++step) {
+    for (int step = 0; step < 1000 && !HasFailure(); ++step) {
         const auto& [move, count] = moves[random() % std::size(moves)];
         const std::string argument = std::to_string(random() % count), all = grid.TextCSV(true);
         SCOPED_TRACE("step " + std::to_string(step) + ": " + move + " " + argument);

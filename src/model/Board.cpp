@@ -11,7 +11,9 @@ namespace {
 Board* theBoard = nullptr;
 }
 
-Board::Board() { theBoard = this; }
+Board::Board() {
+    theBoard = this;
+}
 
 Board::~Board() {
     if (theBoard == this) theBoard = nullptr;

@@ -27,7 +27,8 @@ void Field::SetLocked(bool MyLocked) {
 
 void Field::GroupAdd(const Group& Grp) {
     InGroups.Add(Grp.Index);
-    for (const int index : Grp.Fields) Neighbours.TryAdd(index);
+    for (const int index : Grp.Fields)
+        Neighbours.TryAdd(index);
 }
 
 ValueBits Field::FreeBits(int word) const {
@@ -52,13 +53,15 @@ KeyedNumbers Field::FreeValues() const {
 int Field::Freedom() const {
     const int words = WordCount(Board::Current().Fields->Numbers());
     int freedom = 0;
-    for (int word = 0; word < words; ++word) freedom += std::popcount(FreeBits(word));
+    for (int word = 0; word < words; ++word)
+        freedom += std::popcount(FreeBits(word));
     return freedom;
 }
 
 std::string Field::FreeValuesList() const {
     std::string list;
-    for (const int value : FreeValues()) list += std::to_string(value) + ";";
+    for (const int value : FreeValues())
+        list += std::to_string(value) + ";";
     return list;
 }
 

@@ -20,7 +20,9 @@ int Square(int side) {
 
 } // namespace
 
-Fields::Fields() { Init(3); }
+Fields::Fields() {
+    Init(3);
+}
 
 std::string Fields::Init(int MyDimension) {
     const Silence silence(*this);
@@ -99,9 +101,13 @@ int Fields::DeadField() {
     return mlDeadField;
 }
 
-int Fields::DeadCount() const { return DeadFields ? DeadFields->Count() : 0; }
+int Fields::DeadCount() const {
+    return DeadFields ? DeadFields->Count() : 0;
+}
 
-int Fields::Index() const { return Cursor ? Cursor->Index : 0; }
+int Fields::Index() const {
+    return Cursor ? Cursor->Index : 0;
+}
 
 void Fields::SetIndex(int MyIndex) {
     if (!Cursor && MyIndex < 1) return;
@@ -122,9 +128,13 @@ void Fields::SetIndex(int MyIndex) {
     PumpEvents();
 }
 
-int Fields::Count() const { return Square(Numbers()); }
+int Fields::Count() const {
+    return Square(Numbers());
+}
 
-int Fields::Numbers() const { return Square(mlDimension); }
+int Fields::Numbers() const {
+    return Square(mlDimension);
+}
 
 void Fields::FieldChanged(int ThisIndex) {
     MarkDirty();
@@ -151,7 +161,8 @@ void Fields::UpdateStatus() {
     const auto changes = mlChanges;
     Counts counts = CountFields();
     Platform& platform = Platform::Current();
-    for (int i = Items.Count(); i > 0; --i) platform.PumpEvents();
+    for (int i = Items.Count(); i > 0; --i)
+        platform.PumpEvents();
     if (!mbDirty) return; // a read in the middle of the pumping has brought the status up to date
     if (mlChanges != changes) counts = CountFields();
     TakeOver(std::move(counts));

@@ -7,7 +7,9 @@ namespace tessarin {
 
 namespace {
 
-Fields& Grid() { return *Board::Current().Fields; }
+Fields& Grid() {
+    return *Board::Current().Fields;
+}
 
 } // namespace
 
@@ -23,7 +25,8 @@ void Groups::AddRowGroups() {
     const int n = Grid().Numbers();
     for (int r = 1; r <= n; ++r) {
         const auto group = NewGroup(Group::Horizontal);
-        for (int c = 1; c <= n; ++c) group->Fields.Add((r - 1) * n + c);
+        for (int c = 1; c <= n; ++c)
+            group->Fields.Add((r - 1) * n + c);
         RegisterGroup(group);
     }
 }
@@ -32,7 +35,8 @@ void Groups::AddColumnGroups() {
     const int n = Grid().Numbers();
     for (int c = 1; c <= n; ++c) {
         const auto group = NewGroup(Group::Vertical);
-        for (int r = 1; r <= n; ++r) group->Fields.Add((r - 1) * n + c);
+        for (int r = 1; r <= n; ++r)
+            group->Fields.Add((r - 1) * n + c);
         RegisterGroup(group);
     }
 }
@@ -40,7 +44,8 @@ void Groups::AddColumnGroups() {
 void Groups::AddBoxGroups() {
     const int d = Grid().Dimension();
     for (int i = 1; i <= d; ++i)
-        for (int j = 1; j <= d; ++j) AddBoxGroup((i - 1) * d, (j - 1) * d);
+        for (int j = 1; j <= d; ++j)
+            AddBoxGroup((i - 1) * d, (j - 1) * d);
 }
 
 void Groups::AddBoxGroup(int RowOffset, int ColumnOffset) {
@@ -63,7 +68,8 @@ std::shared_ptr<Group> Groups::NewGroup(int flavor) {
 
 void Groups::RegisterGroup(const std::shared_ptr<Group>& Grp) {
     Items.Add(Grp);
-    for (const int index : Grp->Fields) Grid().Items.Item(index)->GroupAdd(*Grp);
+    for (const int index : Grp->Fields)
+        Grid().Items.Item(index)->GroupAdd(*Grp);
 }
 
 } // namespace tessarin

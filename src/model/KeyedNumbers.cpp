@@ -30,6 +30,8 @@ bool KeyedNumbers::TryAdd(int number) {
     return true;
 }
 
-void KeyedNumbers::Remove(int number) { std::erase(mNumbers, number); }
+void KeyedNumbers::Remove(int number) {
+    std::erase(mNumbers, number);
+}
 
 } // namespace tessarin

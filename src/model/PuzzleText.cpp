@@ -11,7 +11,9 @@ constexpr std::string_view LineBreak = "\r\n";
 constexpr std::string_view HeaderCSV = "Index;Value;Locked";
 constexpr std::string_view HeaderSDK = "\"Sudoku\"";
 
-std::string_view FirstLine(std::string_view text) { return text.substr(0, text.find(LineBreak)); }
+std::string_view FirstLine(std::string_view text) {
+    return text.substr(0, text.find(LineBreak));
+}
 
 // The dimension of a grid with so many rows; 0 for a number of rows that no puzzle has. The grid
 // itself refuses dimension 4.
@@ -82,12 +84,14 @@ void Fields::SetTextSDK(std::string_view MyTextCSV) {
     const int dimension = DimensionOfRows(lines.size() - 2);
     if (dimension == 0 || !Init(dimension).empty()) return;
     const Silence silence(*this);
-    for (std::size_t i = 1; i < lines.size(); ++i) LoadSDKRow(static_cast<int>(i), lines[i]);
+    for (std::size_t i = 1; i < lines.size(); ++i)
+        LoadSDKRow(static_cast<int>(i), lines[i]);
 }
 
 void Fields::LoadSDKRow(int row, std::string_view line) {
     int position = (row - 1) * Numbers();
-    for (const auto item : Split(line, ",")) Items.Item(++position)->SetTextSDK(item);
+    for (const auto item : Split(line, ","))
+        Items.Item(++position)->SetTextSDK(item);
 }
 
 } // namespace tessarin

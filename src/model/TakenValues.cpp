@@ -31,7 +31,8 @@ TakenValues::TakenValues(const Board& board) : mlNumbers(board.Fields->Numbers()
         std::transform(fields.begin(), fields.end(), held.begin(),
                        [word](const auto& field) { return BitOf(field->Value(), word); });
         bits.reserve(static_cast<std::size_t>(groups.Count()));
-        for (const auto& group : groups) bits.push_back(Together(held, group->Fields));
+        for (const auto& group : groups)
+            bits.push_back(Together(held, group->Fields));
         ++word;
     }
 }

@@ -41,8 +41,10 @@ std::string_view ItemAt(const std::vector<std::string_view>& items, std::size_t 
 
 int ToNumber(std::string_view item) {
     std::string_view text = item;
-    while (text.starts_with(' ')) text.remove_prefix(1);
-    while (text.ends_with(' ')) text.remove_suffix(1);
+    while (text.starts_with(' '))
+        text.remove_prefix(1);
+    while (text.ends_with(' '))
+        text.remove_suffix(1);
     if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
     int number = 0;
     const char* const end = text.data() + text.size();

@@ -11,7 +11,9 @@ using ValueBits = std::uint64_t;
 constexpr int ValuesInWord = 64;
 
 /// How many words hold the values 1 to `numbers`.
-constexpr int WordCount(int numbers) { return (numbers + ValuesInWord - 1) / ValuesInWord; }
+constexpr int WordCount(int numbers) {
+    return (numbers + ValuesInWord - 1) / ValuesInWord;
+}
 
 /// The bit of `value` in `word`; 0 when the word does not hold it.
 constexpr ValueBits BitOf(int value, int word) {

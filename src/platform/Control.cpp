@@ -7,7 +7,9 @@
 namespace tessarin {
 
 Control::Control(ControlKind kind, Toolkit& toolkit, Control* container, Design design)
-    : mToolkit(toolkit), mContainer(container), mProperties(std::move(design)),
+    : mToolkit(toolkit),
+      mContainer(container),
+      mProperties(std::move(design)),
       mPeer(toolkit.CreatePeer(kind, *this, container)) {}
 
 Control::Control(ControlKind kind, Control& container, Design design)
@@ -49,10 +51,13 @@ const std::string& Control::AccessibleName() const {
 
 Form& Control::ParentForm() {
     Control* outermost = this;
-    while (outermost->mContainer != nullptr) outermost = outermost->mContainer;
+    while (outermost->mContainer != nullptr)
+        outermost = outermost->mContainer;
     return static_cast<Form&>(*outermost);
 }
 
-void Control::RaiseClick() { ParentForm().Gate.Raise(*this); }
+void Control::RaiseClick() {
+    ParentForm().Gate.Raise(*this);
+}
 
 } // namespace tessarin

@@ -17,8 +17,7 @@ template <class T>
 class ControlArray {
 public:
     /// With member 0, designed as given.
-    ControlArray(Control& container, Design design)
-        : mContainer(container), msName(design.Name) {
+    ControlArray(Control& container, Design design) : mContainer(container), msName(design.Name) {
         Add(0, std::move(design));
     }
 

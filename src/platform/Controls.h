@@ -86,9 +86,7 @@ public:
     std::function<void()> Tick;
 
     int Interval() const { return mlInterval; }
-    void SetInterval(int milliseconds) {
-        Assign(mlInterval, milliseconds, Property::Interval);
-    }
+    void SetInterval(int milliseconds) { Assign(mlInterval, milliseconds, Property::Interval); }
 
 private:
     int mlInterval = 0;

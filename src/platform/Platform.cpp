@@ -11,7 +11,9 @@ NullPlatform theNullPlatform;
 Platform* theCurrent = &theNullPlatform;
 } // namespace
 
-Platform& Platform::Current() { return *theCurrent; }
+Platform& Platform::Current() {
+    return *theCurrent;
+}
 
 Platform* Platform::SetCurrent(Platform* platform) {
     Platform* const previous = theCurrent == &theNullPlatform ? nullptr : theCurrent;

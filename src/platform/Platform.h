@@ -44,7 +44,9 @@ enum class MousePointer { Default, Hourglass };
 using Color = std::uint32_t;
 
 /// The system colour `index` (5 window background, 18 button text), resolved when it is painted.
-constexpr Color SystemColor(std::uint32_t index) { return 0x80000000U | index; }
+constexpr Color SystemColor(std::uint32_t index) {
+    return 0x80000000U | index;
+}
 
 /// The machine below. One instance is current at a time; without any, a NullPlatform answers.
 class Platform {
@@ -93,6 +95,8 @@ public:
 };
 
 /// Handles all waiting window events, once: the current platform's PumpEvents.
-inline void PumpEvents() { Platform::Current().PumpEvents(); }
+inline void PumpEvents() {
+    Platform::Current().PumpEvents();
+}
 
 } // namespace tessarin

@@ -8,7 +8,9 @@ namespace tessarin {
 
 namespace {
 
-Fields& Grid() { return *Board::Current().Fields; }
+Fields& Grid() {
+    return *Board::Current().Fields;
+}
 
 } // namespace
 

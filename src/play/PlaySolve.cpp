@@ -27,8 +27,7 @@ void Play::Retreat() {
         if (!GoBackToFreedom()) return;
     } while (NextFreeValue() < 1);
     // Not through SetValue: the field stays at its old place in the history.
-    if (const auto field = Board::Current().Fields->Cursor)
-        field->SetValue(field->NextFreeValue());
+    if (const auto field = Board::Current().Fields->Cursor) field->SetValue(field->NextFreeValue());
 }
 
 } // namespace tessarin

@@ -2,8 +2,12 @@
 
 namespace tessarin {
 
-std::string ReleaseDate() { return "29.04.2022"; }
+std::string ReleaseDate() {
+    return "29.04.2022";
+}
 
-std::string ReleaseTime() { return "06:49:52"; }
+std::string ReleaseTime() {
+    return "06:49:52";
+}
 
 } // namespace tessarin

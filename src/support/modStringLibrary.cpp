@@ -20,8 +20,7 @@ std::string PadLeft(std::string_view text, std::optional<std::int16_t> length,
     const std::size_t n = length ? static_cast<std::size_t>(*length) : text.size();
     const std::string_view s = WithoutOuterBlanks(text);
     if (s.size() >= n) return std::string(s.substr(s.size() - n));
-    return std::string(n - s.size(), padCharacter.empty() ? ' ' : padCharacter.front())
-        .append(s);
+    return std::string(n - s.size(), padCharacter.empty() ? ' ' : padCharacter.front()).append(s);
 }
 
 std::string PadNumber(int number, std::int16_t width, std::string_view padCharacter) {
@@ -32,8 +31,7 @@ std::string PadInteger(std::int16_t number, std::int16_t width, std::string_view
     return PadNumber(number, width, padCharacter);
 }
 
-std::string ReplaceAll(std::string_view text, std::string_view find,
-                       std::string_view replacement) {
+std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view replacement) {
     std::string result(text);
     if (find.empty()) return result;
     for (auto p = result.find(find); p != std::string::npos;

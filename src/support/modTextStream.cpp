@@ -47,7 +47,8 @@ std::string Read(const std::string& fileName, std::size_t limit = std::string::n
 std::string TwoBytesEach(const std::string& text) {
     std::string bytes;
     bytes.reserve(2 * text.size());
-    for (const char c : text) bytes.append({c, '\0'});
+    for (const char c : text)
+        bytes.append({c, '\0'});
     return bytes;
 }
 
@@ -65,7 +66,9 @@ int Write(const std::string& fileName, const std::string& bytes, bool replaceExi
 
 } // namespace
 
-std::string ReadTextFile(const std::string& fileName) { return Read(fileName); }
+std::string ReadTextFile(const std::string& fileName) {
+    return Read(fileName);
+}
 
 std::string WriteTextFile(const std::string& fileName, const std::string& text,
                           const std::string& charset, bool replaceExisting) {
@@ -83,8 +86,12 @@ std::string DetectCharset(const std::string& fileName) {
     return "x-ansi";
 }
 
-std::string BomUnicode() { return "\xFF\xFE"; }
+std::string BomUnicode() {
+    return "\xFF\xFE";
+}
 
-std::string BomUtf8() { return "\xEF\xBB\xBF"; }
+std::string BomUtf8() {
+    return "\xEF\xBB\xBF";
+}
 
 } // namespace tessarin

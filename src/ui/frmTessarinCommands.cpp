@@ -27,9 +27,9 @@ bool Attempt(const std::function<void()>& step) {
 }
 
 bool Confirmed(const std::string& question) {
-    return Platform::Current().ShowMessage({.Prompt = question,
-                                            .ButtonSet = Message::Buttons::YesNo,
-                                            .QuestionIcon = true}) == Message::Answer::Yes;
+    return Platform::Current().ShowMessage(
+               {.Prompt = question, .ButtonSet = Message::Buttons::YesNo, .QuestionIcon = true}) ==
+           Message::Answer::Yes;
 }
 
 } // namespace
@@ -88,7 +88,9 @@ void frmTessarin::btnSolve_Click() {
     ctlRotor1.SetRunning(false);
 }
 
-void frmTessarin::moGame_BeforeIndexChanged(int Index) { PreviousIndex = Index; }
+void frmTessarin::moGame_BeforeIndexChanged(int Index) {
+    PreviousIndex = Index;
+}
 
 void frmTessarin::moGame_IndexChanged(int Index) {
     if (PaintingOff()) return;
@@ -135,17 +137,29 @@ void frmTessarin::optChill_Click(int Index) {
     ChillDelay = ChillDelays.at(static_cast<std::size_t>(Index));
 }
 
-void frmTessarin::btnNextFree_Click() { moGame->Play->GotoNextFreeField(); }
+void frmTessarin::btnNextFree_Click() {
+    moGame->Play->GotoNextFreeField();
+}
 
-void frmTessarin::btnNextFreeAuto_Click() { moGame->Play->GotoNextFreeField(true); }
+void frmTessarin::btnNextFreeAuto_Click() {
+    moGame->Play->GotoNextFreeField(true);
+}
 
-void frmTessarin::btnGoBack_Click() { moGame->Play->GoBack(); }
+void frmTessarin::btnGoBack_Click() {
+    moGame->Play->GoBack();
+}
 
-void frmTessarin::btnGoBackToFreedom_Click() { moGame->Play->GoBackToFreedom(); }
+void frmTessarin::btnGoBackToFreedom_Click() {
+    moGame->Play->GoBackToFreedom();
+}
 
-void frmTessarin::btnNextFreeValue_Click() { moGame->Play->NextFreeValue(true); }
+void frmTessarin::btnNextFreeValue_Click() {
+    moGame->Play->NextFreeValue(true);
+}
 
-void frmTessarin::btnInfo_Click() { SetInfoVisible(!InfoVisible()); }
+void frmTessarin::btnInfo_Click() {
+    SetInfoVisible(!InfoVisible());
+}
 
 void frmTessarin::mnuFileImportCSV_Click() {
     CommonDialog1.FileMustExist = true;
@@ -183,7 +197,9 @@ void frmTessarin::mnuFileExportCSV_Click() {
     moGame->Play->SetTracing(true);
 }
 
-void frmTessarin::mnuFileQuit_Click() { Unload(); }
+void frmTessarin::mnuFileQuit_Click() {
+    Unload();
+}
 
 void frmTessarin::mnuEditClearFree_Click() {
     if (!Confirmed("Clear Free?")) return;
@@ -208,6 +224,8 @@ void frmTessarin::mnuEditLockClear_Click() {
     RefreshAll();
 }
 
-void frmTessarin::mnuAbout_Click() { ShowAbout(); }
+void frmTessarin::mnuAbout_Click() {
+    ShowAbout();
+}
 
 } // namespace tessarin

@@ -79,8 +79,8 @@ void frmTessarin::RefreshNumPad() {
         const bool isLockKey = key == 10;
         const bool isDigit = key >= 1 && key <= 9;
         btnNumPad(key).SetEnabled(isLockKey ? locked || cursor->Value() != 0 : !locked);
-        btnNumPad(key).SetVisible(!isDigit || freeValues.find(std::to_string(key) + ";") !=
-                                                  std::string::npos);
+        btnNumPad(key).SetVisible(!isDigit ||
+                                  freeValues.find(std::to_string(key) + ";") != std::string::npos);
     }
     fraNumPad.SetBackColor(locked ? Red : WindowBackground);
 }
@@ -88,13 +88,15 @@ void frmTessarin::RefreshNumPad() {
 void frmTessarin::RefreshAll() {
     Fields& grid = *moGame->Fields;
     if (!grid.Cursor) grid.SetIndex(1);
-    for (int i = 1; i <= grid.Count(); ++i) PaintField(i);
+    for (int i = 1; i <= grid.Count(); ++i)
+        PaintField(i);
     RefreshNumPad();
 }
 
 void frmTessarin::SetViewRunning(bool running) {
     mbViewRunning = running;
-    for (MenuItem* const menu : {&mnuFile, &mnuEdit, &mnuView}) menu->SetEnabled(!running);
+    for (MenuItem* const menu : {&mnuFile, &mnuEdit, &mnuView})
+        menu->SetEnabled(!running);
 }
 
 } // namespace tessarin

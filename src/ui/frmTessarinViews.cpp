@@ -9,7 +9,9 @@ namespace {
 
 constexpr int GroupMilliseconds = 1000;
 
-void Tell(const std::string& prompt) { Platform::Current().ShowMessage({.Prompt = prompt}); }
+void Tell(const std::string& prompt) {
+    Platform::Current().ShowMessage({.Prompt = prompt});
+}
 
 } // namespace
 
@@ -24,18 +26,22 @@ std::vector<Label*> frmTessarin::DeadLabels() {
 // Only the background is touched: afterwards the fields keep the normal one until they are painted.
 void frmTessarin::lblDeadEnd_Click() {
     SetViewRunning(true);
-    for (Label* const label : DeadLabels()) label->SetBackColor(Red);
+    for (Label* const label : DeadLabels())
+        label->SetBackColor(Red);
     Tell("Dead cells = " + std::to_string(moGame->Fields->DeadCount()));
-    for (Label* const label : DeadLabels()) label->SetBackColor(WindowBackground);
+    for (Label* const label : DeadLabels())
+        label->SetBackColor(WindowBackground);
     SetViewRunning(false);
 }
 
 void frmTessarin::mnuViewNeighbours_Click() {
     SetViewRunning(true);
     if (const auto cursor = moGame->Fields->Cursor) {
-        for (const int index : cursor->Neighbours) PaintField(index, true);
+        for (const int index : cursor->Neighbours)
+            PaintField(index, true);
         Tell("Neigbours = " + std::to_string(cursor->Neighbours.Count()));
-        for (const int index : cursor->Neighbours) PaintField(index);
+        for (const int index : cursor->Neighbours)
+            PaintField(index);
     }
     SetViewRunning(false);
 }
@@ -44,9 +50,11 @@ void frmTessarin::mnuViewGroups_Click() {
     SetViewRunning(true);
     const auto groups = moGame->Groups->Items; // an import in between replaces them
     for (const auto& group : groups) {
-        for (const int index : group->Fields) PaintField(index, false, true);
+        for (const int index : group->Fields)
+            PaintField(index, false, true);
         Wait(GroupMilliseconds);
-        for (const int index : group->Fields) PaintField(index);
+        for (const int index : group->Fields)
+            PaintField(index);
     }
     RefreshAll();
     SetViewRunning(false);

@@ -4,7 +4,8 @@
 #include <QApplication>
 #include <QPalette>
 
-#include <cmath>
+#include <algorithm>
+#include <cstdlib>
 
 namespace tessarin {
 namespace {

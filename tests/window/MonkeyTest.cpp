@@ -4,8 +4,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QMenu>
+#include <QPushButton>
 #include <QTest>
 
 #include <cstdlib>
@@ -26,7 +26,9 @@ std::mt19937& Random() {
     return random;
 }
 
-int Below(int count) { return static_cast<int>(Random()() % static_cast<unsigned>(count)); }
+int Below(int count) {
+    return static_cast<int>(Random()() % static_cast<unsigned>(count));
+}
 
 // One window's life under the monkey; TestBody is never run.
 class Monkey : public WindowTest {
@@ -59,10 +61,10 @@ public:
         else if (what < 50)
             ClickAnywhere(window.btnNumPad(Below(12)));
         else if (what < 70)
-            ClickAnywhere(*Pick<Control*>({&window.btnNextFree, &window.btnNextFreeAuto,
-                                           &window.btnSolve, &window.btnGoBack,
-                                           &window.btnGoBackToFreedom, &window.btnNextFreeValue,
-                                           &window.btnInfo, &window.lblDeadEnd}));
+            ClickAnywhere(
+                *Pick<Control*>({&window.btnNextFree, &window.btnNextFreeAuto, &window.btnSolve,
+                                 &window.btnGoBack, &window.btnGoBackToFreedom,
+                                 &window.btnNextFreeValue, &window.btnInfo, &window.lblDeadEnd}));
         else if (what < 75)
             ClickAnywhere(window.InfoVisible() ? static_cast<Control&>(window.optChill(Below(7)))
                                                : window.btnInfo);

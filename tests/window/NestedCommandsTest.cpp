@@ -106,8 +106,7 @@ const std::vector<std::pair<const char*, Command>>& OuterCommands() {
          }},
         {"freedom view", [](Case& c) { c.window.mnuViewFreedom.RaiseClick(); }},
         {"groups view", [](Case& c) { c.window.mnuViewGroups.RaiseClick(); }},
-        {"import",
-         [](Case& c) {
+        {"import", [](Case& c) {
              c.ImportFile = TESSARIN_PUZZLES "/hard-1.csv";
              c.window.mnuFileImportCSV.RaiseClick();
          }}};

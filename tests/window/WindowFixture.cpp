@@ -108,6 +108,8 @@ void WindowTest::CancelDialog() {
 void WindowTest::LookForBox() {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || dialog == mSeen) return;
+    // Only an active box can be answered; a window manager sees to it that it becomes active.
+    if (!dialog->isActiveWindow()) return dialog->activateWindow();
     mSeen = dialog;
     mEyes.start(); // or it would not look again before the answer has ended
     if (auto* const box = qobject_cast<QMessageBox*>(dialog)) {

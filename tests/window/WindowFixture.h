@@ -71,7 +71,7 @@ protected:
     void CancelDialog();
     /// What happens to a box that nobody expects: it is a failure.
     std::function<void(QDialog&)> Unexpected;
-    /// The message boxes seen so far: "title: text [No Yes ?]", "?" for the question icon.
+    /// The message boxes seen so far: "title: text [? No Yes]", "?" for the question icon.
     QStringList Boxes;
 
     QWidget& Widget(const std::string& name);

@@ -128,9 +128,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         const Image& image = static_cast<Picture&>(mControl).Shown();
-        QPainter(this).drawImage(
-            rect(), QImage(reinterpret_cast<const uchar*>(image.data()), 32, 32,
-                           QImage::Format_ARGB32));
+        QPainter(this).drawImage(rect(), QImage(reinterpret_cast<const uchar*>(image.data()), 32,
+                                                32, QImage::Format_ARGB32));
     }
 
 private:

@@ -32,8 +32,7 @@ QtFileDialog::QtFileDialog(const FileDialogRequest& request, QWidget* parent)
     setNameFilters(NameFilters(request.Filter));
     setAcceptMode(request.Saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     setFileMode(request.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    if (!request.FileName.empty())
-        setDirectory(QFileInfo(ToQt(request.FileName)).absolutePath());
+    if (!request.FileName.empty()) setDirectory(QFileInfo(ToQt(request.FileName)).absolutePath());
 }
 
 std::optional<std::string> QtFileDialog::Chosen() const {

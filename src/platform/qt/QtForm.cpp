@@ -28,7 +28,9 @@ constexpr int ApplicationWindow = 0x40000;
 QtForm::QtForm(Form& form, QtPlatform& platform)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
-      mForm(form), mPlatform(platform), mFrame(AssumedFrame) {
+      mForm(form),
+      mPlatform(platform),
+      mFrame(AssumedFrame) {
     setObjectName(ToQt(form.Name()));
     setWindowTitle(ToQt(form.Caption()));
     QIcon icon;
@@ -70,9 +72,8 @@ void QtForm::CheckFrame(bool trustZero) {
 
 void QtForm::PlaceWidget(QWidget& widget, const Control& control) {
     const bool inClient = widget.parentWidget() == &mClient;
-    if (inClient && std::none_of(mPlaced.begin(), mPlaced.end(), [&](const auto& placed) {
-            return placed.first == &widget;
-        }))
+    if (inClient && std::none_of(mPlaced.begin(), mPlaced.end(),
+                                 [&](const auto& placed) { return placed.first == &widget; }))
         mPlaced.append({&widget, &control});
     widget.setVisible(control.Visible() && !(inClient && widget.x() >= mClient.width()));
 }
@@ -90,7 +91,9 @@ void QtForm::KeepFocus(const std::function<void()>& change) {
     }
 }
 
-void QtForm::LockUpdate() { mbLocked = true; }
+void QtForm::LockUpdate() {
+    mbLocked = true;
+}
 
 void QtForm::UnlockUpdate() {
     if (!mbLocked) return;
@@ -111,8 +114,7 @@ void QtForm::SetExtendedStyle(int style) {
 
 void QtForm::ApplyStyle() {
     if (windowHandle() == nullptr) return;
-    const Qt::WindowFlags type =
-        (mlExtendedStyle & ApplicationWindow) != 0 ? Qt::Window : Qt::Tool;
+    const Qt::WindowFlags type = (mlExtendedStyle & ApplicationWindow) != 0 ? Qt::Window : Qt::Tool;
     const Qt::WindowFlags flags = (windowHandle()->flags() & ~Qt::WindowType_Mask) | type;
     if (flags != windowHandle()->flags()) windowHandle()->setFlags(flags);
 }
@@ -172,7 +174,8 @@ void QtForm::ArrangeTabOrder() {
     };
     std::stable_sort(widgets.begin(), widgets.end(),
                      [&](QWidget* a, QWidget* b) { return place(a) < place(b); });
-    for (qsizetype i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
+    for (qsizetype i = 1; i < widgets.size(); ++i)
+        setTabOrder(widgets[i - 1], widgets[i]);
     if (!widgets.isEmpty()) widgets.constFirst()->setFocus();
 }
 

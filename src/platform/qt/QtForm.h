@@ -57,14 +57,14 @@ private:
     QtPlatform& mPlatform;
     QMenuBar mMenuBar{this};
     QWidget mClient{this};
-    QMargins mFrame;               // the window frame as assumed or last seen
+    QMargins mFrame; // the window frame as assumed or last seen
     QList<std::pair<QPointer<QWidget>, const Control*>> mPlaced; // the client's own children
 
     QPointer<QWidget> mLostFocus;    // had the focus before it was disabled or hidden
     QPointer<QWidget> mFocusInstead; // where the focus went by itself then
 
-    bool mbActivated = false;    // Form_Activate has run once
-    bool mbActivating = false;   // it is running
+    bool mbActivated = false;     // Form_Activate has run once
+    bool mbActivating = false;    // it is running
     bool mbLeftForOwnBox = false; // the window lost the activation to a box of its own
     int mlExtendedStyle = 0;
     bool mbLocked = false;

@@ -31,9 +31,8 @@ void QtLabel::paintEvent(QPaintEvent* /*event*/) {
     else if (inside.height() > 2 * painter.fontMetrics().height())
         painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere, text);
     else // a long path shows its start and its end
-        painter.drawText(
-            inside, Qt::AlignLeft | Qt::AlignVCenter,
-            painter.fontMetrics().elidedText(text, Qt::ElideMiddle, inside.width()));
+        painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter,
+                         painter.fontMetrics().elidedText(text, Qt::ElideMiddle, inside.width()));
 }
 
 void QtLabel::mousePressEvent(QMouseEvent* event) {

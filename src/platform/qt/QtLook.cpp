@@ -12,11 +12,15 @@ constexpr int PlainPixelSize = 10;
 // Texts of this kind have a weight of their own, which a family substitution would lose.
 constexpr auto HeavyFamily = "Arial Black";
 
-bool IsSystemColor(Color color) { return (color & SystemColor(0)) != 0; }
+bool IsSystemColor(Color color) {
+    return (color & SystemColor(0)) != 0;
+}
 
 } // namespace
 
-int Pixels(float twips) { return qRound(twips / 15); }
+int Pixels(float twips) {
+    return qRound(twips / 15);
+}
 
 QRect PixelRect(const Design& design) {
     return {Pixels(design.Left), Pixels(design.Top), Pixels(design.Width), Pixels(design.Height)};

@@ -22,7 +22,9 @@ QColor TextColor(Color fore, Color back);
 
 QFont ToQt(const FontStyle& font);
 
-inline QString ToQt(const std::string& text) { return QString::fromStdString(text); }
+inline QString ToQt(const std::string& text) {
+    return QString::fromStdString(text);
+}
 /// A caption for a button or menu entry, in which "&" would mark a shortcut.
 QString Plain(const std::string& caption);
 

@@ -43,7 +43,9 @@ QtPlatform::QtPlatform() {
     Platform::SetCurrent(this);
 }
 
-QtPlatform::~QtPlatform() { Platform::SetCurrent(nullptr); }
+QtPlatform::~QtPlatform() {
+    Platform::SetCurrent(nullptr);
+}
 
 void QtPlatform::PumpEvents() {
     if (!mbClosed) QApplication::processEvents();
@@ -53,7 +55,9 @@ void QtPlatform::Sleep(int milliseconds) {
     if (!mbClosed) QThread::msleep(static_cast<unsigned long>(milliseconds));
 }
 
-bool QtPlatform::EscPressed() { return mEscWatch.Query(); }
+bool QtPlatform::EscPressed() {
+    return mEscWatch.Query();
+}
 
 Message::Answer QtPlatform::ShowMessage(const Message& message) {
     const bool question = message.ButtonSet == Message::Buttons::YesNo;
@@ -72,7 +76,9 @@ Message::Answer QtPlatform::ShowMessage(const Message& message) {
     return RunModal(box) == QMessageBox::Yes ? Message::Answer::Yes : refusal;
 }
 
-void QtPlatform::Beep() { QApplication::beep(); }
+void QtPlatform::Beep() {
+    QApplication::beep();
+}
 
 void QtPlatform::SetMousePointer(MousePointer pointer) {
     mbHourglass = pointer == MousePointer::Hourglass;
@@ -120,8 +126,8 @@ std::unique_ptr<ControlPeer> QtPlatform::CreatePeer(ControlKind kind, Control& c
     }
     if (kind == ControlKind::Timer) return std::make_unique<QtTimerPeer>(control);
     if (kind == ControlKind::MenuItem)
-        return std::make_unique<QtMenuPeer>(
-            control, dynamic_cast<QtMenuPeer*>(&container->Peer()), *mForm);
+        return std::make_unique<QtMenuPeer>(control, dynamic_cast<QtMenuPeer*>(&container->Peer()),
+                                            *mForm);
     QWidget* const parent = WidgetOf(*container);
     switch (kind) {
     case ControlKind::Label:

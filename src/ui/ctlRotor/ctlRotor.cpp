@@ -25,8 +25,10 @@ Design PictureAt(int index) {
 
 ctlRotor::ctlRotor(Control& container, Design design)
     : UserControl(container, std::move(design)), Image1(*this, PictureAt(0)) {
-    for (int i = 1; i < RotorImages; ++i) Image1.Add(i, PictureAt(i));
-    for (int i = 0; i < RotorImages; ++i) Image1(i).SetImage(RotorImage(i));
+    for (int i = 1; i < RotorImages; ++i)
+        Image1.Add(i, PictureAt(i));
+    for (int i = 0; i < RotorImages; ++i)
+        Image1(i).SetImage(RotorImage(i));
     Timer1.Tick = [this] { Timer1_Timer(); };
     UserControl_Initialize();
     UserControl_Resize();
@@ -39,7 +41,8 @@ void ctlRotor::UserControl_Initialize() {
 }
 
 void ctlRotor::UserControl_Resize() {
-    for (int i = 1; i < RotorImages; ++i) Image1(i).MoveTo(Image1(0));
+    for (int i = 1; i < RotorImages; ++i)
+        Image1(i).MoveTo(Image1(0));
     SizeLike(Image1(0));
 }
 
@@ -69,7 +72,8 @@ void ctlRotor::Timer1_Timer() {
 }
 
 void ctlRotor::ShowFrame() {
-    for (int i = 0; i < RotorImages; ++i) Image1(i).SetVisible(i == FrameIndex);
+    for (int i = 0; i < RotorImages; ++i)
+        Image1(i).SetVisible(i == FrameIndex);
     PumpEvents();
 }
 
