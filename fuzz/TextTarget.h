@@ -25,10 +25,10 @@ void CheckText(const std::string& text, Load load, Write write) {
     } catch (const std::out_of_range&) {
     }
     const int free = grid.FreeCount();
-    if (grid.IsWinner() != (free == 0)) std::abort();
     const std::string written = write(grid);
     load(grid, written);
-    if (write(grid) != written || grid.FreeCount() != free) std::abort();
+    if (write(grid) != written || grid.FreeCount() != free || grid.IsWinner() != (free == 0))
+        std::abort();
 }
 
 } // namespace tessarin

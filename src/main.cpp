@@ -5,6 +5,7 @@
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    QApplication::setDesktopFileName("example.velmora.tessarin");
     tessarin::qt::QtPlatform platform;
     tessarin::frmTessarin window(platform);
     window.Show();

@@ -18,8 +18,8 @@ std::string_view FirstLine(std::string_view text) {
 // The dimension of a grid with so many rows; 0 for a number of rows that no puzzle has. The grid
 // itself refuses dimension 4.
 int DimensionOfRows(std::size_t rows) {
-    for (const int dimension : {3, 4, 5})
-        if (rows == static_cast<std::size_t>(dimension * dimension)) return dimension;
+    for (const std::size_t dimension : {3, 4, 5})
+        if (rows == dimension * dimension) return static_cast<int>(dimension);
     return 0;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/Control.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 
@@ -51,7 +52,7 @@ public:
 };
 
 /// 32 by 32 pixels, row by row, each 0xAARRGGBB.
-using Image = std::array<std::uint32_t, 32 * 32>;
+using Image = std::array<std::uint32_t, std::size_t{32} * 32>;
 
 /// Shows an image.
 class Picture : public Control {

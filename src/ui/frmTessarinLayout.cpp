@@ -86,8 +86,10 @@ void frmTessarin::CreateNumPad() {
     };
     for (int i = 1; i <= 9; ++i) {
         CommandButton& button = create(i, std::to_string(i), std::to_string(i));
-        button.SetLeft(static_cast<float>((i - 1) % 3 * PadPitch + BoxGap));
-        button.SetTop(static_cast<float>((i - 1) / 3 * PadPitch + BoxGap));
+        const int column = (i - 1) % 3;
+        const int row = (i - 1) / 3;
+        button.SetLeft(static_cast<float>(column * PadPitch + BoxGap));
+        button.SetTop(static_cast<float>(row * PadPitch + BoxGap));
     }
     zero.SetLeft(btnNumPad(8).Left());
     zero.SetTop(btnNumPad(8).Top() + PadPitch);

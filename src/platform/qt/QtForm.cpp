@@ -16,8 +16,6 @@ namespace {
 
 // A frame as most window managers draw it, until the real one is known.
 constexpr QMargins AssumedFrame(1, 20, 1, 1);
-// Narrower frames leave a strip beside the controls unused, in which the side column would begin.
-constexpr int MinFrameAcross = 6;
 // The grid and the panels need so many pixels below the menu bar, whatever the frame takes.
 constexpr int MinClientHeight = 410;
 
@@ -50,9 +48,8 @@ void QtForm::Changed(Property property) {
 }
 
 void QtForm::ApplySize() {
-    const int across = std::max(MinFrameAcross, mFrame.left() + mFrame.right());
     const int menuHeight = mMenuBar.sizeHint().height();
-    const QSize size(Pixels(mForm.Width()) - across,
+    const QSize size(Pixels(mForm.Width()) - mFrame.left() - mFrame.right(),
                      std::max(Pixels(mForm.Height()) - mFrame.top() - mFrame.bottom(),
                               menuHeight + MinClientHeight));
     setFixedSize(size);
@@ -75,7 +72,8 @@ void QtForm::PlaceWidget(QWidget& widget, const Control& control) {
     if (inClient && std::none_of(mPlaced.begin(), mPlaced.end(),
                                  [&](const auto& placed) { return placed.first == &widget; }))
         mPlaced.append({&widget, &control});
-    widget.setVisible(control.Visible() && !(inClient && widget.x() >= mClient.width()));
+    const bool beyond = inClient && widget.geometry().center().x() >= mClient.width();
+    widget.setVisible(control.Visible() && !beyond);
 }
 
 void QtForm::KeepFocus(const std::function<void()>& change) {

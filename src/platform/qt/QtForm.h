@@ -26,9 +26,9 @@ public:
     QMenuBar& MenuBar() { return mMenuBar; }
     QWidget& Client() { return mClient; }
 
-    /// Shows or hides a control's widget by the control's Visible. One that lies wholly beyond the
-    /// right edge of the client is hidden all the same: a frame narrower than expected would show a
-    /// rim of it, and the Tab key would walk into it.
+    /// Shows or hides a control's widget by the control's Visible. One that lies mostly beyond the
+    /// right edge of the client is hidden all the same: with a narrow frame a rim of it would show,
+    /// and the Tab key would walk into it.
     void PlaceWidget(QWidget& widget, const Control& control);
 
     /// Runs a change that may take the keyboard focus away from a control. Once that control can

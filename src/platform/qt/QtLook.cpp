@@ -42,7 +42,7 @@ QColor ToQt(Color color) {
 }
 
 QColor TextColor(Color fore, Color back) {
-    if (!IsSystemColor(fore) || IsSystemColor(back)) return ToQt(fore);
+    if (fore != SystemColor(18) || IsSystemColor(back)) return ToQt(fore);
     return qGray(ToQt(back).rgb()) > 110 ? Qt::black : Qt::white;
 }
 

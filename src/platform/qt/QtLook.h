@@ -16,8 +16,8 @@ QRect PixelRect(const Design& design);
 
 /// System colours come from the application's palette as it is now.
 QColor ToQt(Color color);
-/// The colour of a text: a system text colour on a fixed background becomes black or white, so that
-/// it can be read in a dark theme too.
+/// The colour of a text: the system colour for button texts on a fixed background becomes black or
+/// white, so that it can be read in a dark theme too.
 QColor TextColor(Color fore, Color back);
 
 QFont ToQt(const FontStyle& font);

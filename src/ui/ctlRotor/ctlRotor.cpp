@@ -13,9 +13,11 @@ constexpr float PictureSide = 480;
 constexpr int PicturesInColumn = 4;
 
 Design PictureAt(int index) {
+    const int column = index / PicturesInColumn;
+    const int row = index % PicturesInColumn;
     return {.Name = "Image1",
-            .Left = PictureSide * static_cast<float>(index / PicturesInColumn),
-            .Top = PictureSide * static_cast<float>(index % PicturesInColumn),
+            .Left = PictureSide * static_cast<float>(column),
+            .Top = PictureSide * static_cast<float>(row),
             .Width = PictureSide,
             .Height = PictureSide,
             .Visible = false};
