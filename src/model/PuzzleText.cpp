@@ -18,7 +18,7 @@ std::string_view FirstLine(std::string_view text) {
 // The dimension of a grid with so many rows; 0 for a number of rows that no puzzle has. The grid
 // itself refuses dimension 4.
 int DimensionOfRows(std::size_t rows) {
-    for (const std::size_t dimension : {3, 4, 5})
+    for (const std::size_t dimension : {3U, 4U, 5U})
         if (rows == dimension * dimension) return static_cast<int>(dimension);
     return 0;
 }
