@@ -60,7 +60,8 @@ public:
 
     /// Handles all window events that are waiting, once. Any handler of the window may run inside.
     virtual void PumpEvents() = 0;
-    /// Stops the thread for so many milliseconds (above 0) without handling events.
+    /// Stops the program for so many milliseconds (above 0). No input of the user is handled and no
+    /// timer ticks meanwhile; a window that is closed ends it early.
     virtual void Sleep(int milliseconds) = 0;
     /// Whether ESC is down now or has been pressed since the last call.
     virtual bool EscPressed() = 0;

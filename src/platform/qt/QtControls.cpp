@@ -210,7 +210,7 @@ void QtTimerPeer::Changed(Property /*property*/) {
 void QtTimerPeer::Tick() {
     constexpr int MaxDepth = 4;
     auto& timer = static_cast<Timer&>(mControl);
-    if (mlDepth >= MaxDepth || !timer.Tick) return;
+    if (Held || mlDepth >= MaxDepth || !timer.Tick) return;
     mTimer.start();
     ++mlDepth;
     timer.Tick();

@@ -56,6 +56,10 @@ private:
 class QtTimerPeer : public ControlPeer {
 public:
     explicit QtTimerPeer(Control& control);
+
+    /// While set, ticks of all timers are left out.
+    inline static bool Held = false;
+
     void Changed(Property property) override;
 
 private:

@@ -6,12 +6,16 @@
 #include "platform/qt/QtLook.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QStyleFactory>
 #include <QThread>
+
+#include <algorithm>
 
 namespace tessarin::qt {
 
@@ -51,8 +55,16 @@ void QtPlatform::PumpEvents() {
     if (!mbClosed) QApplication::processEvents();
 }
 
+// In slices, after each of which the window may paint and close; what the user types and clicks
+// waits for the next pump, and timers do not tick.
 void QtPlatform::Sleep(int milliseconds) {
-    if (!mbClosed) QThread::msleep(static_cast<unsigned long>(milliseconds));
+    constexpr qint64 Slice = 20;
+    const QDeadlineTimer end(milliseconds);
+    while (!mbClosed && !end.hasExpired()) {
+        QThread::msleep(static_cast<unsigned long>(std::min(Slice, end.remainingTime())));
+        const QScopedValueRollback<bool> held(QtTimerPeer::Held, true);
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
 }
 
 bool QtPlatform::EscPressed() {
