@@ -53,7 +53,7 @@ void StatusPassYardstick(benchmark::State& state) {
     for (auto _ : state) {
         benchmark::DoNotOptimize(fields.data());
         benchmark::ClobberMemory();
-        benchmark::DoNotOptimize(bench::CountFlat(fields));
+        benchmark::DoNotOptimize(CountFlat(fields));
     }
 }
 BENCHMARK(StatusPassYardstick)
@@ -61,23 +61,18 @@ BENCHMARK(StatusPassYardstick)
     ->Args({3, Empty})
     ->Args({3, HalfFull});
 
-void Freedom(benchmark::State& state) {
+void FreeValuesOfAField(benchmark::State& state, bool counted) {
     Game game;
     Prepare(*game.Fields, state);
     const auto field = game.Fields->Items.Item(41);
     for (auto _ : state)
-        benchmark::DoNotOptimize(field->Freedom());
+        if (counted)
+            benchmark::DoNotOptimize(field->Freedom());
+        else
+            benchmark::DoNotOptimize(field->FreeValues());
 }
-BENCHMARK(Freedom)->ArgNames({"dimension", "half"})->Args({3, HalfFull})->Args({5, HalfFull});
-
-void FreeValues(benchmark::State& state) {
-    Game game;
-    Prepare(*game.Fields, state);
-    const auto field = game.Fields->Items.Item(41);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(field->FreeValues());
-}
-BENCHMARK(FreeValues)->ArgNames({"dimension", "half"})->Args({3, HalfFull})->Args({5, HalfFull});
+BENCHMARK_CAPTURE(FreeValuesOfAField, counted, true)->Args({3, HalfFull})->Args({5, HalfFull});
+BENCHMARK_CAPTURE(FreeValuesOfAField, listed, false)->Args({3, HalfFull})->Args({5, HalfFull});
 
 void SolvePuzzle(benchmark::State& state, const char* name) {
     Game game;
@@ -111,22 +106,16 @@ void SolveMoves(benchmark::State& state) {
 }
 BENCHMARK(SolveMoves)->ArgName("dimension")->Arg(3)->Arg(5)->Arg(7);
 
-void LoadCSV(benchmark::State& state) {
+void Load(benchmark::State& state, bool csv) {
     Game game;
-    const std::string text = Puzzle("hard-1");
+    Fields& grid = *game.Fields;
+    grid.SetTextCSV(Puzzle("hard-1"));
+    const std::string text = csv ? grid.TextCSV() : grid.TextSDK();
     for (auto _ : state)
-        game.Fields->SetTextCSV(text);
+        csv ? grid.SetTextCSV(text) : grid.SetTextSDK(text);
 }
-BENCHMARK(LoadCSV);
-
-void LoadSDK(benchmark::State& state) {
-    Game game;
-    game.Fields->SetTextCSV(Puzzle("hard-1"));
-    const std::string text = game.Fields->TextSDK();
-    for (auto _ : state)
-        game.Fields->SetTextSDK(text);
-}
-BENCHMARK(LoadSDK);
+BENCHMARK_CAPTURE(Load, csv, true);
+BENCHMARK_CAPTURE(Load, sdk, false);
 
 } // namespace
 } // namespace tessarin

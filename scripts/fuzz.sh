@@ -6,7 +6,7 @@ set -euo pipefail
 source "$(dirname "$0")/lib.sh"
 
 seconds=${1:-180}
-need "${build_packages[@]}" clang libclang-rt-14-dev
+need "${build_packages[@]}" "${test_packages[@]}" clang libclang-rt-14-dev
 configure_and_build debug fuzz -DCMAKE_CXX_COMPILER=clang++ -DTESSARIN_FUZZ=ON \
     -DTESSARIN_WINDOW=OFF -DBUILD_TESTING=OFF -DCMAKE_CXX_FLAGS="-O2 -fno-omit-frame-pointer \
     -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all"

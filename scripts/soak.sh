@@ -6,4 +6,4 @@ source "$(dirname "$0")/lib.sh"
 
 need "${build_packages[@]}" "${window_packages[@]}" "${test_packages[@]}"
 configure_and_build asan asan
-TESSARIN_MONKEY_EVENTS=${1:-20000} run_tests asan -R Monkey --no-tests=error --verbose
+TESSARIN_MONKEY_EVENTS=${1:-20000} run_tests asan -R Random --no-tests=error --verbose

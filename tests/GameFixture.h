@@ -98,6 +98,7 @@ public:
 
     /// Compares what the grid says of itself with a count of its fields.
     void ExpectRightStatus() {
+        grid.Status(); // pumps: only now the fields are what is compared
         int free = 0, locked = 0, set = 0, next = 0, least = grid.Numbers() + 1;
         std::vector<int> dead;
         for (const auto& field : grid.Items) {

@@ -40,7 +40,7 @@ TEST_F(CommandsTest, ActionButtonsWorkAPuzzleByHand) {
                   shown);
         EXPECT_EQ(window.lblField(cursor).BackColor(), GreenColor);
     }
-    EXPECT_EQ(spy.Beeps, 1) << "the second way back led nowhere";
+    EXPECT_EQ(platform.Beeps, 1) << "the second way back led nowhere";
 }
 
 TEST_F(CommandsTest, PadKeysEnterLockAndClear) {
@@ -223,7 +223,7 @@ TEST_F(CommandsTest, GroupsViewShowsEachGroupAndKeepsMenusAndFieldsAway) {
     user.start(0);
     ASSERT_TRUE(Menu("mnuViewGroups"));
     EXPECT_EQ(Shows(81), "4 green/text") << "the number pad can still be used";
-    EXPECT_EQ(spy.Sleeps, std::vector(27, 1000));
+    EXPECT_EQ(platform.Sleeps, std::vector(27, 1000));
     ASSERT_EQ(shown.size(), 27U);
     EXPECT_EQ(shown[0], (std::vector{1, 2, 3, 4, 5, 6, 7, 8, 9}));
     EXPECT_EQ(shown[9], (std::vector{1, 10, 19, 28, 37, 46, 55, 64, 73}));

@@ -16,13 +16,13 @@ protected:
     // Runs the program: the user does something, and closes the window as soon as `moment` has
     // come. The program must end soon after, every handler with it.
     void ExpectPromptEnd(std::function<void()> doSomething, std::function<bool()> moment) {
-        spy.ReallySleeps = true;
+        platform.ReallySleeps = true;
         bool ended = false;
         QElapsedTimer sinceClose;
         const auto closeInTime = [&] {
             if (!sinceClose.isValid() && moment() && form->close()) sinceClose.start();
         };
-        spy.AtPump = closeInTime;
+        platform.AtPump = closeInTime;
         QTimer boxes; // while one is open, nothing is pumped
         QObject::connect(&boxes, &QTimer::timeout, closeInTime);
         boxes.start(1);
@@ -32,7 +32,7 @@ protected:
             if (!sinceClose.isValid()) QApplication::exit();
         });
         QApplication::exec();
-        spy.AtPump = nullptr;
+        platform.AtPump = nullptr;
         EXPECT_TRUE(ended);
         ASSERT_TRUE(sinceClose.isValid());
         EXPECT_LT(sinceClose.elapsed(), 1000);
@@ -42,7 +42,7 @@ protected:
 };
 
 TEST_F(LifeCycleTest, ReturnFromElsewhereIsAnActivationButNotFromAnOwnBox) {
-    const auto activations = [this] { return std::ranges::count(spy.Styles, 0x40000); };
+    const auto activations = [this] { return std::ranges::count(platform.Styles, 0x40000); };
     EXPECT_EQ(activations(), 1);
     Answer(QMessageBox::Ok);
     ASSERT_TRUE(Menu("mnuAbout"));

@@ -26,17 +26,17 @@ std::string NameOf(Color color) {
 
 void SpyPlatform::PumpEvents() {
     if (AtPump) AtPump();
-    mBelow.PumpEvents();
+    QtPlatform::PumpEvents();
 }
 
 void SpyPlatform::Sleep(int milliseconds) {
     Sleeps.push_back(milliseconds);
-    if (ReallySleeps) mBelow.Sleep(milliseconds);
+    if (ReallySleeps) QtPlatform::Sleep(milliseconds);
 }
 
 void SpyPlatform::SetWindowLongA(int handle, int index, int value) {
     Styles.push_back(value);
-    mBelow.SetWindowLongA(handle, index, value);
+    QtPlatform::SetWindowLongA(handle, index, value);
 }
 
 WindowTest::WindowTest() {

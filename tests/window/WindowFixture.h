@@ -1,7 +1,6 @@
 // The real window with a user made of mouse and key events.
 #pragma once
 
-#include "platform/NullPlatform.h"
 #include "platform/qt/QtPlatform.h"
 #include "ui/frmTessarin.h"
 
@@ -22,12 +21,9 @@ constexpr Color Normal = SystemColor(5);
 constexpr Color RedColor = 0x0000FF;
 constexpr Color GreenColor = 0x00FF00;
 
-/// Hands on to the platform below what concerns the window, and notes what passes.
-class SpyPlatform final : public NullPlatform {
+/// The real machine, which notes what passes.
+class SpyPlatform final : public qt::QtPlatform {
 public:
-    explicit SpyPlatform(Platform& below) : mBelow(below) { SetCurrent(this); }
-    ~SpyPlatform() override { SetCurrent(&mBelow); }
-
     bool ReallySleeps = false; ///< off: a sleep takes no time
     std::vector<int> Sleeps;
     int Beeps = 0;
@@ -36,17 +32,8 @@ public:
 
     void PumpEvents() override;
     void Sleep(int milliseconds) override;
-    bool EscPressed() override { return mBelow.EscPressed(); }
-    Message::Answer ShowMessage(const Message& m) override { return mBelow.ShowMessage(m); }
     void Beep() override { ++Beeps; }
-    void SetMousePointer(MousePointer pointer) override { mBelow.SetMousePointer(pointer); }
-    int GetDesktopWindow() override { return mBelow.GetDesktopWindow(); }
-    void LockWindowUpdate(int handle) override { mBelow.LockWindowUpdate(handle); }
-    void ShowWindow(int handle, int command) override { mBelow.ShowWindow(handle, command); }
     void SetWindowLongA(int handle, int index, int value) override;
-
-private:
-    Platform& mBelow;
 };
 
 /// The window, shown and active. Whatever the user does is handled before the call returns: the
@@ -91,8 +78,7 @@ protected:
     QString File(const QString& name, const QByteArray& content);
 
     QTemporaryDir folder;
-    qt::QtPlatform platform;
-    SpyPlatform spy{platform};
+    SpyPlatform platform;
     frmTessarin window{platform};
     QWidget* const form = dynamic_cast<QWidget*>(&window.Peer());
 

@@ -12,7 +12,7 @@ class QtForm;
 
 /// The machine as Qt 6 Widgets shows it, and the toolkit of its one form. Needs a QApplication and
 /// is the current Platform while it lives.
-class QtPlatform final : public Platform, public Toolkit {
+class QtPlatform : public Platform, public Toolkit {
 public:
     /// Gives the application the look that the window is measured for, on every desktop.
     QtPlatform();
