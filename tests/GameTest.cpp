@@ -1,8 +1,13 @@
 #include "GameFixture.h"
 #include "support/modTextStream.h"
 
+#include <csignal>
 #include <filesystem>
 #include <random>
+#include <thread>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace tessarin {
 
@@ -53,20 +58,73 @@ private:
                                     ("tessarin-test-" + std::to_string(std::random_device{}()));
 };
 
-TEST_F(GameFilesTest, ExportsKeepExistingFiles) {
+TEST_F(GameFilesTest, ExportsCreateAFileOrTouchNothing) {
     const std::string csv = grid.TextCSV(), sdk = grid.TextSDK();
+    const std::string odd = "-\xC3\xA4 'b\"\n\xFF;*", gone = "gone/grid";
+    std::filesystem::create_symlink(Path("nowhere"), Path("dangling"));
+    std::filesystem::create_symlink(Path("mine"), Path("link"));
+    WriteTextFile(Path("mine"), "mine", "", false);
     for (int value = 5; value <= 6; ++value) { // the second time within the same second
         At(1).SetValue(value);
         game.FileExportCSV();
         game.FileExportSDK();
-        game.FileExportCSV(Path("grid"));
         game.FileExportSDK(Path("rows.txt"));
-        game.FileExportCSV(Path("missing/grid"));
+        for (const std::string& name : {odd, gone, std::string("dangling"), std::string("link"),
+                                        std::string(), std::string(300, 'x')})
+            game.FileExportCSV(Path(name));
     }
-    EXPECT_EQ(Content("Tessarin-20220429-064952.csv"), csv);
-    EXPECT_EQ(Content("Tessarin-20220429-064952.sdk"), sdk);
-    EXPECT_EQ(Content("grid"), csv);
-    EXPECT_EQ(Content("rows.txt"), sdk);
+    const std::map<std::string, std::string> files{{"Tessarin-20220429-064952.csv", csv},
+                                                   {"Tessarin-20220429-064952.sdk", sdk},
+                                                   {"rows.txt", sdk},
+                                                   {odd, csv},
+                                                   {"mine", "mine"},
+                                                   {"link", "mine"},
+                                                   {"dangling", ""}};
+    std::map<std::string, std::string> found;
+    for (const auto& entry : std::filesystem::directory_iterator(platform.Folder))
+        found[entry.path().filename()] = ReadTextFile(entry.path());
+    EXPECT_EQ(found, files);
+}
+
+TEST_F(GameFilesTest, OneOfTwoProgramsWritesTheFile) {
+    for (int round = 0; round < 50; ++round) {
+        const std::string file = Path(std::to_string(round));
+        std::string results[2];
+        std::thread other([&] { results[0] = WriteTextFile(file, "0", "", false); });
+        results[1] = WriteTextFile(file, "1", "", false);
+        other.join();
+        EXPECT_NE(results[0].empty(), results[1].empty());
+        EXPECT_EQ(ReadTextFile(file), results[0].empty() ? "0" : "1");
+    }
+}
+
+TEST_F(GameFilesTest, AFullDiskIsReported) {
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit small{.rlim_cur = 100, .rlim_max = limit.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    for (const std::size_t size : {101U, 1U << 20U})
+        EXPECT_NE(WriteTextFile(Path("big"), std::string(size, 'x'), "", true), "") << size;
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(WriteTextFile(Path("big"), "fits", "", true), "");
+}
+
+TEST_F(GameFilesTest, WhatIsNoTextFileIsAnEmptyOne) {
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    WriteTextFile(Path("wide"), grid.TextCSV(), "unicode", false);
+    WriteTextFile(Path("marked"), BomUtf8() + grid.TextCSV(), "", false);
+    WriteTextFile(Path("binary"), std::string(100000, '\0') + "\xFF\xFE\r\n;;;", "", false);
+    for (const std::string& file : {Path("pipe"), Path("wide"), Path("marked"), Path("binary"),
+                                    Path("missing"), Path("."), std::string("/dev/zero")}) {
+        Do("fill 5");
+        game.FileImportCSV(file);
+        EXPECT_EQ(grid.FreeCount(), 81) << file;
+        Do("fill 5");
+        game.FileImportSDK(file);
+        EXPECT_EQ(grid.FreeCount(), 80) << file;
+    }
 }
 
 TEST_F(GameFilesTest, OnlyImportsOfCSVResetThePlayer) {

@@ -32,10 +32,10 @@ std::string Field::TextCSV(bool WithEmpty) const {
 
 void Field::SetTextCSV(std::string_view MyTextCSV) {
     Clear();
-    const auto items = Split(MyTextCSV, ";");
-    if (ToNumber(ItemAt(items, 0)) != Index) return;
-    SetValue(ToNumber(ItemAt(items, 1)));
-    SetLocked(ToNumber(ItemAt(items, 2)) == 1);
+    TextItems items(MyTextCSV, ";");
+    if (ToNumber(items.Next()) != Index) return;
+    SetValue(ToNumber(items.Next()));
+    SetLocked(ToNumber(items.Next()) == 1);
 }
 
 void Field::SetTextSDK(std::string_view MyTextSDK) {
@@ -56,13 +56,13 @@ void Fields::SetTextCSV(std::string_view MyTextCSV, bool /*WithEmpty*/) {
     Init(3); // leaves the status dirty, so that loading need not, not even when it fails
     if (FirstLine(MyTextCSV) != HeaderCSV) return;
     const Silence silence(*this);
-    const auto lines = Split(MyTextCSV, LineBreak);
-    for (auto line = lines.begin() + 1; line != lines.end(); ++line)
-        if (!line->empty()) LoadCSVLine(*line);
+    TextItems lines(MyTextCSV, LineBreak);
+    for (lines.Next(); !lines.AtEnd();)
+        if (const auto line = lines.Next(); !line.empty()) LoadCSVLine(line);
 }
 
 void Fields::LoadCSVLine(std::string_view line) {
-    const int index = ToNumber(Split(line, ";").front());
+    const int index = ToNumber(TextItems(line, ";").Next());
     Items.Item(index)->SetTextCSV(line);
 }
 
@@ -79,19 +79,20 @@ std::string Fields::TextSDK() const {
 
 void Fields::SetTextSDK(std::string_view MyTextCSV) {
     if (FirstLine(MyTextCSV) != HeaderSDK) return;
-    const auto lines = Split(MyTextCSV, LineBreak);
-    // The line break of the last row leaves one more, empty line.
-    const int dimension = DimensionOfRows(lines.size() - 2);
+    TextItems lines(MyTextCSV, LineBreak);
+    // The header, and the line break of the last row leaves one more, empty line.
+    const int dimension = DimensionOfRows(CountItems(lines) - 2);
     if (dimension == 0 || !Init(dimension).empty()) return;
     const Silence silence(*this);
-    for (std::size_t i = 1; i < lines.size(); ++i)
-        LoadSDKRow(static_cast<int>(i), lines[i]);
+    lines.Next();
+    for (int row = 1; !lines.AtEnd(); ++row)
+        LoadSDKRow(row, lines.Next());
 }
 
 void Fields::LoadSDKRow(int row, std::string_view line) {
     int position = (row - 1) * Numbers();
-    for (const auto item : Split(line, ","))
-        Items.Item(++position)->SetTextSDK(item);
+    for (TextItems items(line, ","); !items.AtEnd();)
+        Items.Item(++position)->SetTextSDK(items.Next());
 }
 
 } // namespace tessarin

@@ -3,6 +3,7 @@
 #include "model/Errors.h"
 
 #include <charconv>
+#include <stdexcept>
 #include <string>
 
 namespace tessarin {
@@ -19,24 +20,23 @@ std::string Quoted(std::string_view item) {
 
 } // namespace
 
-std::vector<std::string_view> Split(std::string_view text, std::string_view separator) {
-    std::vector<std::string_view> items;
-    if (text.empty()) return items;
-    std::size_t start = 0;
-    for (auto end = text.find(separator); end != std::string_view::npos;
-         end = text.find(separator, start)) {
-        items.push_back(text.substr(start, end - start));
-        start = end + separator.size();
-    }
-    items.push_back(text.substr(start));
-    return items;
+TextItems::TextItems(std::string_view text, std::string_view separator)
+    : msRest(text), msSeparator(separator), mbAtEnd(text.empty()) {}
+
+std::string_view TextItems::Next() {
+    if (mbAtEnd) throw std::out_of_range("too few items");
+    const auto end = msRest.find(msSeparator);
+    const std::string_view item = msRest.substr(0, end);
+    mbAtEnd = end == std::string_view::npos;
+    if (!mbAtEnd) msRest.remove_prefix(end + msSeparator.size());
+    return item;
 }
 
-std::string_view ItemAt(const std::vector<std::string_view>& items, std::size_t position) {
-    if (position >= items.size())
-        throw std::out_of_range("no item " + std::to_string(position) + " among " +
-                                std::to_string(items.size()));
-    return items[position];
+std::size_t CountItems(TextItems items) {
+    std::size_t count = 0;
+    for (; !items.AtEnd(); items.Next())
+        ++count;
+    return count;
 }
 
 int ToNumber(std::string_view item) {

@@ -1,17 +1,30 @@
 // Lines and items of the puzzle text formats.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
-#include <vector>
 
 namespace tessarin {
 
-/// Cuts `text` at every `separator` (exact comparison). The empty text has no items; any other has
-/// one more than separators. The items point into `text`.
-std::vector<std::string_view> Split(std::string_view text, std::string_view separator);
+/// The items of a text, one after the other: what lies between its separators (exact comparison).
+/// The empty text has no items; any other has one more than separators. The items point into the
+/// text.
+class TextItems {
+public:
+    TextItems(std::string_view text, std::string_view separator);
 
-/// The item at `position` (from 0). Throws std::out_of_range where there is none.
-std::string_view ItemAt(const std::vector<std::string_view>& items, std::size_t position);
+    bool AtEnd() const { return mbAtEnd; }
+    /// Throws std::out_of_range at the end.
+    std::string_view Next();
+
+private:
+    std::string_view msRest;
+    std::string_view msSeparator;
+    bool mbAtEnd;
+};
+
+/// How many items there are. Takes no memory, however long the text is.
+std::size_t CountItems(TextItems items);
 
 /// The whole number written in `item`: blanks (code 32), an optional sign, digits, blanks. Throws
 /// TypeMismatchError for anything else, std::overflow_error for a number outside 32 bits.

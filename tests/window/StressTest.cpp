@@ -28,33 +28,14 @@ unsigned FromEnvironment(const char* name, unsigned otherwise) {
 class StressedWindow : public WindowTest {
 public:
     // Names of menu entries and controls; a file dialog is answered with the file after the blank.
-    static inline const QStringList Commands{"mnuFileImportCSV easy-1.csv",
-                                             "mnuFileImportCSV hard-1.csv",
-                                             "mnuFileImportCSV bad.csv",
-                                             "mnuFileImportCSV missing",
-                                             "mnuFileImportCSV out.csv",
-                                             "mnuFileImportCSV .",
-                                             "mnuFileExportCSV out.csv",
-                                             "mnuEditClearFree",
-                                             "mnuEditClearAll",
-                                             "mnuEditLockAllSet",
-                                             "mnuEditLockClear",
-                                             "mnuViewFreedom",
-                                             "mnuViewGroups",
-                                             "mnuViewNeighbours",
-                                             "mnuAbout",
-                                             "lblDeadEnd",
-                                             "lblField(77)",
-                                             "btnNumPad(5)",
-                                             "btnNumPad(10)",
-                                             "btnNextFreeAuto",
-                                             "btnGoBackToFreedom",
-                                             "btnSolve",
-                                             "btnInfo",
-                                             "optChill(0)",
-                                             "optChill(6)",
-                                             "mnuFileQuit",
-                                             "close"};
+    static inline const QStringList Commands =
+        QString("mnuFileImportCSV easy-1.csv,mnuFileImportCSV hard-1.csv,mnuFileImportCSV bad.csv,"
+                "mnuFileImportCSV missing,mnuFileImportCSV out.csv,mnuFileImportCSV .,"
+                "mnuFileExportCSV out.csv,mnuEditClearFree,mnuEditClearAll,mnuEditLockAllSet,"
+                "mnuEditLockClear,mnuViewFreedom,mnuViewGroups,mnuViewNeighbours,mnuAbout,"
+                "lblDeadEnd,lblField(77),btnNumPad(5),btnNumPad(10),btnNextFreeAuto,"
+                "btnGoBackToFreedom,btnSolve,btnInfo,optChill(0),optChill(6),mnuFileQuit,close")
+            .split(',');
 
     explicit StressedWindow(std::function<int(int)> below) : Below(std::move(below)) {
         Unexpected = [this](QDialog& dialog) { AnswerBox(dialog); };
@@ -110,7 +91,9 @@ public:
     void DoSomething() {
         ++mlDepth;
         platform.AtPump = [this] {
-            if (mlDepth < 3 && Below(300) == 0) DoSomething();
+            if (mlDepth > 2 || Below(300) != 0) return;
+            mbInterfered = true;
+            DoSomething();
         };
         const int what = Below(100);
         if (what < 70) {
@@ -146,6 +129,7 @@ public:
         if (std::exchange(mbPaceChanged, false)) window.RefreshAll();
         std::set<std::pair<int, int>> held;
         int empty = 0;
+        bool twice = false;
         for (const auto& field : Grid().Items) {
             const int value = field->Value();
             EXPECT_EQ(window.lblField(field->Index).Caption(),
@@ -153,9 +137,12 @@ public:
                 << "field " << field->Index;
             empty += value == 0 ? 1 : 0;
             for (const int group : field->InGroups)
-                EXPECT_TRUE(value == 0 || held.emplace(group, value).second)
-                    << value << " twice in group " << group;
+                twice |= value != 0 && !held.emplace(group, value).second;
         }
+        // A value that is loaded or given back may meet one that was entered in the meantime.
+        EXPECT_TRUE(!twice || mbInterfered);
+        if (twice) Load("easy-1.csv");
+        mbInterfered = false;
         EXPECT_EQ(Grid().FreeCount(), empty);
         const KeyedNumbers history = goGame->Play->History.value_or(KeyedNumbers());
         EXPECT_EQ(std::set<int>(history.begin(), history.end()).size(),
@@ -185,6 +172,7 @@ private:
     QString mFile;
     int mlDepth = 0;
     bool mbPaceChanged = false;
+    bool mbInterfered = false; // something was done in the middle of something else
 };
 
 // Opens a window unless one is open. One lives at a time.
