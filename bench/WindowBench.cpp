@@ -1,6 +1,5 @@
 // What the real window costs on Qt's offscreen platform, from the click to the repainted grid, and
 // from the start of a process to its first painted window.
-#include "platform/NullPlatform.h"
 #include "platform/qt/QtPlatform.h"
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"
@@ -17,43 +16,34 @@
 namespace tessarin {
 namespace {
 
+class CountingPlatform final : public qt::QtPlatform {
+public:
+    int Pumps = 0;
+    void PumpEvents() override {
+        ++Pumps;
+        QtPlatform::PumpEvents();
+    }
+};
+
 struct Window {
-    qt::QtPlatform Platform;
+    CountingPlatform Platform;
     frmTessarin Form{Platform};
 
     Window() {
         Form.Show();
         PumpEvents();
     }
-};
-
-void LoadPuzzle(frmTessarin& form, const std::string& name) {
-    goGame->FileImportCSV(PUZZLES + name + ".csv");
-    goGame->Fields->SetIndex(1);
-    form.RefreshAll();
-    PumpEvents();
-}
-
-// Counts the pumps of the logic on its way.
-class CountingPlatform : public NullPlatform {
-public:
-    int Pumps = 0;
-    void PumpEvents() override { ++Pumps; }
-};
-
-int PumpsOfSolve(const std::string& name) {
-    CountingPlatform counting;
-    Platform* const before = Platform::SetCurrent(&counting);
-    {
-        Game game;
-        game.FileImportCSV(PUZZLES + name + ".csv");
-        game.Fields->SetIndex(1);
-        counting.Pumps = 0;
-        game.Play->Solve();
+    void Load(const std::string& puzzle) {
+        goGame->FileImportCSV(PUZZLES + puzzle + ".csv");
+        goGame->Fields->SetIndex(1);
+        Form.RefreshAll();
+        PumpEvents();
     }
-    Platform::SetCurrent(before);
-    return counting.Pumps;
-}
+    void Solve() {
+        Form.btnSolve.RaiseClick();
+        PumpEvents();
+    }
+};
 
 // By option of the side column: 0 is quiet, 1 paints every move without a pause.
 void SolveFromClick(benchmark::State& state, const char* puzzle, int option) {
@@ -61,10 +51,9 @@ void SolveFromClick(benchmark::State& state, const char* puzzle, int option) {
     window.Form.optChill(option).Select();
     for (auto _ : state) {
         state.PauseTiming();
-        LoadPuzzle(window.Form, puzzle);
+        window.Load(puzzle);
         state.ResumeTiming();
-        window.Form.btnSolve.RaiseClick();
-        PumpEvents();
+        window.Solve();
     }
     if (!goGame->Fields->IsWinner()) state.SkipWithError("not solved");
 }
@@ -74,8 +63,12 @@ BENCHMARK_CAPTURE(SolveFromClick, painted_easy, "easy-1", 1)->Unit(benchmark::kM
 
 // The pumps of the same solve with nothing between them.
 void BarePumps(benchmark::State& state, const char* puzzle) {
-    const int pumps = PumpsOfSolve(puzzle);
     Window window;
+    window.Form.optChill(0).Select();
+    window.Load(puzzle);
+    window.Platform.Pumps = 0;
+    window.Solve();
+    const int pumps = window.Platform.Pumps;
     for (auto _ : state)
         for (int i = 0; i < pumps; ++i)
             PumpEvents();
@@ -98,7 +91,7 @@ BENCHMARK_CAPTURE(PaintOneField, unchanged, false);
 
 void RefreshAll(benchmark::State& state, bool changing) {
     Window window;
-    LoadPuzzle(window.Form, "hard-1");
+    window.Load("hard-1");
     for (auto _ : state) {
         if (changing) {
             state.PauseTiming();

@@ -29,7 +29,7 @@ TEST_F(FieldsTest, Dimensions) {
                   Text(std::vector{fields, fields, 0}));
         EXPECT_EQ(At(fields).Freedom(), grid.Numbers());
     }
-    Script("init 217 > overflow");
+    Script("index 7 & init 217 > overflow & index 8 > BeforeIndexChanged(7) IndexChanged(8)");
 }
 
 TEST_F(FieldsTest, CursorMoves) {

@@ -27,6 +27,7 @@ TEST_F(PlayTest, ClearingWalksBackAlongTheHistory) {
         back 0 > StatusChanged(2) BeforeIndexChanged(2) IndexChanged(3) [3]
         back 0 > StatusChanged(3) [] & back 0 >
         reset & index 70 & value 0 > StatusChanged(70) & value 0 >
+        index 12 & set 12 9 & trace 5 82 & value 0 > StatusChanged(12) & back 0 >
         fill 3.125....67.......9 & set 81 1 & index 81 & trace 1 81
         back 1 > StatusChanged(81) BeforeIndexChanged(81) IndexChanged(1) StatusChanged(1) [1]
         next 0 > 8
@@ -66,7 +67,7 @@ TEST_F(PlayTest, GoingBackToFreedom) {
 }
 
 TEST_F(PlayTest, WithoutCursorNothingChangesButSwitches) {
-    Script("trace & value 1 > & auto 0 > & next 1 > 0 & playlock > & back 1 > & retreat 1 > F");
+    Script("trace & value 1 > & auto 0 > & next 1 > 0 & playlock > & back 1 > & retreat 1 > F Beep");
     EXPECT_EQ(play.Retries, 1);
     EXPECT_EQ(play.Value(), 0);
     EXPECT_FALSE(play.Locked());

@@ -8,8 +8,7 @@ class Fields;
 class Groups;
 
 /// The grid and its groups as the objects of the model find them: a field or group knows others by
-/// number only and looks them up here. The Game is the one Board of a run; its name among the
-/// classes above the model is goGame.
+/// number only and looks them up here. The Game is the one Board of a run.
 struct Board {
     /// Becomes the current board.
     Board();

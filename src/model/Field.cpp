@@ -36,7 +36,7 @@ ValueBits Field::FreeBits(int word) const {
     ValueBits taken = 0;
     for (const int index : InGroups)
         if (const auto* const group = board.Groups->Items.Find(index))
-            taken |= (*group)->TakenValues(board.Fields->Items, word) | BitOf(mlValue, word);
+            taken |= (*group)->HeldValues(board.Fields->Items, word) | BitOf(mlValue, word);
     return AllValues(board.Fields->Numbers(), word) & ~taken;
 }
 

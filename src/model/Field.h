@@ -56,7 +56,7 @@ public:
     /// Clears the field, then takes value and lock from a line that names its index, through the
     /// setters above. Throws TypeMismatchError, std::overflow_error or std::out_of_range (too few
     /// items) and then keeps what it has taken so far.
-    void SetTextCSV(std::string_view MyTextCSV);
+    void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
     /// Clears the field, then takes the number as value and locks it unless it is 0, without
     /// telling the grid. Throws TypeMismatchError or std::overflow_error and is then clear.
     void SetTextSDK(std::string_view MyTextSDK);

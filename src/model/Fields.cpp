@@ -4,6 +4,7 @@
 #include "model/TakenValues.h"
 #include "platform/Platform.h"
 
+#include <cstdint>
 #include <limits>
 #include <stdexcept>
 
@@ -30,16 +31,17 @@ std::string Fields::Init(int MyDimension) {
     if (dimension < 3) return "Diemsion kleiner als 3 (" + std::to_string(dimension) + ")";
     if (dimension % 2 == 0)
         return "Dimension darf nicht gerade sein (" + std::to_string(dimension) + ")";
-    mlDimension = dimension;
-    Cursor.reset();
-    Items = {};
-    const int count = Count();
-    Items.Reserve(count);
+    const int count = Square(Square(dimension));
+    decltype(Items) items;
+    items.Reserve(count);
     for (int i = 1; i <= count; ++i) {
         auto field = std::make_shared<Field>();
         field->Index = i;
-        Items.Add(std::move(field));
+        items.Add(std::move(field));
     }
+    mlDimension = dimension;
+    Cursor.reset();
+    Items = std::move(items);
     Events.Init.Raise();
     MarkDirty();
     return "";

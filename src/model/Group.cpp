@@ -19,7 +19,7 @@ std::string Group::FlavorText() const {
     }
 }
 
-ValueBits Group::TakenValues(const Collection<std::shared_ptr<Field>>& items, int word) const {
+ValueBits Group::HeldValues(const Collection<std::shared_ptr<Field>>& items, int word) const {
     ValueBits taken = 0;
     for (const int index : Fields)
         if (const auto* const field = items.Find(index)) taken |= BitOf((*field)->Value(), word);

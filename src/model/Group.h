@@ -24,7 +24,7 @@ public:
 
     /// Which values of `word` the group's fields hold; `items` are the grid's fields, and one that
     /// is not among them holds nothing.
-    ValueBits TakenValues(const Collection<std::shared_ptr<Field>>& items, int word) const;
+    ValueBits HeldValues(const Collection<std::shared_ptr<Field>>& items, int word) const;
 };
 
 } // namespace tessarin

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Collection.h"
+#include <vector>
 
 namespace tessarin {
 

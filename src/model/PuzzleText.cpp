@@ -30,7 +30,7 @@ std::string Field::TextCSV(bool WithEmpty) const {
     return std::to_string(Index) + ";" + std::to_string(mlValue) + (mbLocked ? ";1" : ";0");
 }
 
-void Field::SetTextCSV(std::string_view MyTextCSV) {
+void Field::SetTextCSV(std::string_view MyTextCSV, bool /*WithEmpty*/) {
     Clear();
     TextItems items(MyTextCSV, ";");
     if (ToNumber(items.Next()) != Index) return;

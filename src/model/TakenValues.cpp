@@ -24,7 +24,8 @@ ValueBits Together(const std::vector<ValueBits>& bits, const auto& members) {
 
 TakenValues::TakenValues(const Board& board) : mlNumbers(board.Fields->Numbers()) {
     const auto& fields = board.Fields->Items;
-    const auto& groups = board.Groups->Items;
+    static const decltype(board.Groups->Items) None; // of a board whose groups are still to come
+    const auto& groups = board.Groups ? board.Groups->Items : None;
     std::vector<ValueBits> held(static_cast<std::size_t>(fields.Count()));
     mBits.resize(static_cast<std::size_t>(WordCount(mlNumbers)));
     for (int word = 0; auto& bits : mBits) {

@@ -21,10 +21,10 @@ std::string Quoted(std::string_view item) {
 } // namespace
 
 TextItems::TextItems(std::string_view text, std::string_view separator)
-    : msRest(text), msSeparator(separator), mbAtEnd(text.empty()) {}
+    : msText(text), msRest(text), msSeparator(separator), mbAtEnd(text.empty()) {}
 
 std::string_view TextItems::Next() {
-    if (mbAtEnd) throw std::out_of_range("too few items");
+    if (mbAtEnd) throw std::out_of_range("too few items in " + Quoted(msText));
     const auto end = msRest.find(msSeparator);
     const std::string_view item = msRest.substr(0, end);
     mbAtEnd = end == std::string_view::npos;

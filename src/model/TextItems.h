@@ -18,6 +18,7 @@ public:
     std::string_view Next();
 
 private:
+    std::string_view msText;
     std::string_view msRest;
     std::string_view msSeparator;
     bool mbAtEnd;

@@ -60,8 +60,9 @@ public:
 
     /// Handles all window events that are waiting, once. Any handler of the window may run inside.
     virtual void PumpEvents() = 0;
-    /// Stops the program for so many milliseconds (above 0). No input of the user is handled and no
-    /// timer ticks meanwhile; a window that is closed ends it early.
+    /// Stops the program for so many milliseconds (above 0). The window may be painted, activated
+    /// and closed meanwhile; no other input of the user is handled and no timer ticks. A window that
+    /// is closed ends it early.
     virtual void Sleep(int milliseconds) = 0;
     /// Whether ESC is down now or has been pressed since the last call.
     virtual bool EscPressed() = 0;

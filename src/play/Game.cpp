@@ -33,7 +33,7 @@ Game::~Game() {
     Play.reset();
     Groups.reset();
     Fields.reset();
-    goGame = nullptr;
+    if (goGame == this) goGame = nullptr;
 }
 
 } // namespace tessarin

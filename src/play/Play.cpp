@@ -46,7 +46,6 @@ void Play::GoBack(bool AutoValue) {
 
 bool Play::GoBackToFreedom(bool AutoValue) {
     ++Retries;
-    if (!Grid().Cursor) return false;
     const int oldValue = Value();
     const int start = Grid().Index();
     for (;;) {
@@ -102,7 +101,8 @@ void Play::Empty(Field& field) {
 
 void Play::GotoNewestEntry() {
     if (!mbTracing || !History || History->Count() == 0) return;
-    Grid().SetIndex(History->Item(History->Count()));
+    const int newest = History->Item(History->Count());
+    if (newest <= Grid().Items.Count()) Grid().SetIndex(newest); // it may be of a larger grid
 }
 
 bool Play::Locked() const {

@@ -9,14 +9,14 @@
 namespace tessarin {
 
 class Field;
-class Fields;
 
 /// The player: moves the cursor of the game's grid, enters, changes and clears the value of the
 /// cursor field, keeps a history of the fields it filled, goes back along it, and solves by itself.
 ///
 /// It never consults a field's lock. What cannot be done (a value that is not free, no next free
 /// field, an empty history, no cursor) changes nothing and reports nothing. Every change raises the
-/// grid's events, in which any other command may run; each step looks at the cursor afresh.
+/// grid's events, in which any other command may run; each step looks at the cursor afresh, but
+/// SetValue stays with the field that it began with.
 class Play {
 public:
     /// Attaches itself to the grid of the current game. Tracing is off.
@@ -51,9 +51,10 @@ public:
 
     /// The cursor field's value, 0 without a cursor.
     int Value(bool AutoValue = false) const;
-    /// Enters a free value into the cursor field and the field into the history. 0 empties the
-    /// field, takes it out of the history and moves the cursor to the newest entry left; from an
-    /// empty field it only moves there. With AutoValue the value is the next free one, if any.
+    /// Enters a free value into the cursor field and, while tracing, the field into the history. 0
+    /// empties the field, takes it out of the history and moves the cursor to the newest entry
+    /// left; from an empty field it only moves there. With AutoValue the value is the next free
+    /// one, if any.
     void SetValue(int MyValue, bool AutoValue = false);
 
     /// The cursor field's lock, False without a cursor.

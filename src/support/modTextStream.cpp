@@ -1,5 +1,6 @@
 #include "support/modTextStream.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -32,12 +33,12 @@ std::string Read(const std::string& fileName, std::size_t limit = std::string::n
         std::string content;
         std::array<char, 65536> block{};
         while (content.size() < limit) {
-            const std::size_t got = std::fread(block.data(), 1, block.size(), file.get());
+            const std::size_t wanted = std::min(block.size(), limit - content.size());
+            const std::size_t got = std::fread(block.data(), 1, wanted, file.get());
             if (got == 0) break;
             content.append(block.data(), got);
         }
         if (std::ferror(file.get()) != 0) return "";
-        if (content.size() > limit) content.resize(limit);
         return content;
     } catch (const std::exception&) { // a file that does not fit into the memory
         return "";
@@ -61,7 +62,8 @@ int Write(const std::string& fileName, const std::string& bytes, bool replaceExi
     const int error = errno;
     const bool closed = std::fclose(file) == 0;
     if (written && closed) return 0;
-    return written ? errno : error;
+    const int last = written ? errno : error;
+    return last != 0 ? last : EIO;
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 
+#include <algorithm>
+
 namespace tessarin::qt {
 
 namespace {
