@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <map>
 #include <string>
@@ -101,14 +102,17 @@ public:
         grid.Status(); // pumps: only now the fields are what is compared
         int free = 0, locked = 0, set = 0, next = 0, least = grid.Numbers() + 1;
         std::vector<int> dead;
+        std::vector<std::uint8_t> values(1);
+        for (const auto& field : grid.Items)
+            values.push_back(static_cast<std::uint8_t>(field->Value()));
         for (const auto& field : grid.Items) {
             locked += field->Locked() ? 1 : 0;
             set += field->Value() != 0 && !field->Locked() ? 1 : 0;
             if (field->Value() != 0) continue;
             ++free;
-            std::vector<bool> taken(256);
+            std::array<bool, 256> taken{};
             for (const int i : field->Neighbours)
-                taken[static_cast<std::uint8_t>(At(i).Value())] = true;
+                taken[values[static_cast<std::size_t>(i)]] = true;
             const auto first = taken.begin() + 1;
             const int freedom = static_cast<int>(std::count(first, first + grid.Numbers(), false));
             if (freedom == 0) dead.push_back(field->Index);

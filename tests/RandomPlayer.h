@@ -12,7 +12,7 @@ public:
     RandomPlayer(bool impatient, std::function<int(int)> below)
         : mbImpatient(impatient), mBelow(std::move(below)) {
         mCommands["reload"] = [this](int, auto&) {
-            if (grid.Dimension() == 3) grid.SetTextCSV(grid.TextCSV());
+            grid.SetTextCSV(grid.Dimension() == 3 ? grid.TextCSV() : "");
         };
     }
 
@@ -28,7 +28,7 @@ public:
         const std::string line = move + " " + std::to_string(least + mBelow(count));
         SCOPED_TRACE(line);
         if (++mlDepth < 3 && mbImpatient) platform.AtPump(1 + 7 * mBelow(60), [this] { Step(); });
-        platform.Esc.assign(40, false); // a solve that takes long is cancelled
+        platform.Esc.assign(8, false); // a solve that takes long is cancelled
         platform.Esc.push_back(true);
         platform.Answers.assign(1, true);
         Do(line);

@@ -115,8 +115,6 @@ protected:
     /// The control has got another width or height.
     virtual void Resized() {}
 
-    Toolkit& UsedToolkit() { return mToolkit; }
-
     template <class T>
     void Assign(T& member, const T& value, Property property) {
         if (member == value) return;

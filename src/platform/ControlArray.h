@@ -2,7 +2,6 @@
 
 #include "platform/Control.h"
 
-#include <cstddef>
 #include <functional>
 #include <map>
 #include <memory>

@@ -37,7 +37,8 @@ public:
     }
 };
 
-/// Holds other controls; disabling it disables all of them. With a caption it has a border.
+/// Holds other controls; disabling it disables all of them. Its BorderStyle gives it a
+/// border, which makes room for the caption.
 class Frame : public Control {
 public:
     Frame(Control& container, Design design)

@@ -60,9 +60,9 @@ public:
 
     /// Handles all window events that are waiting, once. Any handler of the window may run inside.
     virtual void PumpEvents() = 0;
-    /// Stops the program for so many milliseconds (above 0). The window may be painted, activated
-    /// and closed meanwhile; no other input of the user is handled and no timer ticks. A window that
-    /// is closed ends it early.
+    /// Stops the program for so many milliseconds (above 0), less when the window is closed by a
+    /// handler. The window may be painted and activated meanwhile; apart from what the activation
+    /// pumps, no input of the user is handled and no timer ticks.
     virtual void Sleep(int milliseconds) = 0;
     /// Whether ESC is down now or has been pressed since the last call.
     virtual bool EscPressed() = 0;
@@ -87,7 +87,8 @@ public:
 
     // The window-style calls behind the taskbar entry. A window is named by its native handle.
     virtual int GetDesktopWindow() = 0;
-    /// Holds back the painting of a window and all in it; handle 0 lets it go on.
+    /// Holds back what the calls below do to a window, so that it does not flicker; handle 0 lets
+    /// it show.
     virtual void LockWindowUpdate(int handle) = 0;
     /// Command 0 hides the window, command 5 shows and activates it.
     virtual void ShowWindow(int handle, int command) = 0;

@@ -8,7 +8,6 @@
 #include "ui/ctlRotor/ctlRotor.h"
 
 #include <array>
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>

@@ -3,6 +3,7 @@
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"
 
+#include <array>
 #include <exception>
 #include <functional>
 #include <utility>
@@ -10,11 +11,6 @@
 namespace tessarin {
 
 namespace {
-
-// ChillDelay by option; Quiet and Step are the first and the last one.
-constexpr std::array ChillDelays{-1, 0, 100, 200, 400, 800, -2};
-
-constexpr auto FileFilter = "CSV Dokumente (*.csv)|*.csv|Alle Dateien (*.*)|*.*";
 
 // One step of a command that errors do not interrupt. Returns whether it succeeded.
 bool Attempt(const std::function<void()>& step) {
@@ -30,6 +26,15 @@ bool Confirmed(const std::string& question) {
     return Platform::Current().ShowMessage(
                {.Prompt = question, .ButtonSet = Message::Buttons::YesNo, .QuestionIcon = true}) ==
            Message::Answer::Yes;
+}
+
+void Prepare(CommonDialog& dialog, const char* title, bool fileMustExist) {
+    dialog.FileMustExist = fileMustExist;
+    dialog.PathMustExist = true;
+    dialog.DialogTitle = title;
+    dialog.Filter = "CSV Dokumente (*.csv)|*.csv|Alle Dateien (*.*)|*.*";
+    dialog.DefaultExt = ".csv";
+    dialog.CancelError = true;
 }
 
 } // namespace
@@ -133,6 +138,7 @@ void frmTessarin::btnNumPad_Click(int Index) {
 }
 
 void frmTessarin::optChill_Click(int Index) {
+    static constexpr std::array ChillDelays{Quiet, 0, 100, 200, 400, 800, Step};
     ClearCancel();
     ChillDelay = ChillDelays.at(static_cast<std::size_t>(Index));
 }
@@ -162,12 +168,7 @@ void frmTessarin::btnInfo_Click() {
 }
 
 void frmTessarin::mnuFileImportCSV_Click() {
-    CommonDialog1.FileMustExist = true;
-    CommonDialog1.PathMustExist = true;
-    CommonDialog1.DialogTitle = "Import File";
-    CommonDialog1.Filter = FileFilter;
-    CommonDialog1.DefaultExt = ".csv";
-    CommonDialog1.CancelError = true;
+    Prepare(CommonDialog1, "Import File", true);
     const bool chosen = Attempt([this] { CommonDialog1.ShowOpen(); });
     // A copy, because a command that runs meanwhile may use the dialog again.
     if (const std::string fileName = CommonDialog1.FileName; chosen && !fileName.empty()) {
@@ -184,12 +185,7 @@ void frmTessarin::mnuFileImportCSV_Click() {
 }
 
 void frmTessarin::mnuFileExportCSV_Click() {
-    CommonDialog1.FileMustExist = false;
-    CommonDialog1.PathMustExist = true;
-    CommonDialog1.DialogTitle = "Export File";
-    CommonDialog1.Filter = FileFilter;
-    CommonDialog1.DefaultExt = ".csv";
-    CommonDialog1.CancelError = true;
+    Prepare(CommonDialog1, "Export File", false);
     if (!Attempt([this] { CommonDialog1.ShowSave(); })) return;
     const std::string fileName = CommonDialog1.FileName;
     if (fileName.empty()) return;

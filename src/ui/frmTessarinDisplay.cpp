@@ -1,4 +1,4 @@
-// Painting: fields, information panel, number pad, indicators.
+// Painting: fields, information panel, number pad.
 #include "support/modWait.h"
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"

@@ -2,8 +2,6 @@
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"
 
-#include <algorithm>
-
 namespace tessarin {
 
 namespace {

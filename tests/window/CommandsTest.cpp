@@ -110,13 +110,18 @@ TEST_F(CommandsTest, ExportWritesANewFileAndLeavesAnExistingOne) {
     Enter(1, {5, 3});
     At(1).SetLocked(true);
     SetIndicators(RedColor, GreenColor);
+    ChooseFile(folder.filePath("gone/new.csv"));
+    Answer(QMessageBox::Ok);
     CancelDialog();
     ASSERT_TRUE(Menu("mnuFileExportCSV"));
+    EXPECT_EQ(Boxes.size(), 1) << "the dialog refuses the missing folder";
     EXPECT_FALSE(goGame->Play->Tracing());
     File("old.csv", "mine");
+    File("plain", "mine");
     using Row = std::tuple<const char*, const char*, QByteArray>;
     for (const auto& [typed, name, content] :
-         {Row{"new", "new.csv", header + "1;5;1\r\n2;3;0"}, Row{"old.csv", "old.csv", "mine"}}) {
+         {Row{"new", "new.csv", header + "1;5;1\r\n2;3;0"}, Row{"old.csv", "old.csv", "mine"},
+          Row{"plain", "plain.csv", header + "1;5;1\r\n2;3;0"}}) {
         goGame->Play->Reset();
         ChooseFile(folder.filePath(typed));
         ASSERT_TRUE(Menu("mnuFileExportCSV"));

@@ -16,7 +16,9 @@ bool MenuOrBoxIsOpen() {
     const auto windows = QApplication::topLevelWidgets();
     return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
         const auto* menuBar = window->findChild<QMenuBar*>();
-        return menuBar != nullptr && menuBar->activeAction() != nullptr;
+        // A title has the pointer over it or, when the bar has the focus, is chosen with keys.
+        return menuBar != nullptr && window->focusWidget() == menuBar &&
+               menuBar->activeAction() != nullptr;
     });
 }
 

@@ -23,6 +23,12 @@ QtPeer::QtPeer(Control& control, std::unique_ptr<QWidget> widget, QtForm& form)
     mForm.PlaceWidget(*mWidget, control);
 }
 
+// Each name that is set is told to screen readers, also the same one.
+void QtPeer::SetAccessibleName() {
+    if (const QString name = ToQt(mControl.AccessibleName()); name != mWidget->accessibleName())
+        mWidget->setAccessibleName(name);
+}
+
 void QtPeer::Changed(Property property) {
     switch (property) {
     case Property::Bounds:
@@ -31,14 +37,15 @@ void QtPeer::Changed(Property property) {
         break;
     case Property::Caption:
         SetCaption();
-        [[fallthrough]];
-    case Property::AccessibleName:
-        mWidget->setAccessibleName(ToQt(mControl.AccessibleName()));
+        SetAccessibleName();
         LookChanged();
+        break;
+    case Property::AccessibleName:
+        SetAccessibleName();
         break;
     case Property::ToolTipText:
         mWidget->setToolTip(ToQt(mControl.Properties().ToolTipText));
-        mWidget->setAccessibleName(ToQt(mControl.AccessibleName()));
+        SetAccessibleName();
         break;
     case Property::Font:
         mWidget->setFont(ToQt(mControl.Font()));

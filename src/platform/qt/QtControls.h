@@ -30,6 +30,8 @@ protected:
     std::unique_ptr<QWidget> mWidget;
 
 private:
+    void SetAccessibleName();
+
     QtForm& mForm;
 };
 

@@ -40,10 +40,10 @@ std::optional<std::string> QtFileDialog::Chosen() const {
     return QDir::toNativeSeparators(selectedFiles().constFirst()).toStdString();
 }
 
-// The default extension is for names that do not exist as they are typed; with it set, an existing
-// file without an extension could not be chosen.
+// A file to open may have no extension: the default one is for names that do not exist as they are
+// typed. A file to save gets it in any case.
 void QtFileDialog::accept() {
-    setDefaultSuffix(QString());
+    setDefaultSuffix(mRequest.Saving ? ToQt(mRequest.DefaultExt) : QString());
     const QStringList typed = selectedFiles();
     if (!typed.isEmpty() && !QFileInfo::exists(typed.constFirst())) {
         setDefaultSuffix(ToQt(mRequest.DefaultExt));

@@ -5,10 +5,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QIcon>
+#include <QMenuBar>
 #include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 namespace tessarin::qt {
 
@@ -84,7 +88,10 @@ void QtForm::KeepFocus(const std::function<void()>& change) {
         if (!mLostFocus || before != mFocusInstead) mLostFocus = before;
         mFocusInstead = after;
     } else if (mLostFocus && mLostFocus->isVisible() && mLostFocus->isEnabled()) {
-        if (after == mFocusInstead) mLostFocus->setFocus();
+        // The menu bar keeps a focus that it got while no control had one.
+        const auto* const bar = qobject_cast<QMenuBar*>(after);
+        const bool isLeft = bar != nullptr && bar->activeAction() == nullptr;
+        if (after == mFocusInstead || isLeft) mLostFocus->setFocus();
         mLostFocus.clear();
     }
 }
@@ -126,9 +133,9 @@ bool QtForm::event(QEvent* event) {
         break;
     case QEvent::Paint:
         CheckFrame(true);
-        // Some systems never tell that the first window has become active.
+        // Some systems never tell that the first window has become active; most do so soon.
         if (!mbActivated)
-            QTimer::singleShot(1, this, [this] {
+            QTimer::singleShot(100, this, [this] {
                 if (!mbActivated) RaiseActivate();
             });
         break;

@@ -52,11 +52,13 @@ QtPlatform::~QtPlatform() {
 }
 
 void QtPlatform::PumpEvents() {
-    if (!mbClosed) QApplication::processEvents();
+    if (mbClosed) return;
+    const QScopedValueRollback<bool> ticking(QtTimerPeer::Held, false);
+    QApplication::processEvents();
 }
 
-// In slices, after each of which the window may paint and close; what the user types and clicks
-// waits for the next pump, and timers do not tick.
+// In slices, after each of which the window may be painted and activated. What the user does waits
+// for the next pump, closing the window included, and timers do not tick.
 void QtPlatform::Sleep(int milliseconds) {
     constexpr qint64 Slice = 20;
     const QDeadlineTimer end(milliseconds);
