@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QTest>
 
+#include <utility>
+
 namespace tessarin {
 namespace {
 
@@ -22,6 +24,13 @@ protected:
     bool IsIdle() {
         return window.fraAction.Enabled() && window.fraNumPad.Enabled() &&
                !window.ctlRotor1.Running() && QApplication::overrideCursor() == nullptr;
+    }
+    // Those that are visible.
+    QList<int> RotorPictures() {
+        QList<int> pictures;
+        for (int i = 0; i < 12; ++i)
+            if (!Widget("Image1(" + std::to_string(i) + ")").isHidden()) pictures << i;
+        return pictures;
     }
     // What the system tells of the key, with its time in milliseconds.
     void Esc(QWidget& top, QEvent::Type type, quint64 time, bool repeat = false) {
@@ -117,6 +126,8 @@ TEST_F(SolveWindowTest, OnlyAnEscThatClosesNothingAsks) {
     ASSERT_TRUE(Menu("mnuFileExportCSV"));
     CancelDialog();
     ASSERT_TRUE(Menu("mnuEditClearAll"));
+    form->activateWindow(); // as a window manager does when the box is gone
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
     Widget("btnSolve").setFocus();
     Click(MenuBar(), {10, 5});
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
@@ -152,22 +163,29 @@ TEST_F(SolveWindowTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
 }
 
 TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
-    const auto visible = [this] {
-        QList<int> pictures;
-        for (int i = 0; i < 12; ++i)
-            if (!Widget("Image1(" + std::to_string(i) + ")").isHidden()) pictures << i;
-        return pictures;
-    };
     window.ctlRotor1.SetRunning(true);
     for (int seen = 0; seen < 14; ++seen) {
-        const auto last = visible();
+        const auto last = RotorPictures();
         ASSERT_EQ(last.size(), seen == 0 ? 0 : 1);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return visible() != last; }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return RotorPictures() != last; }));
         // On a busy machine one tick may come inside another, which skips a picture.
-        EXPECT_LE((visible()[0] - last.value(0, 0) + 12) % 12, 3);
+        EXPECT_LE((RotorPictures()[0] - last.value(0, 0) + 12) % 12, 3);
     }
     window.ctlRotor1.SetRunning(false);
-    EXPECT_TRUE(visible().empty());
+    EXPECT_TRUE(RotorPictures().empty());
+}
+
+TEST_F(SolveWindowTest, RotorTurnsAfterEachPause) {
+    platform.ReallySleeps = true;
+    QList<int> seen = RotorPictures();
+    int turns = -1;
+    platform.AtPump = [&] {
+        const auto last = std::exchange(seen, RotorPictures());
+        turns += last != seen ? 1 : 0;
+    };
+    window.optChill(2).Select();
+    Click("btnSolve");
+    EXPECT_GE(turns, 12);
 }
 
 } // namespace

@@ -217,8 +217,9 @@ void QtTimerPeer::Changed(Property /*property*/) {
 void QtTimerPeer::Tick() {
     constexpr int MaxDepth = 4;
     auto& timer = static_cast<Timer&>(mControl);
-    if (Held || mlDepth >= MaxDepth || !timer.Tick) return;
-    mTimer.start();
+    if (Held) return mTimer.start(0); // due as soon as it may tick
+    mTimer.start(timer.Interval());
+    if (mlDepth >= MaxDepth || !timer.Tick) return;
     ++mlDepth;
     timer.Tick();
     --mlDepth;

@@ -59,7 +59,7 @@ class QtTimerPeer : public ControlPeer {
 public:
     explicit QtTimerPeer(Control& control);
 
-    /// While set, ticks of all timers are left out.
+    /// While set, no timer ticks; one that would have is due as soon as it is not.
     inline static bool Held = false;
 
     void Changed(Property property) override;
