@@ -29,8 +29,9 @@ ctlRotor::ctlRotor(Control& container, Design design)
     : UserControl(container, std::move(design)), Image1(*this, PictureAt(0)) {
     for (int i = 1; i < RotorImages; ++i)
         Image1.Add(i, PictureAt(i));
+    const auto images = DrawRotor();
     for (int i = 0; i < RotorImages; ++i)
-        Image1(i).SetImage(RotorImage(i));
+        Image1(i).SetImage(images[static_cast<std::size_t>(i)]);
     Timer1.Tick = [this] { Timer1_Timer(); };
     UserControl_Initialize();
     UserControl_Resize();
