@@ -53,21 +53,23 @@ public:
     Play& play = *game.Play;
 
     TestGame() {
-        auto& events = grid.Events;
-        Listen(events.BeforeIndexChanged, "BeforeIndexChanged");
-        Listen(events.IndexChanged, "IndexChanged");
-        Listen(events.StatusChanged, "StatusChanged");
-        Listen(events.IsWinner, "IsWinner");
-        Listen(events.IsDeadEnd, "IsDeadEnd");
-        mConnections.push_back(events.Init.Connect([this] { mTold += "Init "; }));
+        Listen(grid.Events, "");
+        mConnections.push_back(grid.Events.Init.Connect([this] { mTold += "Init "; }));
     }
 
     Field& At(int index) { return *grid.Items.Item(index); }
 
-    /// Lets what the event tells be told under this name.
-    void Listen(Event<int>& event, const std::string& name) {
-        mConnections.push_back(event.Connect(
-            [this, name](int index) { mTold += name + "(" + std::to_string(index) + ") "; }));
+    /// Lets what the events of a grid or game tell be told, each name after the prefix.
+    void Listen(auto& events, const std::string& prefix) {
+        for (const auto& [name, event] :
+             {std::pair{"BeforeIndexChanged", &events.BeforeIndexChanged},
+              {"IndexChanged", &events.IndexChanged},
+              {"StatusChanged", &events.StatusChanged},
+              {"IsWinner", &events.IsWinner},
+              {"IsDeadEnd", &events.IsDeadEnd}})
+            mConnections.push_back(event->Connect([this, name = prefix + name](int index) {
+                mTold += name + "(" + std::to_string(index) + ") ";
+            }));
     }
 
     /// Executes one of mCommands and returns what it tells: its error, the events in order, its

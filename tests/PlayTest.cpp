@@ -67,7 +67,8 @@ TEST_F(PlayTest, GoingBackToFreedom) {
 }
 
 TEST_F(PlayTest, WithoutCursorNothingChangesButSwitches) {
-    Script("trace & value 1 > & auto 0 > & next 1 > 0 & playlock > & back 1 > & retreat 1 > F Beep");
+    Script(
+        "trace & value 1 > & auto 0 > & next 1 > 0 & playlock > & back 1 > & retreat 1 > F Beep");
     EXPECT_EQ(play.Retries, 1);
     EXPECT_EQ(play.Value(), 0);
     EXPECT_FALSE(play.Locked());

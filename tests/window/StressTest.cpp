@@ -193,6 +193,7 @@ TEST(StressTest, AnyCommandAtAnyPumpOfAnotherLeavesAWindowThatSolves) {
                                       {"optChill(6)", "btnSolve"},
                                       {"optChill(1)", "mnuViewFreedom"},
                                       {"optChill(1)", "mnuViewGroups"},
+                                      {"optChill(1)", "mnuViewNeighbours"},
                                       {"optChill(1)", "mnuFileImportCSV hard-1.csv"}})
         for (const QString& inner : StressedWindow::Commands) {
             bool lasted = true;
