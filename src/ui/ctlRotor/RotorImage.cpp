@@ -13,7 +13,6 @@ constexpr double BladeAngle = 2 * std::numbers::pi / 3;
 constexpr double Turn = BladeAngle / RotorImages;
 constexpr std::uint32_t Steel = 0x002F5D8C;
 constexpr int Samples = 4; // for each side of a pixel
-constexpr int AllSamples = Samples * Samples;
 
 using Hits = std::array<int, RotorImages>;
 
@@ -26,10 +25,11 @@ void CountHits(double x, double y, Hits& hits) {
     const double angle = std::fmod(std::atan2(-y, x) + 2 * BladeAngle, BladeAngle);
     const double front = 0.15 + 0.02 * radius;
     const double rear = front + 0.25 + 0.04 * radius;
-    for (int i = 0; i < RotorImages; ++i) {
-        const double turned = angle - i * Turn;
-        const double onBlade = turned < 0 ? turned + BladeAngle : turned;
-        if (radius < 3 || (onBlade > front && onBlade < rear)) ++hits[static_cast<std::size_t>(i)];
+    double turned = 0;
+    for (int& count : hits) {
+        const double onBlade = angle < turned ? angle - turned + BladeAngle : angle - turned;
+        if (radius < 3 || (onBlade > front && onBlade < rear)) ++count;
+        turned += Turn;
     }
 }
 
@@ -37,15 +37,20 @@ void CountHits(double x, double y, Hits& hits) {
 
 std::array<Image, RotorImages> DrawRotor() {
     std::array<Image, RotorImages> images{};
-    for (int pixel = 0; pixel < Side * Side; ++pixel) {
-        Hits hits{};
-        for (int i = 0; i < AllSamples; ++i)
-            CountHits(pixel % Side + (i % Samples + 0.5) / Samples - Centre,
-                      pixel / Side + (i / Samples + 0.5) / Samples - Centre, hits);
-        for (std::size_t i = 0; i < images.size(); ++i)
-            images[i][static_cast<std::size_t>(pixel)] =
-                static_cast<std::uint32_t>(255 * hits[i] / AllSamples) << 24 | Steel;
-    }
+    std::size_t pixel = 0;
+    for (int row = 0; row < Side; ++row)
+        for (int column = 0; column < Side; ++column) {
+            Hits hits{};
+            for (int i = 0; i < Samples; ++i)
+                for (int j = 0; j < Samples; ++j)
+                    CountHits(column + (i + 0.5) / Samples - Centre,
+                              row + (j + 0.5) / Samples - Centre, hits);
+            auto count = hits.begin();
+            for (Image& image : images)
+                image.at(pixel) =
+                    static_cast<std::uint32_t>(255 * *count++ / (Samples * Samples)) << 24 | Steel;
+            ++pixel;
+        }
     return images;
 }
 

@@ -29,9 +29,8 @@ ctlRotor::ctlRotor(Control& container, Design design)
     : UserControl(container, std::move(design)), Image1(*this, PictureAt(0)) {
     for (int i = 1; i < RotorImages; ++i)
         Image1.Add(i, PictureAt(i));
-    const auto images = DrawRotor();
-    for (int i = 0; i < RotorImages; ++i)
-        Image1(i).SetImage(images[static_cast<std::size_t>(i)]);
+    for (int i = 0; const Image& image : DrawRotor())
+        Image1(i++).SetImage(image);
     Timer1.Tick = [this] { Timer1_Timer(); };
     UserControl_Initialize();
     UserControl_Resize();
