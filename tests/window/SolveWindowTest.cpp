@@ -173,6 +173,8 @@ TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
     }
     window.ctlRotor1.SetRunning(false);
     EXPECT_TRUE(RotorPictures().empty());
+    window.ctlRotor1.SetWidth(900);
+    EXPECT_EQ(window.ctlRotor1.Width(), 480) << "as wide as a picture";
 }
 
 TEST_F(SolveWindowTest, RotorTurnsAfterEachPause) {

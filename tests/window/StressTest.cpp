@@ -185,7 +185,7 @@ void Renew(std::unique_ptr<StressedWindow>& window, std::function<int(int)> belo
 TEST(StressTest, AnyCommandAtAnyPumpOfAnotherLeavesAWindowThatSolves) {
     // The pumps of one status pass are alike, so that a step of this size meets every kind of pump
     // in some case; 1 meets every single one.
-    const int step = static_cast<int>(FromEnvironment("TESSARIN_NESTED_STEP", 97));
+    const int step = static_cast<int>(FromEnvironment("TESSARIN_NESTED_STEP", 193));
     int offset = 0;
     std::unique_ptr<StressedWindow> window;
     for (const auto& [pace, outer] : {std::pair{"optChill(1)", "btnSolve"},
