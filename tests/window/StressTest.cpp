@@ -81,7 +81,7 @@ public:
     void ExpectToSolve() {
         if (!Alive()) return;
         Do("optChill(0)");
-        Load("easy-1.csv");
+        Load("nearly-complete.csv");
         Do("btnSolve");
         EXPECT_TRUE(Grid().IsWinner());
         ExpectInOrder();
