@@ -37,8 +37,8 @@ public:
     }
 };
 
-/// Holds other controls; disabling it disables all of them. Its BorderStyle gives it a
-/// border, which makes room for the caption.
+/// Holds other controls; disabling it disables all of them. Its BorderStyle gives it a border,
+/// which makes room for the caption.
 class Frame : public Control {
 public:
     Frame(Control& container, Design design)
