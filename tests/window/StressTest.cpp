@@ -90,11 +90,12 @@ public:
     // Anything; other things may happen before it has ended.
     void DoSomething() {
         ++mlDepth;
-        platform.AtPump = [this] {
-            if (mlDepth > 2 || Below(300) != 0) return;
-            mbInterfered = true;
-            DoSomething();
-        };
+        if (!platform.AtPump) // which may be running just now
+            platform.AtPump = [this] {
+                if (mlDepth > 2 || Below(300) != 0) return;
+                mbInterfered = true;
+                DoSomething();
+            };
         const int what = Below(100);
         if (what < 70) {
             static const QRegularExpression fields("^lblField"), others("^(btn|opt|lblDeadEnd)");

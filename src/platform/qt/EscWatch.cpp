@@ -16,7 +16,7 @@ bool MenuOrBoxIsOpen() {
     const auto windows = QApplication::topLevelWidgets();
     return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
         const auto* menuBar = window->findChild<QMenuBar*>();
-        // A title has the pointer over it or, when the bar has the focus, is chosen with keys.
+        // Without the focus the title is active only because the pointer is over it.
         return menuBar != nullptr && window->focusWidget() == menuBar &&
                menuBar->activeAction() != nullptr;
     });
