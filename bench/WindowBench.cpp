@@ -1,7 +1,8 @@
 // What the real window costs on Qt's offscreen platform, from the click to the repainted grid, and
 // from the start of a process to its first painted window.
-#include "platform/qt/QtPlatform.h"
-#include "ui/FieldLook.h"
+#include "qt/QtPlatform.h"
+#include "qt/QtToolkit.h"
+#include "ui/Colors.h"
 #include "ui/frmTessarin.h"
 
 #include <benchmark/benchmark.h>
@@ -27,7 +28,8 @@ public:
 
 struct Window {
     CountingPlatform Platform;
-    frmTessarin Form{Platform};
+    qt::QtToolkit Toolkit{Platform};
+    frmTessarin Form{Toolkit};
 
     Window() {
         Form.Show();
@@ -120,7 +122,8 @@ int ShowOnce(bool bare) {
     qApp->installEventFilter(&filter);
     if (!bare) {
         qt::QtPlatform platform;
-        frmTessarin form(platform);
+        qt::QtToolkit toolkit(platform);
+        frmTessarin form(toolkit);
         form.Show();
         return QApplication::exec();
     }

@@ -1,13 +1,16 @@
-#include "platform/qt/QtPlatform.h"
+#include "Program.h"
+#include "qt/QtPlatform.h"
+#include "qt/QtToolkit.h"
 #include "ui/frmTessarin.h"
 
 #include <QApplication>
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    QApplication::setDesktopFileName("example.velmora.tessarin");
-    tessarin::qt::QtPlatform platform;
-    tessarin::frmTessarin window(platform);
+    QApplication::setDesktopFileName(tessarin::ApplicationId);
+    tessarin::qt::QtPlatform platform(tessarin::ProgramVersion);
+    tessarin::qt::QtToolkit toolkit(platform);
+    tessarin::frmTessarin window(toolkit);
     window.Show();
     return QApplication::exec();
 }

@@ -38,34 +38,38 @@ class Event {
 public:
     using Handler = std::function<void(Args...)>;
 
+    Event() = default;
+    Event(const Event&) = delete; // a copy would share the handlers
+    Event& operator=(const Event&) = delete;
+
     /// Calls `handler` at every Raise, after the handlers connected before it, until the returned
     /// connection dies.
     [[nodiscard]] Connection Connect(Handler handler) {
         auto connected = std::make_shared<bool>(true);
-        auto slots = std::make_shared<Slots>();
-        std::copy_if(mSlots->begin(), mSlots->end(), std::back_inserter(*slots),
-                     [](const Slot& slot) { return *slot.Connected; });
-        slots->push_back({connected, std::move(handler)});
-        mSlots = std::move(slots);
+        auto handlers = std::make_shared<HandlerList>();
+        std::copy_if(mHandlers->begin(), mHandlers->end(), std::back_inserter(*handlers),
+                     [](const Entry& entry) { return *entry.Connected; });
+        handlers->push_back({connected, std::move(handler)});
+        mHandlers = std::move(handlers);
         return Connection(std::move(connected));
     }
 
     /// Calls all handlers in order. Handlers may connect, disconnect, raise the event again or
     /// destroy it; one connected meanwhile hears of the next Raise only.
     void Raise(Args... args) const {
-        const std::shared_ptr<const Slots> slots = mSlots;
-        for (const Slot& slot : *slots)
-            if (*slot.Connected) slot.Call(args...);
+        const std::shared_ptr<const HandlerList> handlers = mHandlers;
+        for (const Entry& entry : *handlers)
+            if (*entry.Connected) entry.Call(args...);
     }
 
 private:
-    struct Slot {
+    struct Entry {
         std::shared_ptr<bool> Connected;
         Handler Call;
     };
-    using Slots = std::vector<Slot>;
+    using HandlerList = std::vector<Entry>;
 
-    std::shared_ptr<const Slots> mSlots = std::make_shared<const Slots>();
+    std::shared_ptr<const HandlerList> mHandlers = std::make_shared<const HandlerList>();
 };
 
 } // namespace tessarin

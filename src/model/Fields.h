@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tessarin {
 
@@ -34,6 +35,8 @@ public:
 
     /// A grid of dimension 3.
     Fields();
+    Fields(const Fields&) = delete;
+    Fields& operator=(const Fields&) = delete;
 
     GridEvents Events;
     std::shared_ptr<Field> Cursor;            ///< the current field or none; set by the grid alone
@@ -105,7 +108,6 @@ private:
         KeyedNumbers DeadFields;
         int DeadField() const { return DeadFields.Count() > 0 ? DeadFields.Item(1) : 0; }
     };
-    // Keeps changes from being reported, until it dies.
     class Silence;
 
     void MarkDirty();
@@ -129,17 +131,18 @@ private:
     unsigned mlChanges = 0; // grows with everything that makes the status dirty
 };
 
-/// Holds back the reports of field changes for its lifetime; they are on again when it ends,
-/// however it ends.
+/// Holds back the reports of field changes for its lifetime. Afterwards they are as they were.
 class Fields::Silence {
 public:
-    explicit Silence(Fields& fields) : mFields(fields) { mFields.mbNotify = false; }
+    explicit Silence(Fields& fields)
+        : mFields(fields), mbBefore(std::exchange(fields.mbNotify, false)) {}
     Silence(const Silence&) = delete;
     Silence& operator=(const Silence&) = delete;
-    ~Silence() { mFields.mbNotify = true; }
+    ~Silence() { mFields.mbNotify = mbBefore; }
 
 private:
     Fields& mFields;
+    bool mbBefore;
 };
 
 } // namespace tessarin

@@ -14,6 +14,8 @@ public:
 
     /// Builds the groups of the current board's grid.
     Groups() { Init(); }
+    Groups(const Groups&) = delete;
+    Groups& operator=(const Groups&) = delete;
 
     /// Throws the old groups away and builds all anew, registering each with its fields. Must run
     /// once on each new grid: fields that know their groups already end it with DuplicateKeyError.

@@ -5,7 +5,7 @@
 namespace tessarin {
 
 /// A machine without a window: nothing to pump, no sleep, ESC is never pressed, every question is
-/// answered No, and the style of windows is forgotten. Logic, benchmarks and fuzzers run on it.
+/// answered No, and window styles are forgotten. Logic, benchmarks and fuzzers run on it.
 class NullPlatform : public Platform {
 public:
     void PumpEvents() override {}
@@ -16,6 +16,7 @@ public:
     void SetMousePointer(MousePointer /*pointer*/) override {}
     std::string ProgramName() override { return "Tessarin"; }
     std::string ProgramFolder() override { return "."; }
+    VersionRecord Version() override { return {}; }
     int GetDesktopWindow() override { return 0; }
     void LockWindowUpdate(int /*handle*/) override {}
     void ShowWindow(int /*handle*/, int /*command*/) override {}

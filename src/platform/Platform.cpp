@@ -3,6 +3,7 @@
 #include "platform/NullPlatform.h"
 
 #include <ctime>
+#include <iostream>
 
 namespace tessarin {
 
@@ -21,15 +22,6 @@ Platform* Platform::SetCurrent(Platform* platform) {
     return previous;
 }
 
-VersionRecord Platform::Version() {
-    return {.FileDescription = TESSARIN_DESCRIPTION,
-            .LegalNotice = "Copyright 2022 Velmora",
-            .WebAddress = TESSARIN_WEB_ADDRESS,
-            .Major = TESSARIN_VERSION_MAJOR,
-            .Minor = TESSARIN_VERSION_MINOR,
-            .Revision = TESSARIN_VERSION_REVISION};
-}
-
 DateTime Platform::Now() {
     const std::time_t now = std::time(nullptr);
     const std::tm parts = *std::localtime(&now);
@@ -45,6 +37,14 @@ std::string Platform::NativePath(const std::string& path) {
     std::string native = path;
     if (const auto joint = native.rfind('\\'); joint != std::string::npos) native[joint] = '/';
     return native;
+}
+
+void Platform::ReportError(const std::string& what) {
+#ifndef NDEBUG
+    std::cerr << "A handler ended with an error: " << what << '\n';
+#else
+    static_cast<void>(what);
+#endif
 }
 
 } // namespace tessarin

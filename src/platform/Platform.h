@@ -40,14 +40,6 @@ struct Message {
 
 enum class MousePointer { Default, Hourglass };
 
-/// A colour 0x00BBGGRR, or a system colour made by SystemColor.
-using Color = std::uint32_t;
-
-/// The system colour `index` (5 window background, 18 button text), resolved when it is painted.
-constexpr Color SystemColor(std::uint32_t index) {
-    return 0x80000000U | index;
-}
-
 /// The machine below. One instance is current at a time; without any, a NullPlatform answers.
 class Platform {
 public:
@@ -60,7 +52,7 @@ public:
 
     /// Handles all window events that are waiting, once. Any handler of the window may run inside.
     virtual void PumpEvents() = 0;
-    /// Stops the program for so many milliseconds (above 0), less when the window is closed by a
+    /// Stops the program for `milliseconds` (above 0), less when the window is closed by a
     /// handler. The window may be painted and activated meanwhile; apart from what the activation
     /// pumps, no input of the user is handled and no timer ticks.
     virtual void Sleep(int milliseconds) = 0;
@@ -77,13 +69,17 @@ public:
     virtual std::string ProgramName() = 0;
     /// The folder of the program file, without a separator at its end.
     virtual std::string ProgramFolder() = 0;
-    /// The program's version record, filled from the build.
-    virtual VersionRecord Version();
+    /// The program's version record.
+    virtual VersionRecord Version() = 0;
     /// The current local time.
     virtual DateTime Now();
     /// `path`, made of a folder, a backslash and a name, in the form in which this system opens
     /// files: here the last backslash becomes a slash.
     virtual std::string NativePath(const std::string& path);
+
+    /// A handler of the window has ended with an error of which the user is not told. A debug
+    /// build shows it on the standard error stream.
+    virtual void ReportError(const std::string& what);
 
     // The window-style calls behind the taskbar entry. A window is named by its native handle.
     virtual int GetDesktopWindow() = 0;

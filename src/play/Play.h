@@ -21,6 +21,8 @@ class Play {
 public:
     /// Attaches itself to the grid of the current game. Tracing is off.
     Play();
+    Play(const Play&) = delete;
+    Play& operator=(const Play&) = delete;
 
     /// The indices of the fields filled while tracing, oldest first; none while tracing is off.
     std::optional<KeyedNumbers> History;

@@ -1,19 +1,14 @@
 // What the label of a field looks like.
 #pragma once
 
-#include "platform/Control.h"
+#include "toolkit/Control.h"
+#include "ui/Colors.h"
 
 #include <string>
 
 namespace tessarin {
 
-constexpr Color WindowBackground = SystemColor(5);
-constexpr Color ButtonText = SystemColor(18);
-constexpr Color Green = 0xFF00;
-constexpr Color Red = 0xFF;
-constexpr Color Yellow = 0xFFFF;
-
-/// The look of a field with its value, and of a label that shows no field yet.
+/// The font of a value, and of a label that shows no field yet.
 inline const FontStyle FieldFont{.Name = "Arial Black", .Size = 20};
 
 /// What the window knows of a field that it paints.
@@ -33,13 +28,14 @@ struct FieldLook {
     bool operator==(const FieldLook&) const = default;
 };
 
-/// A field with its value: a mark covers the dead colour, and both cover the cursor's.
+/// A field with its value: the colour of a mark wins over that of a dead field, and both win over
+/// the cursor's.
 FieldLook LookOf(const FieldState& field);
 
 /// An empty field with the number of its free values.
 FieldLook LookOfFreedom(int freedom);
 
-/// Gives `label` the look; what it shows already stays untouched.
+/// Gives `label` the look.
 void Apply(const FieldLook& look, Control& label);
 
 } // namespace tessarin

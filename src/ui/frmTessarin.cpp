@@ -8,6 +8,11 @@ namespace tessarin {
 
 namespace {
 
+// The fields reach down to 6120 twips, and a rim stays free below them.
+constexpr float SpaceForGrid = 6150;
+// Thirteen lines of this size fit into the information panel.
+const FontStyle PlainFont{.Size = 7.5F};
+
 Design ChillOption(const char* caption, const char* toolTip, float left, float top) {
     return {.Name = "optChill",
             .Caption = caption,
@@ -15,15 +20,17 @@ Design ChillOption(const char* caption, const char* toolTip, float left, float t
             .Left = left,
             .Top = top,
             .Width = 855,
-            .Height = 255};
+            .Height = 255,
+            .Font = PlainFont};
 }
 
 } // namespace
 
 // clang-format off
 frmTessarin::frmTessarin(Toolkit& toolkit)
-    : Form(toolkit, {.Name = "frmTessarin", .Caption = "Velmora Sudoku Solver", .Visible = false}),
-      lblFile(*this, {.Name = "lblFile", .Top = 120, .Width = 8535, .Height = 255}),
+    : Form(toolkit, {.Name = "frmTessarin", .Caption = "Velmora Sudoku Solver", .Visible = false},
+           {.Icon = "tessarin", .MinClientHeight = SpaceForGrid}),
+      lblFile(*this, {.Name = "lblFile", .Top = 120, .Width = 8535, .Height = 255, .Font = PlainFont}),
       lblField(*this, {.Name = "lblField", .Visible = false}),
       fraNumPad(*this, {.Name = "fraNumPad"}),
       btnNumPad(fraNumPad, {.Name = "btnNumPad", .Caption = "0"}),
@@ -37,9 +44,9 @@ frmTessarin::frmTessarin(Toolkit& toolkit)
       btnInfo(fraAction, {.Name = "btnInfo", .Caption = "I", .ToolTipText = "show/hide fild info"}),
       lblDeadEnd(fraAction, {.Name = "lblDeadEnd", .Caption = "DeadEnd", .ToolTipText = "dead end"}),
       lblWinner(fraAction, {.Name = "lblWinner", .Caption = "Winner", .ToolTipText = "winner"}),
-      fraInfo(*this, {.Name = "fraInfo", .Caption = "FieldInfo", .Width = 2535, .Height = 3375, .Border = BorderStyle::FixedSingle}),
-      lblInfo(fraInfo, {.Name = "lblInfo", .Caption = "Label1", .Left = 240, .Top = 360, .Width = 2055, .Height = 2655}),
-      fraChill(*this, {.Name = "fraChill", .Caption = "Chillout", .Width = 2535, .Height = 2175, .Border = BorderStyle::FixedSingle}),
+      fraInfo(*this, {.Name = "fraInfo", .Caption = "FieldInfo", .Width = 2535, .Height = 3375, .Border = BorderStyle::FixedSingle, .Font = PlainFont}),
+      lblInfo(fraInfo, {.Name = "lblInfo", .Caption = "Label1", .Left = 240, .Top = 360, .Width = 2055, .Height = 2655, .Wrap = true, .Font = PlainFont}),
+      fraChill(*this, {.Name = "fraChill", .Caption = "Chillout", .Width = 2535, .Height = 2175, .Border = BorderStyle::FixedSingle, .Font = PlainFont}),
       optChill(fraChill, ChillOption("Quiet", "only show result", 1320, 240)),
       fraRotor(fraChill, {.Name = "fraRotor", .Left = 1320, .Top = 960, .Width = 975, .Height = 975, .Border = BorderStyle::FixedSingle}),
       ctlRotor1(fraRotor, {.Name = "ctlRotor1", .Width = 480, .Height = 480}),
@@ -73,7 +80,6 @@ frmTessarin::frmTessarin(Toolkit& toolkit)
 }
 // clang-format on
 
-// The end of the window releases the game.
 frmTessarin::~frmTessarin() = default;
 
 void frmTessarin::Form_Initialize() {
@@ -90,7 +96,8 @@ void frmTessarin::Form_Activate() {
 
 void frmTessarin::Form_Unload(bool& cancel) {
     cancel = Solving;
-    // A solve in step mode is still on its way out when the window may already close.
+    // The solve of a step may still be running: it has ended Solving and asked for its own cancel,
+    // but choosing a pace clears that, and then the solve would go on behind the closed window.
     if (!cancel) SetCancel();
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/CommonDialog.h"
-#include "platform/ControlArray.h"
-#include "platform/Controls.h"
-#include "platform/Form.h"
+#include "toolkit/CommonDialog.h"
+#include "toolkit/ControlArray.h"
+#include "toolkit/Controls.h"
+#include "toolkit/Form.h"
 #include "play/Game.h"
 #include "ui/ctlRotor/ctlRotor.h"
 
@@ -20,9 +20,9 @@ class Field;
 /// with the field's data and the pace of the automatic solve. It owns the game, calls its player
 /// and grid, and repaints what their events tell of; it keeps no puzzle state of its own.
 ///
-/// Commands pump window events while they work, so any of them may run inside another one. What
-/// guards them is Solving, which keeps the window open and goes with disabled panels, and
-/// ViewRunning, which disables the menus and the clicks on fields.
+/// Commands pump window events while they work, so any of them may run inside another one. Two
+/// guards limit that: Solving keeps the window open, while the panels are disabled; ViewRunning
+/// disables the menus and the clicks on fields.
 ///
 /// Sizes and positions are in twips; field indices count from 1.
 class frmTessarin : public Form {
@@ -37,8 +37,8 @@ public:
     // Display.
 
     /// Paints a field (0 or less: the current one) in its present state and shows its data in the
-    /// information panel; while a solve runs at a pace, waits afterwards. A mark draws it yellow.
-    /// A field that the window has no label for is left out.
+    /// information panel. A mark draws it yellow. While a solve runs with a pause, waits that long
+    /// afterwards. Ignores a field that the window has no label for.
     void PaintField(int index, bool neighbourMark = false, bool groupMark = false);
     /// Shows the number of free values in every empty field.
     void PaintFreedoms();
@@ -46,7 +46,7 @@ public:
     void RefreshNumPad();
     /// Paints everything, after putting the cursor on field 1 if there is none.
     void RefreshAll();
-    /// A view is shown: the menus but the last one are disabled.
+    /// While a view is shown, all menus but the last one are disabled.
     void SetViewRunning(bool running);
     bool ViewRunning() const { return mbViewRunning; }
     /// The side column is shown; the window is wider for it.
@@ -106,7 +106,7 @@ private:
     void ArrangeSideColumn();
 
     std::string InfoText(const Field& field, bool isCursor, bool isDead) const;
-    // The labels of the dead fields as of the last count.
+    // The labels of the fields that were dead at the last count.
     std::vector<Label*> DeadLabels();
     bool PaintingOff() const { return Solving && ChillDelay == Quiet; }
 
@@ -141,6 +141,11 @@ private:
     void moGame_IsWinner(int Index);
     void moGame_IsDeadEnd(int Index);
 
+    // Shows that a solve runs: the rotor turns and the panels are disabled, until it dies.
+    class BusyPanels;
+    // Sets ViewRunning until it dies.
+    class RunningView;
+
     // Values of ChillDelay that are no pause.
     static constexpr int Quiet = -1;
     static constexpr int Step = -2;
@@ -149,7 +154,7 @@ private:
     std::array<Connection, 5> mConnections;
     bool Solving = false;
     int ChillDelay = 0;    // Quiet, Step, or the pause in milliseconds after each painted field
-    int PreviousIndex = 0; // the cursor field before the move that was announced last
+    int PreviousIndex = 0; // the index of the last BeforeIndexChanged
     bool mbViewRunning = false;
     bool mbInfoVisible = false;
 };

@@ -1,6 +1,7 @@
 // What the menus, buttons, keys and options do, and what follows from the game's events.
 #include "support/modKbd.h"
-#include "ui/FieldLook.h"
+#include "toolkit/ScopedValue.h"
+#include "ui/Colors.h"
 #include "ui/frmTessarin.h"
 
 #include <array>
@@ -12,13 +13,12 @@ namespace tessarin {
 
 namespace {
 
-// One step of a command that errors do not interrupt. Returns whether it succeeded.
-bool Attempt(const std::function<void()>& step) {
+// A step of an import or export, which go on after an error and do not report it.
+void Attempt(const std::function<void()>& step) {
     try {
         step();
-        return true;
     } catch (const std::exception&) {
-        return false;
+        return;
     }
 }
 
@@ -34,7 +34,6 @@ void Prepare(CommonDialog& dialog, const char* title, bool fileMustExist) {
     dialog.DialogTitle = title;
     dialog.Filter = "CSV Dokumente (*.csv)|*.csv|Alle Dateien (*.*)|*.*";
     dialog.DefaultExt = ".csv";
-    dialog.CancelError = true;
 }
 
 } // namespace
@@ -78,19 +77,32 @@ void frmTessarin::ConnectCommands() {
     optChill.Click = [this](int Index) { optChill_Click(Index); };
 }
 
+class frmTessarin::BusyPanels {
+public:
+    explicit BusyPanels(frmTessarin& window) : mWindow(window) {
+        mWindow.ctlRotor1.SetRunning(true);
+        mWindow.fraAction.SetEnabled(false);
+        mWindow.fraNumPad.SetEnabled(false);
+    }
+    BusyPanels(const BusyPanels&) = delete;
+    BusyPanels& operator=(const BusyPanels&) = delete;
+    ~BusyPanels() {
+        mWindow.fraNumPad.SetEnabled(true);
+        mWindow.fraAction.SetEnabled(true);
+        mWindow.ctlRotor1.SetRunning(false);
+    }
+
+private:
+    frmTessarin& mWindow;
+};
+
 void frmTessarin::btnSolve_Click() {
-    ctlRotor1.SetRunning(true);
-    fraAction.SetEnabled(false);
-    fraNumPad.SetEnabled(false);
-    Solving = true;
-    // However the search ends, the panels come back.
-    Attempt([this] { moGame->Play->Solve(); });
-    const int chillDelay = ChillDelay;
-    Solving = false;
-    if (chillDelay == Quiet) RefreshAll();
-    fraNumPad.SetEnabled(true);
-    fraAction.SetEnabled(true);
-    ctlRotor1.SetRunning(false);
+    const BusyPanels busy(*this);
+    {
+        const ScopedValue<bool> solving(Solving, true);
+        moGame->Play->Solve();
+    }
+    if (ChillDelay == Quiet) RefreshAll();
 }
 
 void frmTessarin::moGame_BeforeIndexChanged(int Index) {
@@ -169,7 +181,7 @@ void frmTessarin::btnInfo_Click() {
 
 void frmTessarin::mnuFileImportCSV_Click() {
     Prepare(CommonDialog1, "Import File", true);
-    const bool chosen = Attempt([this] { CommonDialog1.ShowOpen(); });
+    const bool chosen = CommonDialog1.ShowOpen();
     // A copy, because a command that runs meanwhile may use the dialog again.
     if (const std::string fileName = CommonDialog1.FileName; chosen && !fileName.empty()) {
         Attempt([this] { moGame->Fields->Clear(); });
@@ -186,7 +198,7 @@ void frmTessarin::mnuFileImportCSV_Click() {
 
 void frmTessarin::mnuFileExportCSV_Click() {
     Prepare(CommonDialog1, "Export File", false);
-    if (!Attempt([this] { CommonDialog1.ShowSave(); })) return;
+    if (!CommonDialog1.ShowSave()) return;
     const std::string fileName = CommonDialog1.FileName;
     if (fileName.empty()) return;
     Attempt([&] { moGame->FileExportCSV(fileName); });

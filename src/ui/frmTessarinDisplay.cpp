@@ -1,5 +1,6 @@
 // Painting: fields, information panel, number pad.
 #include "support/modWait.h"
+#include "ui/Colors.h"
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"
 

@@ -1,4 +1,5 @@
 // Where everything lies, for the dimension that the grid has at start-up.
+#include "ui/Colors.h"
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"
 

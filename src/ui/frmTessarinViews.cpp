@@ -1,6 +1,6 @@
-// The views: what is shown for a while and then taken back.
+// The views: each shows something in the grid for a while.
 #include "support/modWait.h"
-#include "ui/FieldLook.h"
+#include "ui/Colors.h"
 #include "ui/frmTessarin.h"
 
 namespace tessarin {
@@ -15,6 +15,17 @@ void Tell(const std::string& prompt) {
 
 } // namespace
 
+class frmTessarin::RunningView {
+public:
+    explicit RunningView(frmTessarin& window) : mWindow(window) { mWindow.SetViewRunning(true); }
+    RunningView(const RunningView&) = delete;
+    RunningView& operator=(const RunningView&) = delete;
+    ~RunningView() { mWindow.SetViewRunning(false); }
+
+private:
+    frmTessarin& mWindow;
+};
+
 std::vector<Label*> frmTessarin::DeadLabels() {
     std::vector<Label*> labels;
     if (const auto& dead = moGame->Fields->DeadFields)
@@ -23,19 +34,18 @@ std::vector<Label*> frmTessarin::DeadLabels() {
     return labels;
 }
 
-// Only the background is touched: afterwards the fields keep the normal one until they are painted.
+// Sets nothing but backgrounds: the fields keep the normal one until they are painted again.
 void frmTessarin::lblDeadEnd_Click() {
-    SetViewRunning(true);
+    const RunningView view(*this);
     for (Label* const label : DeadLabels())
         label->SetBackColor(Red);
     Tell("Dead cells = " + std::to_string(moGame->Fields->DeadCount()));
     for (Label* const label : DeadLabels())
         label->SetBackColor(WindowBackground);
-    SetViewRunning(false);
 }
 
 void frmTessarin::mnuViewNeighbours_Click() {
-    SetViewRunning(true);
+    const RunningView view(*this);
     if (const auto cursor = moGame->Fields->Cursor) {
         for (const int index : cursor->Neighbours)
             PaintField(index, true);
@@ -43,11 +53,10 @@ void frmTessarin::mnuViewNeighbours_Click() {
         for (const int index : cursor->Neighbours)
             PaintField(index);
     }
-    SetViewRunning(false);
 }
 
 void frmTessarin::mnuViewGroups_Click() {
-    SetViewRunning(true);
+    const RunningView view(*this);
     const auto groups = moGame->Groups->Items; // an import in between replaces them
     for (const auto& group : groups) {
         for (const int index : group->Fields)
@@ -57,11 +66,10 @@ void frmTessarin::mnuViewGroups_Click() {
             PaintField(index);
     }
     RefreshAll();
-    SetViewRunning(false);
 }
 
 void frmTessarin::mnuViewFreedom_Click() {
-    SetViewRunning(true);
+    const RunningView view(*this);
     PaintFreedoms();
     Tell("Freedoms of fields");
     RefreshAll();
@@ -69,7 +77,6 @@ void frmTessarin::mnuViewFreedom_Click() {
         label->SetBackColor(WindowBackground);
         label->SetForeColor(ButtonText);
     }
-    SetViewRunning(false);
 }
 
 } // namespace tessarin

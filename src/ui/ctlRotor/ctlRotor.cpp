@@ -1,13 +1,15 @@
 #include "ui/ctlRotor/ctlRotor.h"
 
-#include "ui/ctlRotor/RotorImage.h"
+#include "platform/Platform.h"
 
+#include <string>
 #include <utility>
 
 namespace tessarin {
 
 namespace {
 
+constexpr int Pictures = 12;
 constexpr int TickMilliseconds = 5;
 constexpr float PictureSide = 480;
 constexpr int PicturesInColumn = 4;
@@ -27,10 +29,10 @@ Design PictureAt(int index) {
 
 ctlRotor::ctlRotor(Control& container, Design design)
     : UserControl(container, std::move(design)), Image1(*this, PictureAt(0)) {
-    for (int i = 1; i < RotorImages; ++i)
+    for (int i = 1; i < Pictures; ++i)
         Image1.Add(i, PictureAt(i));
-    for (int i = 0; const Image& image : DrawRotor())
-        Image1(i++).SetImage(image);
+    for (int i = 0; i < Pictures; ++i)
+        Image1(i).SetFile("rotor-" + std::to_string(i) + ".png");
     Timer1.Tick = [this] { Timer1_Timer(); };
     UserControl_Initialize();
     UserControl_Resize();
@@ -43,7 +45,7 @@ void ctlRotor::UserControl_Initialize() {
 }
 
 void ctlRotor::UserControl_Resize() {
-    for (int i = 1; i < RotorImages; ++i)
+    for (int i = 1; i < Pictures; ++i)
         Image1(i).MoveTo(Image1(0));
     SizeLike(Image1(0));
 }
@@ -69,12 +71,12 @@ void ctlRotor::Stop() {
 }
 
 void ctlRotor::Timer1_Timer() {
-    FrameIndex = static_cast<std::int16_t>((FrameIndex + 1) % RotorImages);
+    FrameIndex = static_cast<std::int16_t>((FrameIndex + 1) % Pictures);
     ShowFrame();
 }
 
 void ctlRotor::ShowFrame() {
-    for (int i = 0; i < RotorImages; ++i)
+    for (int i = 0; i < Pictures; ++i)
         Image1(i).SetVisible(i == FrameIndex);
     PumpEvents();
 }

@@ -1,21 +1,23 @@
 #pragma once
 
-#include "platform/ControlArray.h"
-#include "platform/Controls.h"
+#include "platform/Platform.h"
+#include "toolkit/ControlArray.h"
+#include "toolkit/Controls.h"
 
 #include <cstdint>
 
 namespace tessarin {
 
-/// A turning rotor that shows that the program is busy: twelve pictures on top of each other, of
-/// which a timer makes one visible at a time. While it runs, the mouse pointer is the hourglass.
-/// The control always has the size of one picture, 480 by 480 twips.
+/// A turning rotor that shows that the program is busy: twelve pictures lie on top of each other,
+/// each turned 10 degrees counterclockwise from the one before, and a timer makes one visible at a
+/// time. While the rotor runs, the mouse pointer is the hourglass. The control always has the size
+/// of one picture, 480 by 480 twips.
 class ctlRotor : public UserControl {
 public:
     ctlRotor(Control& container, Design design);
 
-    /// True starts the rotor (a running one from the beginning), the first picture appears with the
-    /// next tick; False stops it and hides all pictures.
+    /// True starts the rotor, a running one from the beginning; the next tick shows a picture. False
+    /// stops it and hides all pictures.
     void SetRunning(bool SetRunning);
     bool Running() const { return FrameIndex >= 0; }
 

@@ -1,0 +1,62 @@
+#include "qt/QtFileDialog.h"
+
+#include "qt/QtLook.h"
+
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include <utility>
+
+namespace tessarin::qt {
+
+namespace {
+
+// "CSV Dokumente (*.csv)|*.csv|..." in Qt's form: a list with one filter for each pair.
+QStringList NameFilters(const std::string& filter) {
+    QStringList filters;
+    const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString description = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
+        // Here *.* would leave out files without an extension.
+        const QString pattern = parts[i + 1] == QLatin1String("*.*") ? "*" : parts[i + 1];
+        filters << description + " (" + pattern + ")";
+    }
+    return filters;
+}
+
+} // namespace
+
+QtFileDialog::QtFileDialog(FileDialogRequest request, QWidget* parent)
+    : QFileDialog(parent), mRequest(std::move(request)) {
+    setOption(QFileDialog::DontUseNativeDialog);
+    setOption(QFileDialog::DontConfirmOverwrite);
+    setWindowTitle(ToQt(mRequest.Title));
+    setNameFilters(NameFilters(mRequest.Filter));
+    setAcceptMode(mRequest.Saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    setFileMode(mRequest.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    if (!mRequest.FileName.empty()) setDirectory(QFileInfo(ToQt(mRequest.FileName)).absolutePath());
+}
+
+std::optional<std::string> QtFileDialog::Chosen() const {
+    if (result() != QDialog::Accepted || selectedFiles().isEmpty()) return std::nullopt;
+    return QDir::toNativeSeparators(selectedFiles().constFirst()).toStdString();
+}
+
+// A file to open may have no extension: the default one is tried only when the name as typed does
+// not exist. A file to save always gets an extension.
+void QtFileDialog::accept() {
+    setDefaultSuffix(mRequest.Saving ? ToQt(mRequest.DefaultExt) : QString());
+    const QStringList typed = selectedFiles();
+    if (!typed.isEmpty() && !QFileInfo::exists(typed.constFirst())) {
+        setDefaultSuffix(ToQt(mRequest.DefaultExt));
+        const QDir folder = QFileInfo(typed.constFirst()).dir();
+        if (mRequest.Saving && mRequest.PathMustExist && !folder.exists()) {
+            QMessageBox::warning(this, windowTitle(),
+                                 folder.path() + "\n" + tr("This folder does not exist."));
+            return;
+        }
+    }
+    QFileDialog::accept();
+}
+
+} // namespace tessarin::qt

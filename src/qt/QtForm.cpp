@@ -1,0 +1,197 @@
+#include "qt/QtForm.h"
+
+#include "qt/QtLook.h"
+#include "qt/QtPlatform.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QIcon>
+#include <QMenuBar>
+#include <QTimer>
+#include <QWindow>
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace tessarin::qt {
+
+namespace {
+
+// A frame as most window managers draw it.
+constexpr QMargins AssumedFrame(1, 20, 1, 1);
+
+constexpr int ApplicationWindow = 0x40000;
+
+} // namespace
+
+QtForm::QtForm(Form& form, QtPlatform& platform)
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      mForm(form),
+      mPlatform(platform),
+      mFrame(AssumedFrame),
+      mInside({{&form, &mClient}}) {
+    setObjectName(ToQt(form.Name()));
+    setWindowTitle(ToQt(form.Caption()));
+    QIcon icon;
+    const QDir pictures(ResourcePath(""));
+    for (const QString& file : pictures.entryList({ToQt(form.FormProperties().Icon) + "-*.png"}))
+        icon.addFile(pictures.filePath(file));
+    setWindowIcon(icon);
+    mMenuBar.setNativeMenuBar(false);
+    mPlatform.SetForm(this);
+}
+
+QtForm::~QtForm() {
+    mPlatform.SetForm(nullptr);
+}
+
+void QtForm::Changed(Property property) {
+    if (property == Property::Bounds) ApplySize();
+    if (property == Property::Caption) setWindowTitle(ToQt(mForm.Caption()));
+    if (property == Property::Visible) {
+        ArrangeTabOrder();
+        setVisible(mForm.Visible());
+    }
+}
+
+// Qt takes the size without the window frame. How thick that is depends on the desktop.
+void QtForm::ApplySize() {
+    const int menuHeight = mMenuBar.sizeHint().height();
+    const int least = menuHeight + Pixels(mForm.FormProperties().MinClientHeight);
+    const QSize size(
+        Pixels(mForm.Width()) - mFrame.left() - mFrame.right(),
+        std::max(Pixels(mForm.Height()) - mFrame.top() - mFrame.bottom(), least));
+    setFixedSize(size);
+    mMenuBar.setGeometry(0, 0, size.width(), menuHeight);
+    mClient.setGeometry(0, menuHeight, size.width(), size.height() - menuHeight);
+    for (const auto& [widget, control] : mPlaced)
+        if (widget) PlaceWidget(*widget, *control);
+}
+
+// The frame is known only some milliseconds after the window is shown: on X11 with the first move,
+// elsewhere with the first paint. Margins of zero mean "not known yet" before the first paint, "no
+// frame" from then on.
+void QtForm::CheckFrame(bool trustZero) {
+    if (!isVisible() || windowHandle() == nullptr) return;
+    const QMargins frame = windowHandle()->frameMargins();
+    if (frame == mFrame || (frame.isNull() && !trustZero)) return;
+    mFrame = frame;
+    ApplySize();
+}
+
+void QtForm::PlaceWidget(QWidget& widget, const Control& control) {
+    const bool inClient = widget.parentWidget() == &mClient;
+    if (inClient && std::none_of(mPlaced.begin(), mPlaced.end(),
+                                 [&](const auto& placed) { return placed.first == &widget; }))
+        mPlaced.append({&widget, &control});
+    const bool beyond = inClient && widget.geometry().center().x() >= mClient.width();
+    widget.setVisible(control.Visible() && !beyond);
+}
+
+// Qt takes the focus from a control that gets disabled or hidden, hands it to another one or to
+// none, and never gives it back. Here the first control that lost it in a row of such changes is
+// remembered, and so is the place where Qt moved the focus: if the focus is elsewhere by the time
+// the control is usable again, the user has moved it, and it stays there.
+void QtForm::KeepFocus(const std::function<void()>& change) {
+    const QPointer<QWidget> before = focusWidget();
+    change();
+    QWidget* const after = focusWidget();
+    if (before != nullptr && after != before) {
+        if (!mLostFocus || before != mFocusInstead) mLostFocus = before;
+        mFocusInstead = after;
+    } else if (mLostFocus && mLostFocus->isVisible() && mLostFocus->isEnabled()) {
+        // The menu bar keeps a focus that it got while no control had one.
+        const auto* const bar = qobject_cast<QMenuBar*>(after);
+        const bool isLeft = bar != nullptr && bar->activeAction() == nullptr;
+        if (after == mFocusInstead || isLeft) mLostFocus->setFocus();
+        mLostFocus.clear();
+    }
+}
+
+void QtForm::LockUpdate() {
+    mbLocked = true;
+}
+
+void QtForm::UnlockUpdate() {
+    if (!mbLocked) return;
+    mbLocked = false;
+    ApplyStyle();
+}
+
+// Hide and show are ignored while locked; only the style is applied at unlock. Really hiding the
+// window would lose its place and its focus, and a visible window can change its style.
+void QtForm::ShowCommand(int command) {
+    if (!mbLocked) setVisible(command != 0);
+}
+
+void QtForm::SetExtendedStyle(int style) {
+    mlExtendedStyle = style;
+    if (!mbLocked) ApplyStyle();
+}
+
+void QtForm::ApplyStyle() {
+    if (windowHandle() == nullptr) return;
+    const Qt::WindowFlags type = (mlExtendedStyle & ApplicationWindow) != 0 ? Qt::Window : Qt::Tool;
+    const Qt::WindowFlags flags = (windowHandle()->flags() & ~Qt::WindowType_Mask) | type;
+    if (flags != windowHandle()->flags()) windowHandle()->setFlags(flags);
+}
+
+bool QtForm::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+        CheckFrame(false);
+        break;
+    case QEvent::Paint:
+        CheckFrame(true);
+        // Without a window manager the first activation is never reported.
+        if (!mbActivated)
+            QTimer::singleShot(100, this, [this] {
+                if (!mbActivated) Activate();
+            });
+        break;
+    case QEvent::WindowActivate:
+        if (!std::exchange(mbLeftForOwnBox, false)) Activate();
+        break;
+    case QEvent::WindowDeactivate:
+        mbLeftForOwnBox = QApplication::activeModalWidget() != nullptr;
+        break;
+    default:
+        break;
+    }
+    return handled;
+}
+
+void QtForm::Activate() {
+    if (mPlatform.Closed()) return;
+    mbActivated = true;
+    mForm.RaiseActivate();
+}
+
+void QtForm::closeEvent(QCloseEvent* event) {
+    const bool closes = mPlatform.Closed() || mForm.RaiseUnload();
+    event->setAccepted(closes);
+    if (closes) mPlatform.Close();
+}
+
+// The Tab key visits the containers from left to right, and the controls of each row by row.
+void QtForm::ArrangeTabOrder() {
+    auto widgets = mClient.findChildren<QWidget*>();
+    widgets.removeIf([](const QWidget* widget) { return widget->focusPolicy() == Qt::NoFocus; });
+    const auto place = [this](QWidget* widget) {
+        QWidget* const container = widget->parentWidget();
+        const QPoint outer = container->mapTo(&mClient, QPoint());
+        return std::tuple(outer.x(), outer.y(), widget->y(), widget->x());
+    };
+    std::stable_sort(widgets.begin(), widgets.end(),
+                     [&](QWidget* a, QWidget* b) { return place(a) < place(b); });
+    for (qsizetype i = 1; i < widgets.size(); ++i)
+        setTabOrder(widgets[i - 1], widgets[i]);
+    if (!widgets.isEmpty()) widgets.constFirst()->setFocus();
+}
+
+} // namespace tessarin::qt

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "toolkit/Controls.h"
+#include "toolkit/Form.h"
+
+#include <QMargins>
+#include <QMenuBar>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <unordered_map>
+#include <utility>
+
+namespace tessarin::qt {
+
+class QtMenuPeer;
+class QtPlatform;
+
+/// A form's window: a fixed border, a menu bar, and below it the client area that holds all
+/// controls. The outer size is the form's Width and Height; the client is what the frame leaves.
+class QtForm : public QWidget, public FormPeer {
+public:
+    QtForm(Form& form, QtPlatform& platform);
+    QtForm(const QtForm&) = delete;
+    QtForm& operator=(const QtForm&) = delete;
+    ~QtForm() override;
+
+    void Changed(Property property) override;
+    void Close() override { close(); }
+    int Handle() override { return static_cast<int>(winId()); }
+
+    QMenuBar& MenuBar() { return mMenuBar; }
+
+    /// The controls inside `container`, a frame or a composite control, become children of `inside`.
+    void AddContainer(const Control& container, QWidget& inside) { mInside[&container] = &inside; }
+    /// The widget for the controls inside `container`, which may be the form itself.
+    QWidget& Inside(const Control& container) { return *mInside.at(&container); }
+    void AddMenu(const MenuItem& item, QtMenuPeer& peer) { mMenus[&item] = &peer; }
+    QtMenuPeer& Menu(const MenuItem& item) { return *mMenus.at(&item); }
+
+    /// Shows or hides a control's widget according to the control's Visible. A widget that lies
+    /// mostly beyond the right edge of the client stays hidden: with a thin window frame a rim of
+    /// it would show, and the Tab key would walk into it.
+    void PlaceWidget(QWidget& widget, const Control& control);
+
+    /// Runs `change`, which may hide or disable the control with the keyboard focus. That control
+    /// gets the focus back when a later change makes it usable again, unless the user has moved the
+    /// focus meanwhile.
+    void KeepFocus(const std::function<void()>& change);
+
+    /// The window-style calls. Between lock and unlock they only take effect at the unlock.
+    void LockUpdate();
+    void UnlockUpdate();
+    void ShowCommand(int command);
+    int ExtendedStyle() const { return mlExtendedStyle; }
+    void SetExtendedStyle(int style);
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void ApplySize();
+    void CheckFrame(bool trustZero);
+    void Activate();
+    void ApplyStyle();
+    void ArrangeTabOrder();
+
+    Form& mForm;
+    QtPlatform& mPlatform;
+    QMenuBar mMenuBar{this};
+    QWidget mClient{this};
+    QMargins mFrame; // the window frame, assumed until it is known
+    std::unordered_map<const Control*, QWidget*> mInside;
+    std::unordered_map<const Control*, QtMenuPeer*> mMenus;
+    QList<std::pair<QPointer<QWidget>, const Control*>> mPlaced; // direct children of the client
+
+    QPointer<QWidget> mLostFocus;    // had the focus until it was disabled or hidden
+    QPointer<QWidget> mFocusInstead; // where Qt moved the focus then
+
+    bool mbActivated = false;     // the window has been active
+    bool mbLeftForOwnBox = false; // it is inactive because of a box of its own
+    int mlExtendedStyle = 0;
+    bool mbLocked = false;
+};
+
+} // namespace tessarin::qt

@@ -1,0 +1,65 @@
+#include "qt/QtLook.h"
+
+#include <QApplication>
+#include <QPalette>
+
+namespace tessarin::qt {
+
+namespace {
+
+// This family is heavy by itself. Where it is missing, the families that replace it have to be told
+// the weight.
+constexpr auto HeavyFamily = "Arial Black";
+
+bool IsSystemColor(Color color) {
+    return (color & SystemColor(0)) != 0;
+}
+
+} // namespace
+
+int Pixels(float twips) {
+    return qRound(twips / 15);
+}
+
+QRect PixelRect(const Design& design) {
+    return {Pixels(design.Left), Pixels(design.Top), Pixels(design.Width), Pixels(design.Height)};
+}
+
+QColor ToQt(Color color) {
+    if (!IsSystemColor(color))
+        return QColor::fromRgb(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
+                               static_cast<int>(color >> 16 & 0xFF));
+    const QPalette palette = QApplication::palette();
+    switch (color & 0xFF) {
+    case 5:
+        return palette.color(QPalette::Base);
+    case 18:
+        return palette.color(QPalette::ButtonText);
+    default:
+        return palette.color(QPalette::Window);
+    }
+}
+
+QColor TextColor(Color fore, Color back) {
+    if (fore != SystemColor(18) || IsSystemColor(back)) return ToQt(fore);
+    return qGray(ToQt(back).rgb()) > 110 ? Qt::black : Qt::white;
+}
+
+QFont ToQt(const FontStyle& font) {
+    QFont result = QApplication::font();
+    if (font.Name == HeavyFamily) {
+        result.setFamilies({HeavyFamily, "Open Sans", "DejaVu Sans"});
+        result.setWeight(QFont::Black);
+    } else if (!font.Name.empty()) {
+        result.setFamily(ToQt(font.Name));
+    }
+    if (font.Size > 0) result.setPixelSize(Pixels(font.Size * 20)); // a point is 20 twips
+    result.setItalic(font.Italic);
+    return result;
+}
+
+QString Plain(const std::string& caption) {
+    return ToQt(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace tessarin::qt

@@ -1,0 +1,159 @@
+#include "qt/QtPlatform.h"
+
+#include "qt/QtForm.h"
+#include "qt/QtLook.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QMessageBox>
+#include <QScopeGuard>
+#include <QScopedValueRollback>
+#include <QStyleFactory>
+#include <QThread>
+
+#include <algorithm>
+#include <utility>
+
+namespace tessarin::qt {
+
+namespace {
+
+constexpr int ExtendedStyleIndex = -20;
+constexpr int UiPixelSize = 12;
+
+// Wide enough for the title of a box whose text is short.
+constexpr int MinBoxWidth = 280;
+
+void WidenTo(int width, QMessageBox& box) {
+    if (auto* const grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+} // namespace
+
+QtPlatform::QtPlatform(VersionRecord version) : mVersion(std::move(version)) {
+    QApplication::setStyle(QStyleFactory::create("fusion"));
+    QFont font = QApplication::font();
+    font.setPixelSize(UiPixelSize);
+    QApplication::setFont(font);
+    Platform::SetCurrent(this);
+}
+
+QtPlatform::~QtPlatform() {
+    Platform::SetCurrent(nullptr);
+}
+
+void QtPlatform::PumpEvents() {
+    if (mbClosed) return;
+    const QScopedValueRollback<bool> ticking(mbTicksHeld, false);
+    QApplication::processEvents();
+}
+
+// Sleeps in slices, so that the window is painted and activated meanwhile. What the user does,
+// closing the window included, waits for the next pump; so do the timers.
+void QtPlatform::Sleep(int milliseconds) {
+    constexpr qint64 Slice = 20;
+    const QDeadlineTimer end(milliseconds);
+    while (!mbClosed && !end.hasExpired()) {
+        QThread::msleep(static_cast<unsigned long>(std::min(Slice, end.remainingTime())));
+        const QScopedValueRollback<bool> held(mbTicksHeld, true);
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+}
+
+bool QtPlatform::EscPressed() {
+    return mEscWatch.Query();
+}
+
+Message::Answer QtPlatform::ShowMessage(const Message& message) {
+    const bool question = message.ButtonSet == Message::Buttons::YesNo;
+    const auto refusal = question ? Message::Answer::No : Message::Answer::Ok;
+    if (mbClosed) return refusal;
+    QMessageBox box(mForm);
+    box.setWindowTitle(message.Title.empty() && mForm != nullptr ? mForm->windowTitle()
+                                                                 : ToQt(message.Title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQt(message.Prompt));
+    box.setIcon(message.QuestionIcon ? QMessageBox::Question : QMessageBox::NoIcon);
+    box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    // Unless it is set, the default button depends on the desktop.
+    box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
+    WidenTo(MinBoxWidth, box);
+    return RunModal(box) == QMessageBox::Yes ? Message::Answer::Yes : refusal;
+}
+
+void QtPlatform::Beep() {
+    QApplication::beep();
+}
+
+void QtPlatform::SetMousePointer(MousePointer pointer) {
+    mbHourglass = pointer == MousePointer::Hourglass;
+    ApplyPointer();
+}
+
+std::string QtPlatform::ProgramName() {
+    return QFileInfo(QApplication::applicationFilePath()).completeBaseName().toStdString();
+}
+
+std::string QtPlatform::ProgramFolder() {
+    return QApplication::applicationDirPath().toStdString();
+}
+
+void QtPlatform::LockWindowUpdate(int handle) {
+    if (mForm == nullptr) return;
+    if (handle != 0)
+        mForm->LockUpdate();
+    else
+        mForm->UnlockUpdate();
+}
+
+void QtPlatform::ShowWindow(int handle, int command) {
+    if (IsForm(handle)) mForm->ShowCommand(command);
+}
+
+int QtPlatform::GetWindowLongA(int handle, int index) {
+    return IsForm(handle) && index == ExtendedStyleIndex ? mForm->ExtendedStyle() : 0;
+}
+
+void QtPlatform::SetWindowLongA(int handle, int index, int value) {
+    if (IsForm(handle) && index == ExtendedStyleIndex) mForm->SetExtendedStyle(value);
+}
+
+bool QtPlatform::IsForm(int handle) const {
+    return mForm != nullptr && !mbClosed && mForm->Handle() == handle;
+}
+
+void QtPlatform::Close() {
+    mbClosed = true;
+    SetMousePointer(MousePointer::Default);
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* const window : windows)
+        if (auto* const dialog = qobject_cast<QDialog*>(window)) dialog->reject();
+}
+
+int QtPlatform::RunModal(QDialog& dialog) {
+    const auto end = qScopeGuard([this] {
+        --mlOpenDialogs;
+        ApplyPointer();
+    });
+    ++mlOpenDialogs;
+    ApplyPointer();
+    return dialog.exec();
+}
+
+// Qt keeps a stack of pointers: setting one twice would need restoring twice. While a dialog is open
+// the program waits for the user, so that the hourglass would be wrong.
+void QtPlatform::ApplyPointer() {
+    const bool hourglass = mbHourglass && mlOpenDialogs == 0;
+    if (hourglass == mbHourglassShown) return;
+    mbHourglassShown = hourglass;
+    if (hourglass)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+} // namespace tessarin::qt

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "toolkit/Toolkit.h"
+
+#include <string>
+
+namespace tessarin {
+
+/// The modal dialogs to open and to save a file. One object serves both; set its properties before
+/// showing it.
+class CommonDialog {
+public:
+    explicit CommonDialog(Toolkit& toolkit) : mToolkit(toolkit) {}
+
+    std::string DialogTitle;
+    /// Pairs of description and pattern, separated by "|".
+    std::string Filter;
+    /// Appended to a name that is typed without extension.
+    std::string DefaultExt;
+    bool FileMustExist = false;
+    bool PathMustExist = false;
+    /// The full path chosen last; a cancelled dialog leaves it as it is.
+    std::string FileName;
+
+    /// Each returns whether a file was chosen; false means cancelled.
+    bool ShowOpen() { return Show(false); }
+    /// Does not ask before an existing file is chosen.
+    bool ShowSave() { return Show(true); }
+
+private:
+    bool Show(bool saving);
+
+    Toolkit& mToolkit;
+};
+
+} // namespace tessarin

@@ -1,0 +1,56 @@
+#include "toolkit/Control.h"
+
+#include "toolkit/Form.h"
+
+#include <utility>
+
+namespace tessarin {
+
+Control::Control(Toolkit& toolkit, Form& form, Design design)
+    : mToolkit(toolkit), mForm(form), mContainer(nullptr), mProperties(std::move(design)) {}
+
+Control::Control(Control& container, Design design)
+    : mToolkit(container.mToolkit),
+      mForm(container.mForm),
+      mContainer(&container),
+      mProperties(std::move(design)) {}
+
+Control::~Control() = default;
+
+void Control::SetWidth(float width) {
+    if (width == Width()) return;
+    Assign(mProperties.Width, width, Property::Bounds);
+    Resized();
+}
+
+void Control::SetHeight(float height) {
+    if (height == Height()) return;
+    Assign(mProperties.Height, height, Property::Bounds);
+    Resized();
+}
+
+void Control::MoveTo(const Control& other) {
+    SetLeft(other.Left());
+    SetTop(other.Top());
+}
+
+void Control::SizeLike(const Control& other) {
+    SetWidth(other.Width());
+    SetHeight(other.Height());
+}
+
+bool Control::Reachable() const {
+    if (!Enabled() || !Visible()) return false;
+    return mContainer == nullptr || mContainer->Reachable();
+}
+
+const std::string& Control::AccessibleName() const {
+    if (!mAccessibleName.empty()) return mAccessibleName;
+    return mProperties.ToolTipText.empty() ? mProperties.Caption : mProperties.ToolTipText;
+}
+
+void Control::RaiseClick() {
+    mForm.Gate.Raise(*this);
+}
+
+} // namespace tessarin

@@ -1,0 +1,14 @@
+// The colours of the window.
+#pragma once
+
+#include "toolkit/Color.h"
+
+namespace tessarin {
+
+constexpr Color WindowBackground = SystemColor(5);
+constexpr Color ButtonText = SystemColor(18);
+constexpr Color Green = 0xFF00;
+constexpr Color Red = 0xFF;
+constexpr Color Yellow = 0xFFFF;
+
+} // namespace tessarin

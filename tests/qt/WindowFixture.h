@@ -1,0 +1,96 @@
+// The real window with a user made of mouse and key events.
+#pragma once
+
+#include "qt/QtForm.h"
+#include "qt/QtPlatform.h"
+#include "qt/QtToolkit.h"
+#include "ui/frmTessarin.h"
+
+#include <QDialog>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+
+namespace tessarin {
+
+constexpr Color Normal = SystemColor(5);
+constexpr Color RedColor = 0x0000FF;
+constexpr Color GreenColor = 0x00FF00;
+
+/// The real machine, which notes what passes.
+class SpyPlatform final : public qt::QtPlatform {
+public:
+    bool ReallySleeps = false; ///< off: a sleep takes no time
+    std::vector<int> Sleeps;
+    int Beeps = 0;
+    std::vector<int> Styles;      ///< extended styles given to the window
+    std::function<void()> AtPump; ///< runs before each pump handles its events
+
+    void PumpEvents() override;
+    void Sleep(int milliseconds) override;
+    void Beep() override { ++Beeps; }
+    void SetWindowLongA(int handle, int index, int value) override;
+};
+
+/// The window, shown and active. Whatever the user does is handled before the call returns: the
+/// command that it started has ended then, its boxes answered as told before.
+class WindowTest : public testing::Test {
+protected:
+    WindowTest();
+
+    // Events go to the window that is seen, so that modal boxes, open menus and disabled panels
+    // keep them from the controls as they do on a screen.
+    void Click(QWidget& widget, QPoint where, Qt::MouseButton button = Qt::LeftButton);
+    void Click(const std::string& name) { Click(Widget(name), Widget(name).rect().center()); }
+    void ClickField(int index) { Click(window.lblField(index).Name()); }
+    void Key(Qt::Key key);
+    /// Opens the menus on the way to the entry and clicks it. False when one does not open.
+    bool Menu(const QString& entry);
+    void Import(const QString& path);
+
+    // How the user answers the boxes to come, in order.
+    void Answer(QMessageBox::StandardButton button, std::function<void()> whileOpen = {});
+    void ChooseFile(const QString& path);
+    void CancelDialog();
+    /// What happens to a box that nobody expects: it is a failure.
+    std::function<void(QDialog&)> Unexpected;
+    /// The message boxes seen so far: "title: text [? No Yes]", "?" for the question icon.
+    QStringList Boxes;
+
+    QWidget& Widget(const std::string& name);
+    QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
+    /// What a field's label shows: caption, background and text colour, and the font when it is not
+    /// the one for values: "7 green/text", "3 yellow/red Arial 12 italic".
+    std::string Shows(int index);
+    std::vector<int> YellowFields();
+
+    Fields& Grid() { return *goGame->Fields; }
+    Field& At(int index) { return *Grid().Items.Item(index); }
+    /// Enters values from field `first` on; 0 leaves a field as it is.
+    void Enter(int first, const std::vector<int>& values);
+    /// Row 1 holds 1 to 8 and field 11 the 9, so that field 1 has no free value.
+    void MakeFieldOneDead();
+    /// A file with that content in the scratch folder.
+    QString File(const QString& name, const QByteArray& content);
+
+    QTemporaryDir folder;
+    SpyPlatform platform;
+    qt::QtToolkit toolkit{platform};
+    frmTessarin window{toolkit};
+    QWidget* const form = &platform.CurrentForm();
+
+private:
+    void LookForBox();
+
+    QTimer mEyes;
+    QPointer<QDialog> mSeen;
+    std::deque<std::function<void(QDialog&)>> mAnswers;
+};
+
+} // namespace tessarin
