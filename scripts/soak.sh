@@ -10,4 +10,4 @@ need "${build_packages[@]}" "${window_packages[@]}" "${test_packages[@]}"
 configure_and_build asan asan
 TESSARIN_MONKEY_EVENTS=${1:-20000} TESSARIN_MONKEY_SEED=${TESSARIN_MONKEY_SEED:-$RANDOM} \
     TESSARIN_NESTED_STEP=${2:-7} QT_QPA_PLATFORM=offscreen \
-    build/asan/tests/qt/tessarin_window_tests --gtest_filter='StressTest.*'
+    build/asan/tests/qt/tessarin_qt_tests --gtest_filter='StressTest.*'

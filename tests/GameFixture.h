@@ -44,18 +44,15 @@ std::string ErrorOf(Action action) try {
     return "overflow ";
 }
 
-/// A game on a scripted machine, worked by lines of text.
-class TestGame {
+/// A game on a scripted machine that is worked by lines of text.
+class GameScript {
 public:
-    ScriptedPlatform platform;
-    Game game;
+    ScriptedPlatform& platform;
+    Game& game;
     Fields& grid = *game.Fields;
     Play& play = *game.Play;
 
-    TestGame() {
-        Listen(grid.Events, "");
-        mConnections.push_back(grid.Events.Init.Connect([this] { mTold += "Init "; }));
-    }
+    GameScript(ScriptedPlatform& machine, Game& played) : platform(machine), game(played) {}
 
     Field& At(int index) { return *grid.Items.Item(index); }
 
@@ -78,11 +75,16 @@ public:
         std::istringstream words(line);
         std::string command, text;
         std::getline(words >> command >> std::ws, text);
-        mTold.clear();
-        platform.TakeCalls();
+        // A script may run inside another one's step.
+        const std::string outerTold = std::exchange(mTold, ""), outerCalls = platform.TakeCalls();
         const std::string before = History();
-        std::string told = ErrorOf([&] { mCommands.at(command)(std::atoi(text.c_str()), text); });
-        told += mTold + platform.TakeCalls();
+        const auto found = mCommands.find(command);
+        if (found == mCommands.end()) {
+            ADD_FAILURE() << "unknown command: " << line;
+            return "";
+        }
+        std::string told = ErrorOf([&] { found->second(std::atoi(text.c_str()), text); });
+        told += std::exchange(mTold, outerTold) + platform.TakeCalls(outerCalls);
         if (History() != before) told.append("[").append(History()).append("] ");
         return told.substr(0, told.size() - (told.empty() ? 0 : 1));
     }
@@ -182,9 +184,21 @@ protected:
     };
 
     std::string mTold;
-
-private:
     std::vector<Connection> mConnections;
+};
+
+struct GameParts {
+    ScriptedPlatform OwnPlatform;
+    Game OwnGame;
+};
+
+/// A game without a window, which also tells the events of its grid.
+class TestGame : GameParts, public GameScript {
+public:
+    TestGame() : GameScript(OwnPlatform, OwnGame) {
+        Listen(grid.Events, "");
+        mConnections.push_back(grid.Events.Init.Connect([this] { mTold += "Init "; }));
+    }
 };
 
 class GameFixture : public testing::Test, protected TestGame {};

@@ -13,6 +13,18 @@ TEST(NestedTest, ChangeAtEveryPumpOfAStatusPass) {
     }
 }
 
+// A change that raises no event, so that nobody reads the status before the pass has ended.
+TEST(NestedTest, SilentChangeAtEveryPumpOfAStatusPass) {
+    TestGame test;
+    for (const std::string command : {"clear", "init"})
+        for (int n = 1; n <= 81; ++n) {
+            test.grid.Init();
+            test.At(1).SetTextSDK("5");
+            test.platform.AtPump(n, [&] { test.Do(command); });
+            EXPECT_EQ(test.grid.FreeCount(), 81) << command << " at " << n;
+        }
+}
+
 TEST(NestedTest, WhatOvertakesAMoveOrAnEntry) {
     TestGame test;
     test.Do("index 1");

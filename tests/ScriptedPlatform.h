@@ -2,6 +2,8 @@
 
 #include "platform/NullPlatform.h"
 
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <functional>
 #include <sstream>
@@ -18,12 +20,17 @@ public:
     ~ScriptedPlatform() override { Platform::SetCurrent(mPrevious); }
 
     int Pumps = 0;
+    bool Hourglass = false;   ///< the mouse pointer
     std::deque<bool> Esc;     ///< the next answers to EscPressed; not pressed after them
     std::deque<bool> Answers; ///< to the next questions, Yes or No; No after them
     DateTime Time;
     std::string Folder;
     VersionRecord Program;
     int WindowStyle = 0;
+    std::function<void()> AtBox;   ///< runs while a box is open
+    std::function<void()> AtSleep; ///< runs during a sleep
+    bool Closed = false;           ///< the window has: nothing is pumped, slept or asked
+    bool ErrorsExpected = false;   ///< a handler that ends with an error is no failure
 
     /// Runs `action` inside the n-th pump from now, once.
     void AtPump(int n, std::function<void()> action) {
@@ -31,21 +38,37 @@ public:
         mAction = std::move(action);
     }
 
-    /// Beeps, sleeps, boxes and window-style calls since the last call of this, in order.
-    std::string TakeCalls() { return std::exchange(mCalls, ""); }
+    /// Beeps, sleeps, boxes and window-style calls since the last call of this, in order; `instead`
+    /// counts as called.
+    std::string TakeCalls(const std::string& instead = "") {
+        return std::exchange(mCalls, instead);
+    }
 
     void PumpEvents() override {
+        if (Closed) return;
         if (++Pumps == mPumpOfAction && mAction) std::exchange(mAction, nullptr)();
     }
-    void Sleep(int milliseconds) override { Note("Sleep", milliseconds); }
+    void Sleep(int milliseconds) override {
+        if (Closed) return;
+        Note("Sleep", milliseconds);
+        if (AtSleep) AtSleep();
+    }
     bool EscPressed() override { return Next(Esc); }
     Message::Answer ShowMessage(const Message& box) override {
         const bool yesNo = box.ButtonSet == Message::Buttons::YesNo;
+        if (Closed) return yesNo ? Message::Answer::No : Message::Answer::Ok;
         Note("Box", box.Prompt, box.Title, yesNo ? "YesNo" : "Ok", box.QuestionIcon ? "?" : "-");
+        if (AtBox) AtBox();
         if (!yesNo) return Message::Answer::Ok;
         return Next(Answers) ? Message::Answer::Yes : Message::Answer::No;
     }
     void Beep() override { mCalls += "Beep "; }
+    void SetMousePointer(MousePointer pointer) override {
+        Hourglass = pointer == MousePointer::Hourglass;
+    }
+    void ReportError(const std::string& what) override {
+        if (!ErrorsExpected) ADD_FAILURE() << "a handler ended with an error: " << what;
+    }
     std::string ProgramFolder() override { return Folder; }
     VersionRecord Version() override { return Program; }
     DateTime Now() override { return Time; }

@@ -1,5 +1,5 @@
 // A user who does anything at any moment, also while a command is under way.
-#include "WindowFixture.h"
+#include "QtFixture.h"
 
 #include <QAction>
 #include <QApplication>
@@ -10,7 +10,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <random>
@@ -25,16 +24,14 @@ unsigned FromEnvironment(const char* name, unsigned otherwise) {
 }
 
 // One window's life; TestBody is never run.
-class StressedWindow : public WindowTest {
+class StressedWindow : public QtFixture {
 public:
-    // Names of menu entries and controls; a file dialog is answered with the file after the blank.
+    // Names of menu entries; a file dialog is answered with the file after the blank.
     static inline const QStringList Commands =
         QString("mnuFileImportCSV easy-1.csv,mnuFileImportCSV hard-1.csv,mnuFileImportCSV bad.csv,"
                 "mnuFileImportCSV missing,mnuFileImportCSV out.csv,mnuFileImportCSV .,"
                 "mnuFileExportCSV out.csv,mnuEditClearFree,mnuEditClearAll,mnuEditLockAllSet,"
-                "mnuEditLockClear,mnuViewFreedom,mnuViewGroups,mnuViewNeighbours,mnuAbout,"
-                "lblDeadEnd,lblField(77),btnNumPad(5),btnNumPad(10),btnNextFreeAuto,"
-                "btnGoBackToFreedom,btnSolve,btnInfo,optChill(0),optChill(6),mnuFileQuit,close")
+                "mnuEditLockClear,mnuViewFreedom,mnuViewGroups,mnuViewNeighbours,mnuAbout")
             .split(',');
 
     explicit StressedWindow(std::function<int(int)> below) : Below(std::move(below)) {
@@ -59,32 +56,7 @@ public:
         const QString name = command.section(' ', 0, 0), file = command.section(' ', 1);
         const QString puzzle = TESSARIN_PUZZLES "/" + file;
         mFile = QFile::exists(puzzle) ? puzzle : folder.filePath(file);
-        if (auto* const entry = form->findChild<QAction*>(name))
-            entry->trigger();
-        else if (name == "close")
-            form->close();
-        else
-            ClickAnywhere(Widget(name.toStdString()));
-    }
-
-    // Starts `outer` and does `inner` at its pump number `pump`. Whether it lasted so long.
-    bool DoNested(const QString& outer, const QString& inner, int pump) {
-        int count = 0;
-        platform.AtPump = [&] {
-            if (++count == pump) Do(inner);
-        };
-        Do(outer);
-        platform.AtPump = nullptr;
-        return count >= pump;
-    }
-
-    void ExpectToSolve() {
-        if (!Alive()) return;
-        Do("optChill(0)");
-        Load("nearly-complete.csv");
-        Do("btnSolve");
-        EXPECT_TRUE(Grid().IsWinner());
-        ExpectInOrder();
+        form->findChild<QAction*>(name)->trigger();
     }
 
     // Anything; other things may happen before it has ended.
@@ -102,7 +74,7 @@ public:
             const auto widgets = form->findChildren<QWidget*>(what < 35 ? fields : others);
             ClickAnywhere(*widgets[Below(static_cast<int>(widgets.size()))]);
         } else if (what < 85) {
-            Do(Commands[Below(15)]);
+            Do(Commands[Below(static_cast<int>(Commands.size()))]);
         } else if (what < 96) {
             constexpr Qt::Key keys[] = {Qt::Key_Escape, Qt::Key_Space,   Qt::Key_Return,
                                         Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Down};
@@ -183,35 +155,6 @@ void Renew(std::unique_ptr<StressedWindow>& window, std::function<int(int)> belo
     window = std::make_unique<StressedWindow>(std::move(below));
 }
 
-TEST(StressTest, AnyCommandAtAnyPumpOfAnotherLeavesAWindowThatSolves) {
-    // The pumps of one status pass are alike, so that a step of this size meets every kind of pump
-    // in some case; 1 meets every single one.
-    const int step = static_cast<int>(FromEnvironment("TESSARIN_NESTED_STEP", 193));
-    int offset = 0;
-    std::unique_ptr<StressedWindow> window;
-    for (const auto& [pace, outer] : {std::pair{"optChill(1)", "btnSolve"},
-                                      {"optChill(0)", "btnSolve"},
-                                      {"optChill(6)", "btnSolve"},
-                                      {"optChill(1)", "mnuViewFreedom"},
-                                      {"optChill(1)", "mnuViewGroups"},
-                                      {"optChill(1)", "mnuViewNeighbours"},
-                                      {"optChill(1)", "mnuFileImportCSV hard-1.csv"}})
-        for (const QString& inner : StressedWindow::Commands) {
-            bool lasted = true;
-            for (int pump = offset++ % step + 1; lasted; pump += step) {
-                SCOPED_TRACE(inner.toStdString() + " in " + outer + " at pace " + pace + ", pump " +
-                             std::to_string(pump));
-                Renew(window, [](int count) { return count / 2; });
-                window->Load("nearly-complete.csv");
-                window->Do(pace);
-                lasted = window->DoNested(outer, inner, pump);
-                window->ExpectInOrder();
-                window->ExpectToSolve();
-                if (testing::Test::HasFailure()) return;
-            }
-        }
-}
-
 TEST(StressTest, RandomUserLeavesTheWindowInOrder) {
     const unsigned seed = FromEnvironment("TESSARIN_MONKEY_SEED", 20220429);
     std::mt19937 random(seed);
@@ -224,58 +167,6 @@ TEST(StressTest, RandomUserLeavesTheWindowInOrder) {
         window->DoSomething();
         QApplication::processEvents();
         window->ExpectInOrder();
-    }
-}
-
-// Every pump brings another click, far more than the stack could hold nested in one another.
-TEST_F(WindowTest, FloodOfClicksDuringASolveIsAnsweredToTheLastOne) {
-    constexpr int Clicks = 20'000;
-    constexpr std::uintptr_t StackBytes = 1 << 20;
-    std::vector<int> answered;
-    std::uintptr_t deepest = UINTPTR_MAX;
-    const auto here = [] { return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)); };
-    window.lblField.Click = [&, click = window.lblField.Click](int index) {
-        answered.push_back(index);
-        deepest = std::min(deepest, here());
-        click(index);
-    };
-    int sent = 0;
-    platform.AtPump = [&] {
-        if (sent < Clicks) window.lblField(sent++ % 81 + 1).RaiseClick();
-    };
-    Click("btnSolve");
-    while (sent < Clicks)
-        PumpEvents();
-    ASSERT_EQ(answered.size(), static_cast<std::size_t>(Clicks));
-    for (int i = 0; i < Clicks; ++i)
-        ASSERT_EQ(answered[static_cast<std::size_t>(i)], i % 81 + 1);
-    EXPECT_LT(here() - deepest, StackBytes);
-    EXPECT_TRUE(window.fraAction.Enabled());
-    ClickField(40);
-    EXPECT_EQ(Grid().Index(), 40);
-}
-
-TEST_F(WindowTest, ClicksPastTheBoundAreJudgedWhenTheirTurnComes) {
-    int clicks = 0, depth = 0;
-    window.btnInfo.Click = [&] {
-        window.btnInfo.SetEnabled(++clicks < 2);
-        throw std::out_of_range("a command that fails");
-    };
-    for (const bool closes : {false, true}) {
-        window.lblWinner.Click = [&] { // until no further click is let in
-            if (++depth < 16) return window.lblWinner.RaiseClick();
-            for (int i = 0; i < 4; ++i)
-                window.btnInfo.RaiseClick();
-            EXPECT_EQ(clicks, closes ? 2 : 0);
-            window.lblWinner.SetVisible(false);
-            window.lblWinner.RaiseClick();
-            if (closes) form->close();
-        };
-        window.lblWinner.RaiseClick();
-        EXPECT_EQ(std::exchange(depth, 0), 16);
-        EXPECT_EQ(clicks, 2);
-        window.btnInfo.SetEnabled(true);
-        window.lblWinner.SetVisible(true);
     }
 }
 

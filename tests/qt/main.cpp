@@ -7,7 +7,8 @@ int main(int argc, char** argv) {
     // File dialogs keep their state there.
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
-    const QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
+    if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
+    const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,5 +1,5 @@
-// The automatic solve as the user sees it: pace, disabled panels, ESC and the busy indicator.
-#include "WindowFixture.h"
+// An automatic solve in the real window: disabled panels, the mouse pointer, ESC and the rotor.
+#include "QtFixture.h"
 
 #include "support/modKbd.h"
 
@@ -12,18 +12,14 @@
 namespace tessarin {
 namespace {
 
-class SolveWindowTest : public WindowTest {
+class SolvingTest : public QtFixture {
 protected:
     // Four fields are empty.
-    SolveWindowTest() { Import(TESSARIN_PUZZLES "/nearly-complete.csv"); }
+    SolvingTest() { Import(TESSARIN_PUZZLES "/nearly-complete.csv"); }
 
     // Runs `step` at each change of a field, after the window has answered it.
     Connection AtEachChange(std::function<void(int)> step) {
         return goGame->Events.StatusChanged.Connect(std::move(step));
-    }
-    bool IsIdle() {
-        return window.fraAction.Enabled() && window.fraNumPad.Enabled() &&
-               !window.ctlRotor1.Running() && QApplication::overrideCursor() == nullptr;
     }
     // Those that are visible.
     QList<int> RotorPictures() {
@@ -40,44 +36,8 @@ protected:
     }
 };
 
-TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
+TEST_F(SolvingTest, WhileItRunsThePanelsAreDeadAndTheWindowStaysOpen) {
     Click("btnInfo");
-    // A pause for each of the two fields of a cursor move and for the value.
-    using Row = std::pair<int, std::vector<int>>;
-    for (const auto& [option, pauses] :
-         {Row{0, {}}, Row{1, {}}, Row{2, std::vector(12, 100)}, Row{5, std::vector(12, 800)}}) {
-        Import(TESSARIN_PUZZLES "/nearly-complete.csv");
-        Click(window.optChill(option).Name());
-        platform.Sleeps.clear();
-        int painted = 0;
-        const auto connection =
-            AtEachChange([&](int index) { painted += !window.lblField(index).Caption().empty(); });
-        Click("btnSolve");
-        EXPECT_EQ(painted, option == 0 ? 0 : 4);
-        EXPECT_EQ(platform.Sleeps, pauses);
-        for (int k = 1; k <= 81; ++k)
-            EXPECT_EQ(window.lblField(k).Caption(), std::to_string(At(k).Value())) << k;
-        EXPECT_EQ(window.lblField(Grid().Index()).BackColor(), GreenColor);
-        EXPECT_EQ(window.lblWinner.BackColor(), GreenColor);
-        EXPECT_TRUE(IsIdle());
-    }
-    Click("btnGoBack");
-    EXPECT_EQ(window.lblWinner.BackColor(), Normal);
-}
-
-TEST_F(SolveWindowTest, StepMakesOneCycleForEachClick) {
-    Click("btnInfo");
-    Click("optChill(6)");
-    for (int left = 3; left >= 0; --left) {
-        Click("btnSolve");
-        EXPECT_EQ(Grid().FreeCount(), left);
-        EXPECT_TRUE(IsIdle());
-    }
-}
-
-TEST_F(SolveWindowTest, WhileItRunsThePanelsAreDeadAndAllElseAnswers) {
-    Click("btnInfo");
-    Click("optChill(2)");
     int changes = 0;
     const auto connection = AtEachChange([&](int) {
         if (++changes > 1) return;
@@ -90,38 +50,20 @@ TEST_F(SolveWindowTest, WhileItRunsThePanelsAreDeadAndAllElseAnswers) {
         EXPECT_FALSE(form->close());
         EXPECT_TRUE(Menu("mnuFileQuit"));
         EXPECT_TRUE(form->isVisible());
-        ClickField(1);
+        Click("lblField(1)");
         EXPECT_EQ(Grid().Index(), 1);
         Answer(QMessageBox::Ok, [] { EXPECT_EQ(QApplication::overrideCursor(), nullptr); });
         EXPECT_TRUE(Menu("mnuAbout"));
         EXPECT_NE(QApplication::overrideCursor(), nullptr);
-        Click("optChill(0)"); // quiet from here on
-        platform.Sleeps.clear();
     });
     Click("btnSolve");
     EXPECT_EQ(changes, 4);
-    EXPECT_TRUE(platform.Sleeps.empty());
-    EXPECT_TRUE(IsIdle());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(Menu("mnuFileQuit"));
     EXPECT_FALSE(form->isVisible());
 }
 
-TEST_F(SolveWindowTest, EscAsksAndOnlyYesEndsTheSolve) {
-    int changes = 0;
-    const auto connection = AtEachChange([&](int) {
-        if (++changes <= 2) Key(Qt::Key_Escape);
-    });
-    Answer(QMessageBox::No);
-    Answer(QMessageBox::Yes);
-    Click("btnSolve");
-    EXPECT_EQ(changes, 2);
-    EXPECT_TRUE(IsIdle());
-    EXPECT_EQ(Boxes, QStringList(2, "ESC gedrückt: Abbrechen? [No Yes]"));
-    Click("btnSolve"); // the confirmed cancel is forgotten
-    EXPECT_TRUE(Grid().IsWinner());
-}
-
-TEST_F(SolveWindowTest, OnlyAnEscThatClosesNothingAsks) {
+TEST_F(SolvingTest, OnlyAnEscThatClosesNothingAsks) {
     CancelDialog();
     ASSERT_TRUE(Menu("mnuFileExportCSV"));
     CancelDialog();
@@ -144,7 +86,7 @@ TEST_F(SolveWindowTest, OnlyAnEscThatClosesNothingAsks) {
     EXPECT_EQ(Grid().FreeCount(), 4);
 }
 
-TEST_F(SolveWindowTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
+TEST_F(SolvingTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
     Esc(*form, QEvent::KeyPress, 1000);
     bool staysOpen = false;
     Answer(QMessageBox::Yes, [&] {
@@ -162,7 +104,16 @@ TEST_F(SolveWindowTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
     EXPECT_EQ(Grid().FreeCount(), 4);
 }
 
-TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
+TEST_F(SolvingTest, EveryPressOfEscCountsWhateverItsTime) {
+    for (const quint64 time : {0U, 0U, 1000U, 1200U, 0U}) {
+        Esc(*form, QEvent::KeyPress, time);
+        EXPECT_TRUE(platform.EscPressed());
+        Esc(*form, QEvent::KeyRelease, time);
+        EXPECT_TRUE(!platform.EscPressed()) << time;
+    }
+}
+
+TEST_F(SolvingTest, RotorShowsOnePictureAfterTheOther) {
     window.ctlRotor1.SetRunning(true);
     for (int seen = 0; seen < 14; ++seen) {
         const auto last = RotorPictures();
@@ -173,11 +124,10 @@ TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
     }
     window.ctlRotor1.SetRunning(false);
     EXPECT_TRUE(RotorPictures().empty());
-    window.ctlRotor1.SetWidth(900);
-    EXPECT_EQ(window.ctlRotor1.Width(), 480) << "as wide as a picture";
+    EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#2f5d8c"));
 }
 
-TEST_F(SolveWindowTest, RotorTurnsAfterEachPause) {
+TEST_F(SolvingTest, RotorTurnsAfterEachPause) {
     platform.ReallySleeps = true;
     QList<int> seen = RotorPictures();
     int turns = -1;

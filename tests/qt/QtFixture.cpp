@@ -1,4 +1,4 @@
-#include "WindowFixture.h"
+#include "QtFixture.h"
 
 #include <QApplication>
 #include <QFile>
@@ -7,20 +7,11 @@
 #include <QPushButton>
 #include <QTest>
 
-#include <cmath>
-#include <map>
-
 namespace tessarin {
 
 namespace {
 
 constexpr int LookMilliseconds = 20;
-
-std::string NameOf(Color color) {
-    const std::map<Color, std::string> names{
-        {Normal, "normal"}, {SystemColor(18), "text"}, {RedColor, "red"}, {GreenColor, "green"}};
-    return color == 0xFFFF ? "yellow" : names.contains(color) ? names.at(color) : "?";
-}
 
 } // namespace
 
@@ -39,7 +30,7 @@ void SpyPlatform::SetWindowLongA(int handle, int index, int value) {
     QtPlatform::SetWindowLongA(handle, index, value);
 }
 
-WindowTest::WindowTest() {
+QtFixture::QtFixture() {
     Unexpected = [this](QDialog& dialog) {
         ADD_FAILURE() << "unexpected box after " << Boxes.join("; ").toStdString();
         dialog.reject();
@@ -50,12 +41,12 @@ WindowTest::WindowTest() {
     EXPECT_TRUE(QTest::qWaitForWindowActive(form));
 }
 
-void WindowTest::Click(QWidget& widget, QPoint where, Qt::MouseButton button) {
+void QtFixture::Click(QWidget& widget, QPoint where, Qt::MouseButton button) {
     QWidget* const top = widget.window();
     QTest::mouseClick(top->windowHandle(), button, {}, widget.mapTo(top, where));
 }
 
-void WindowTest::Key(Qt::Key key) {
+void QtFixture::Key(Qt::Key key) {
     // As between two strokes of a hand; without the pause the second one counts as a repeat.
     QTest::qWait(LookMilliseconds);
     QWidget* top = QApplication::activePopupWidget();
@@ -63,7 +54,7 @@ void WindowTest::Key(Qt::Key key) {
     QTest::keyClick((top == nullptr ? form : top)->windowHandle(), key);
 }
 
-bool WindowTest::Menu(const QString& entry) {
+bool QtFixture::Menu(const QString& entry) {
     for (QAction* const action : MenuBar().actions())
         if (action->objectName() == entry)
             Click(MenuBar(), MenuBar().actionGeometry(action).center());
@@ -78,12 +69,12 @@ bool WindowTest::Menu(const QString& entry) {
     return false;
 }
 
-void WindowTest::Import(const QString& path) {
+void QtFixture::Import(const QString& path) {
     ChooseFile(path);
     EXPECT_TRUE(Menu("mnuFileImportCSV"));
 }
 
-void WindowTest::Answer(QMessageBox::StandardButton button, std::function<void()> whileOpen) {
+void QtFixture::Answer(QMessageBox::StandardButton button, std::function<void()> whileOpen) {
     mAnswers.emplace_back([this, button, whileOpen = std::move(whileOpen)](QDialog& dialog) {
         if (whileOpen) whileOpen();
         auto* const box = qobject_cast<QMessageBox*>(&dialog);
@@ -92,7 +83,7 @@ void WindowTest::Answer(QMessageBox::StandardButton button, std::function<void()
     });
 }
 
-void WindowTest::ChooseFile(const QString& path) {
+void QtFixture::ChooseFile(const QString& path) {
     mAnswers.emplace_back([this, path](QDialog& dialog) {
         auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
         if (name == nullptr) return Unexpected(dialog);
@@ -101,11 +92,11 @@ void WindowTest::ChooseFile(const QString& path) {
     });
 }
 
-void WindowTest::CancelDialog() {
+void QtFixture::CancelDialog() {
     mAnswers.emplace_back([this](QDialog&) { Key(Qt::Key_Escape); });
 }
 
-void WindowTest::LookForBox() {
+void QtFixture::LookForBox() {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || dialog == mSeen) return;
     // Only an active box can be answered; a window manager sees to it that it becomes active.
@@ -126,39 +117,13 @@ void WindowTest::LookForBox() {
     answer(*dialog);
 }
 
-QWidget& WindowTest::Widget(const std::string& name) {
+QWidget& QtFixture::Widget(const std::string& name) {
     auto* const widget = form->findChild<QWidget*>(QString::fromStdString(name));
     if (widget == nullptr) throw std::invalid_argument("no control " + name);
     return *widget;
 }
 
-std::string WindowTest::Shows(int index) {
-    const Label& label = window.lblField(index);
-    const auto& [name, size, italic] = label.Font();
-    const std::string look =
-        label.Caption() + " " + NameOf(label.BackColor()) + "/" + NameOf(label.ForeColor());
-    if (name == "Arial Black" && size == 20 && !italic) return look;
-    return look + " " + name + " " + std::to_string(std::lround(size)) + (italic ? " italic" : "");
-}
-
-std::vector<int> WindowTest::YellowFields() {
-    std::vector<int> fields;
-    for (int k = 1; k <= 81; ++k)
-        if (NameOf(window.lblField(k).BackColor()) == "yellow") fields.push_back(k);
-    return fields;
-}
-
-void WindowTest::Enter(int first, const std::vector<int>& values) {
-    for (std::size_t i = 0; i < values.size(); ++i)
-        if (values[i] != 0) At(first + static_cast<int>(i)).SetValue(values[i]);
-}
-
-void WindowTest::MakeFieldOneDead() {
-    Enter(2, {1, 2, 3, 4, 5, 6, 7, 8});
-    Enter(11, {9});
-}
-
-QString WindowTest::File(const QString& name, const QByteArray& content) {
+QString QtFixture::File(const QString& name, const QByteArray& content) {
     QFile file(folder.filePath(name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     return file.fileName();

@@ -1,6 +1,7 @@
 // The real window with a user made of mouse and key events.
 #pragma once
 
+#include "Program.h"
 #include "qt/QtForm.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtToolkit.h"
@@ -19,13 +20,11 @@
 
 namespace tessarin {
 
-constexpr Color Normal = SystemColor(5);
-constexpr Color RedColor = 0x0000FF;
-constexpr Color GreenColor = 0x00FF00;
-
 /// The real machine, which notes what passes.
 class SpyPlatform final : public qt::QtPlatform {
 public:
+    SpyPlatform() : QtPlatform(ProgramVersion) {}
+
     bool ReallySleeps = false; ///< off: a sleep takes no time
     std::vector<int> Sleeps;
     int Beeps = 0;
@@ -36,19 +35,19 @@ public:
     void Sleep(int milliseconds) override;
     void Beep() override { ++Beeps; }
     void SetWindowLongA(int handle, int index, int value) override;
+    void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
 };
 
 /// The window, shown and active. Whatever the user does is handled before the call returns: the
 /// command that it started has ended then, its boxes answered as told before.
-class WindowTest : public testing::Test {
+class QtFixture : public testing::Test {
 protected:
-    WindowTest();
+    QtFixture();
 
     // Events go to the window that is seen, so that modal boxes, open menus and disabled panels
     // keep them from the controls as they do on a screen.
     void Click(QWidget& widget, QPoint where, Qt::MouseButton button = Qt::LeftButton);
     void Click(const std::string& name) { Click(Widget(name), Widget(name).rect().center()); }
-    void ClickField(int index) { Click(window.lblField(index).Name()); }
     void Key(Qt::Key key);
     /// Opens the menus on the way to the entry and clicks it. False when one does not open.
     bool Menu(const QString& entry);
@@ -65,17 +64,8 @@ protected:
 
     QWidget& Widget(const std::string& name);
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
-    /// What a field's label shows: caption, background and text colour, and the font when it is not
-    /// the one for values: "7 green/text", "3 yellow/red Arial 12 italic".
-    std::string Shows(int index);
-    std::vector<int> YellowFields();
-
     Fields& Grid() { return *goGame->Fields; }
     Field& At(int index) { return *Grid().Items.Item(index); }
-    /// Enters values from field `first` on; 0 leaves a field as it is.
-    void Enter(int first, const std::vector<int>& values);
-    /// Row 1 holds 1 to 8 and field 11 the 9, so that field 1 has no free value.
-    void MakeFieldOneDead();
     /// A file with that content in the scratch folder.
     QString File(const QString& name, const QByteArray& content);
 

@@ -1,0 +1,74 @@
+// What fields, information panel and number pad show.
+#include "WindowScript.h"
+
+namespace tessarin {
+
+using DisplayTest = WindowFixture;
+
+TEST_F(DisplayTest, MarkWinsOverDeadAndDeadOverCursor) {
+    Do("fill .12345678.9");
+    // C: the cursor is on it, L: it is locked, N, G: it is marked as neighbour or group member.
+    using Row = std::tuple<int, std::string, const char*>;
+    for (const auto& [index, state, look] :
+         {Row{1, "", ":red/text"}, Row{1, "C", ":red/text"}, Row{1, "L", ":red/red"},
+          Row{1, "CN", ":yellow/text"}, Row{1, "G", ":yellow/text"}, Row{2, "", "1:normal/text"},
+          Row{2, "C", "1:green/text"}, Row{2, "L", "1:normal/red"}, Row{2, "CL", "1:green/red"},
+          Row{2, "CLG", "1:yellow/red"}, Row{10, "", ":normal/text"}}) {
+        SCOPED_TRACE(std::to_string(index) + state);
+        const auto is = [&](char letter) { return state.find(letter) != std::string::npos; };
+        grid.SetIndex(is('C') ? index : 81);
+        At(index).SetLocked(is('L'));
+        window.lblField(index).SetFont({.Name = "Arial", .Size = 12, .Italic = true});
+        window.PaintField(index, is('N'), is('G'));
+        EXPECT_EQ(Shows(index), look);
+        At(index).SetLocked(false);
+    }
+}
+
+TEST_F(DisplayTest, InfoPanelDescribesTheFieldPaintedLast) {
+    Do("fill .12345678.9");
+    At(11).SetLocked(true);
+    play.Retries = 7;
+    grid.SetIndex(11);
+    window.PaintField(1);
+    EXPECT_EQ(window.lblInfo.Caption(),
+              "Index=1\r\nValue=0\r\n\r\nFreedom=0\r\nFreeValuesList=\r\n\r\nIsCursor=False\r\n"
+              "IsLocked=False\r\nIsEmpty=True\r\nIsDeadCell=True\r\n\r\nRetries=7\r\nDeadCount=1");
+    window.PaintField(0);
+    EXPECT_EQ(window.lblInfo.Caption(),
+              "Index=11\r\nValue=9\r\n\r\nFreedom=6\r\nFreeValuesList=3;4;5;6;7;8;\r\n\r\n"
+              "IsCursor=True\r\nIsLocked=True\r\nIsEmpty=False\r\nIsDeadCell=False\r\n\r\n"
+              "Retries=7\r\nDeadCount=1");
+    grid.SetIndex(0);
+    window.RefreshAll();
+    Script("fields 1 > :red/text & cursor > 1");
+    EXPECT_EQ(window.lblInfo.Caption().substr(0, 10), "Index=81\r\n");
+}
+
+TEST_F(DisplayTest, NumberPadFollowsTheCurrentField) {
+    const std::string before(36, '.'); // row 5, with the current field in its middle
+    Script("index 41 & pad > 0123456789XC 0123456789C normal");
+    Do("fill " + before + "1346.78");
+    Script("pad > 0259XC 0123456789C normal & lock 41 1 & pad > 0259XC X red & lock 41 0");
+    Script("set 41 5 & pad > 029XC 0123456789XC normal & lock 41 1 & pad > 029XC X red");
+}
+
+TEST_F(DisplayTest, ScreenReadersHearWhatAFieldHolds) {
+    const std::pair<const char*, const char*> rows[] = {{"index 12", "row 2, column 3: empty"},
+                                                        {"set 12 5", "row 2, column 3: 5"},
+                                                        {"playlock", "row 2, column 3: 5, locked"}};
+    for (const auto& [step, spoken] : rows) {
+        Do(step);
+        EXPECT_EQ(window.lblField(12).AccessibleName(), spoken);
+    }
+    EXPECT_EQ(window.btnGoBack.AccessibleName(), "go back to previous field");
+}
+
+TEST_F(DisplayTest, FieldsOfALargerGridAreLeftOut) {
+    grid.Init(5);
+    window.RefreshAll();
+    Script("index 625 & set 625 25 & set 81 24 & fields 81 > 24:normal/text");
+    window.PaintFreedoms();
+}
+
+} // namespace tessarin

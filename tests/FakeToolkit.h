@@ -1,0 +1,69 @@
+#pragma once
+
+#include "toolkit/Controls.h"
+#include "toolkit/Form.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tessarin {
+
+/// A window toolkit that shows nothing. Its peers do nothing; it finds the controls by their names.
+class FakeToolkit : public Toolkit {
+public:
+    std::deque<std::string> Files;          ///< chosen in the next file dialogs; none: cancelled
+    std::vector<FileDialogRequest> Dialogs; ///< those shown so far
+    std::function<void()> OnClosed = [] {}; ///< runs when the form has closed
+
+    Control& Find(const std::string& name) {
+        const auto found = mControls.find(name);
+        if (found == mControls.end()) throw std::invalid_argument("no control " + name);
+        return *found->second;
+    }
+
+    std::unique_ptr<FormPeer> Create(Form& form) override {
+        mControls[form.Name()] = &form;
+        return std::make_unique<Peer>([this, &form] {
+            if (form.RaiseUnload()) OnClosed();
+        });
+    }
+    std::unique_ptr<ControlPeer> Create(Label& label, Control&) override { return Add(label); }
+    std::unique_ptr<ControlPeer> Create(CommandButton& b, Control&) override { return Add(b); }
+    std::unique_ptr<ControlPeer> Create(OptionButton& o, Control&) override { return Add(o); }
+    std::unique_ptr<ControlPeer> Create(Frame& frame, Control&) override { return Add(frame); }
+    std::unique_ptr<ControlPeer> Create(UserControl& c, Control&) override { return Add(c); }
+    std::unique_ptr<ControlPeer> Create(Picture& p, Control&) override { return Add(p); }
+    std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
+    std::unique_ptr<ControlPeer> Create(MenuItem& item, Form&) override { return Add(item); }
+    std::unique_ptr<ControlPeer> Create(MenuItem& item, MenuItem&) override { return Add(item); }
+    std::optional<std::string> RunFileDialog(const FileDialogRequest& request) override {
+        Dialogs.push_back(request);
+        if (Files.empty()) return std::nullopt;
+        std::string file = std::move(Files.front());
+        Files.pop_front();
+        return file;
+    }
+
+private:
+    struct Peer : FormPeer {
+        explicit Peer(std::function<void()> close) : OnClose(std::move(close)) {}
+        void Changed(Property /*property*/) override {}
+        void Close() override { OnClose(); }
+        int Handle() override { return 5; }
+        std::function<void()> OnClose;
+    };
+
+    std::unique_ptr<ControlPeer> Add(Control& control) {
+        mControls[control.Name()] = &control;
+        return std::make_unique<Peer>(nullptr);
+    }
+
+    std::map<std::string, Control*> mControls;
+};
+
+} // namespace tessarin

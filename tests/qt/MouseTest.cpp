@@ -1,0 +1,70 @@
+// What a mouse does to the controls.
+#include "QtFixture.h"
+
+#include <QAbstractButton>
+#include <QTest>
+
+namespace tessarin {
+namespace {
+
+using MouseTest = QtFixture;
+
+TEST_F(MouseTest, OnlyALeftClickInsideAFieldMovesTheCursor) {
+    QWidget& field = Widget("lblField(40)");
+    Click(field, {9, 9}, Qt::RightButton);
+    QTest::mousePress(form->windowHandle(), Qt::LeftButton, {}, field.mapTo(form, QPoint(9, 9)));
+    QTest::mouseRelease(form->windowHandle(), Qt::LeftButton, {}, {9, 99});
+    EXPECT_EQ(Grid().Index(), 1);
+    Click("lblField(40)");
+    EXPECT_EQ(Grid().Index(), 40);
+    int clicks = 0;
+    window.lblField.Click = [&](int) { ++clicks; };
+    QTest::mouseDClick(form->windowHandle(), Qt::LeftButton, {}, field.mapTo(form, QPoint(9, 9)));
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(MouseTest, ButtonsAndOptionsAnswerOnceForEachClick) {
+    Click("btnNumPad(5)");
+    Click("btnNumPad(10)"); // locked: the other keys are disabled from here on
+    Click("btnNumPad(3)");
+    EXPECT_EQ(At(1).Value(), 5);
+    Click("btnInfo");
+    std::vector<int> clicks;
+    window.optChill.Click = [&](int index) { clicks.push_back(index); };
+    for (const int index : {3, 3, 1, 0, 6})
+        Click(window.optChill(index).Name());
+    window.optChill(1).Select();
+    EXPECT_EQ(clicks, (std::vector{3, 3, 1, 0, 6, 1}));
+    EXPECT_TRUE(dynamic_cast<QAbstractButton&>(Widget("optChill(1)")).isChecked());
+}
+
+TEST_F(MouseTest, MenusAreShutWhileAViewIsShown) {
+    QStringList opened;
+    Answer(QMessageBox::Ok, [&] {
+        for (const char* const entry : {"mnuFileQuit", "mnuEditLockAllSet", "mnuViewFreedom"})
+            if (Menu(entry)) opened << entry;
+    });
+    ASSERT_TRUE(Menu("mnuViewNeighbours"));
+    bool asked = false;
+    QTimer user; // after the neighbours, which cannot be clicked around in: a box is open
+    QObject::connect(&user, &QTimer::timeout, [&] {
+        if (std::exchange(asked, true) || !window.ViewRunning()) return;
+        Click("lblField(50)");
+        for (const char* const entry : {"mnuFileQuit", "mnuEditLockAllSet", "mnuViewFreedom"})
+            if (Menu(entry)) opened << entry;
+        Answer(QMessageBox::Ok);
+        EXPECT_TRUE(Menu("mnuAbout"));
+    });
+    user.start(0);
+    ASSERT_TRUE(Menu("mnuViewGroups"));
+    user.stop();
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(opened, QStringList());
+    EXPECT_EQ(Grid().Index(), 1);
+    Click("btnNumPad(4)");
+    EXPECT_TRUE(Menu("mnuEditLockAllSet"));
+    EXPECT_TRUE(At(1).Locked());
+}
+
+} // namespace
+} // namespace tessarin
