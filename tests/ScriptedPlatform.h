@@ -51,14 +51,14 @@ public:
     void Sleep(int milliseconds) override {
         if (Closed) return;
         Note("Sleep", milliseconds);
-        if (AtSleep) AtSleep();
+        if (const auto meanwhile = AtSleep) meanwhile();
     }
     bool EscPressed() override { return Next(Esc); }
     Message::Answer ShowMessage(const Message& box) override {
         const bool yesNo = box.ButtonSet == Message::Buttons::YesNo;
         if (Closed) return yesNo ? Message::Answer::No : Message::Answer::Ok;
         Note("Box", box.Prompt, box.Title, yesNo ? "YesNo" : "Ok", box.QuestionIcon ? "?" : "-");
-        if (AtBox) AtBox();
+        if (const auto meanwhile = AtBox) meanwhile();
         if (!yesNo) return Message::Answer::Ok;
         return Next(Answers) ? Message::Answer::Yes : Message::Answer::No;
     }

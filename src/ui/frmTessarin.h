@@ -1,10 +1,10 @@
 #pragma once
 
+#include "play/Game.h"
 #include "toolkit/CommonDialog.h"
 #include "toolkit/ControlArray.h"
 #include "toolkit/Controls.h"
 #include "toolkit/Form.h"
-#include "play/Game.h"
 #include "ui/ctlRotor/ctlRotor.h"
 
 #include <array>
