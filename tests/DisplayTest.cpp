@@ -15,7 +15,9 @@ TEST_F(DisplayTest, MarkWinsOverDeadAndDeadOverCursor) {
           Row{2, "C", "1:green/text"}, Row{2, "L", "1:normal/red"}, Row{2, "CL", "1:green/red"},
           Row{2, "CLG", "1:yellow/red"}, Row{10, "", ":normal/text"}}) {
         SCOPED_TRACE(std::to_string(index) + state);
-        const auto is = [&](char letter) { return state.find(letter) != std::string::npos; };
+        const auto is = [&state = state](char letter) {
+            return state.find(letter) != std::string::npos;
+        };
         grid.SetIndex(is('C') ? index : 81);
         At(index).SetLocked(is('L'));
         window.lblField(index).SetFont({.Name = "Arial", .Size = 12, .Italic = true});
