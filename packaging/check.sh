@@ -1,7 +1,8 @@
 #!/bin/sh
 # Checks what gets installed and packaged, from a build folder that is built already.
-# Usage: check.sh all|install|start|desktop|metainfo|manual|package|lintian BUILD-FOLDER
-# Ends with 0 when all is well, 77 when a tool is not at hand, else with 1.
+# Usage: check.sh install|start|desktop|metainfo|manual|package|lintian BUILD-FOLDER
+# Expects what the project says of itself in ID, VERSION, SUMMARY, HOMEPAGE and VENDOR. Ends with 0
+# when all is well, 77 when a tool is missing, else with 1.
 set -eu
 export LC_ALL=C.UTF-8
 
@@ -11,7 +12,6 @@ sources=$(cd "$(dirname "$0")" && pwd)
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 root=$scratch/root
-id=example.velmora.tessarin
 doc=usr/share/doc/tessarin
 
 fail() {
@@ -31,31 +31,26 @@ silent() {
     [ -z "$output" ] || fail "$* said: $output"
 }
 
-cached() {
-    sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt"
-}
-
-version=$(cached CMAKE_PROJECT_VERSION)
-
-# Every file a user is promised, below the root of the system.
+# Every file that is installed, below the root of the system.
 promised() {
     echo usr/bin/Tessarin
-    echo usr/share/applications/$id.desktop
-    echo usr/share/metainfo/$id.metainfo.xml
+    echo "usr/share/applications/$ID.desktop"
+    echo "usr/share/metainfo/$ID.metainfo.xml"
     echo usr/share/icons/hicolor/scalable/apps/tessarin.svg
     for size in 16 32 48 64 128 256; do
         echo "usr/share/icons/hicolor/${size}x$size/apps/tessarin.png"
     done
-    echo usr/share/man/man6/Tessarin.6.gz
-    for text in README.md changelog.gz copyright; do echo $doc/$text; done
+    echo $doc/README.md
     for puzzle in "$sources"/../puzzles/*.csv; do
         echo "usr/share/tessarin/puzzles/${puzzle##*/}"
     done
 }
 
-# The regular files below a folder are the promised ones, no more and no less, with their modes.
+# compare_with_promise <folder> <file...>: the regular files below the folder are the promised ones
+# and the given ones, no more and no less, with their modes.
 compare_with_promise() {
-    promised | sed 's/$/ 644/; s/^\(usr\/bin\/.*\) 644$/\1 755/' | sort >"$scratch/promised"
+    { promised; printf '%s\n' "$@" | sed 1d; } |
+        sed 's/$/ 644/; s/^\(usr\/bin\/.*\) 644$/\1 755/' | sort >"$scratch/promised"
     (cd "$1" && find usr -type f -printf '%p %m\n') | sort >"$scratch/found"
     diff "$scratch/promised" "$scratch/found" || fail "missing (<) or unexpected (>) files"
     odd=$(find "$1/usr" -type d ! -perm 755)
@@ -76,14 +71,12 @@ packaged() {
 
 check_install() {
     installed
-    compare_with_promise "$root"
+    compare_with_promise "$root" usr/share/man/man6/Tessarin.6
     for size in 16 32 48 64 128 256; do
         icon=$root/usr/share/icons/hicolor/${size}x$size/apps/tessarin.png
         found=$(od -An -tu1 -j16 -N8 "$icon" | awk '{ print $3 * 256 + $4, $7 * 256 + $8 }')
         [ "$found" = "$size $size" ] || fail "$icon measures $found"
     done
-    gzip -dc "$root/$doc/changelog.gz" | grep -q "^tessarin ($version) " ||
-        fail "the changelog does not know $version"
 }
 
 # The program, away from its build folder, waits for its user and has nothing to complain about.
@@ -104,7 +97,7 @@ check_start() {
 check_desktop() {
     need desktop-file-validate
     installed
-    entry=$root/usr/share/applications/$id.desktop
+    entry=$root/usr/share/applications/$ID.desktop
     silent desktop-file-validate "$entry"
     for key in Exec TryExec; do
         program=$(sed -n "s/^$key=//p" "$entry")
@@ -118,36 +111,38 @@ check_desktop() {
 check_metainfo() {
     need appstreamcli
     installed
-    metainfo=$root/usr/share/metainfo/$id.metainfo.xml
+    metainfo=$root/usr/share/metainfo/$ID.metainfo.xml
     appstreamcli validate --no-net --pedantic --no-color "$metainfo" >"$scratch/log" ||
         { cat "$scratch/log"; fail "the metainfo is not valid"; }
     if grep '^[EWIP]: ' "$scratch/log" | grep -v ' cid-maybe-not-rdns '; then
         fail "the validator has hints on the metainfo"
     fi
-    grep -q "<release version=\"$version\" " "$metainfo" || fail "no release $version"
+    grep -q "<release version=\"$VERSION\" " "$metainfo" || fail "no release $VERSION"
 }
 
 check_manual() {
-    need man gzip
+    need man
     installed
-    gzip -dc "$root/usr/share/man/man6/Tessarin.6.gz" >"$scratch/Tessarin.6"
-    MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$scratch/Tessarin.6" \
+    page=$root/usr/share/man/man6/Tessarin.6
+    MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$page" \
         2>"$scratch/log" >/dev/null || fail "man"
     [ ! -s "$scratch/log" ] || { cat "$scratch/log"; fail "the manual page has faults"; }
-    grep -q "\"Tessarin $version\"" "$scratch/Tessarin.6" || fail "the manual is not of $version"
+    grep -q "\"Tessarin $VERSION\"" "$page" || fail "the manual is not of $VERSION"
 }
 
 check_package() {
     packaged
     dpkg-deb --extract "$deb" "$root"
-    compare_with_promise "$root"
+    compare_with_promise "$root" usr/share/man/man6/Tessarin.6.gz $doc/changelog.gz $doc/copyright
+    gzip -dc "$root/$doc/changelog.gz" | grep -q "^tessarin ($VERSION) " ||
+        fail "the changelog does not know $VERSION"
     owners=$(dpkg-deb --contents "$deb" | awk '{ print $2 }' | sort -u)
     [ "$owners" = root/root ] || fail "owners: $owners"
     field() { dpkg-deb --field "$deb" "$1"; }
-    [ "$(field Package) $(field Version)" = "tessarin $version" ] || fail "name and version"
-    [ "$(field Homepage)" = "$(cached CMAKE_PROJECT_HOMEPAGE_URL)" ] || fail "home page"
-    [ "$(field Maintainer)" = "Velmora <maintainer@velmora.example>" ] || fail "maintainer"
-    [ "$(field Description | head -n 1)" = "Solves sudoku games" ] || fail "description"
+    [ "$(field Package) $(field Version)" = "tessarin $VERSION" ] || fail "name and version"
+    [ "$(field Homepage)" = "$HOMEPAGE" ] || fail "home page"
+    [ "$(field Maintainer)" = "$VENDOR <maintainer@velmora.example>" ] || fail "maintainer"
+    [ "$(field Description | head -n 1)" = "$SUMMARY" ] || fail "description"
     for library in libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6; do
         field Depends | tr ',' '\n' | grep -q "^ *$library (>= " || fail "no need of $library"
     done
@@ -163,16 +158,6 @@ check_lintian() {
 }
 
 case $check in
-all)
-    ended=0
-    for each in install start desktop metainfo manual package lintian; do
-        result=0
-        echo "== $each"
-        sh "$0" $each "$build" || result=$?
-        case $result in 0 | 77) ;; *) ended=1 ;; esac
-    done
-    exit $ended
-    ;;
 install | start | desktop | metainfo | manual | package | lintian) "check_$check" ;;
 *) fail "unknown check $check" ;;
 esac
