@@ -34,7 +34,7 @@ wait_until() {
 
 # start_display <width>x<height>: an X server on a free number with a small window manager.
 start_display() {
-    need xvfb jwm
+    need "${display_packages[@]}"
     start_process Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp \
         3>"$scratch/number" 2>"$scratch/Xvfb.log"
     wait_until 20 "virtual display" test -s "$scratch/number"
@@ -42,6 +42,7 @@ start_display() {
     export DISPLAY
     unset WAYLAND_DISPLAY
     export XDG_RUNTIME_DIR=$scratch
+    export DBUS_SESSION_BUS_ADDRESS=disabled: # nobody has logged in here
     cat >"$scratch/jwmrc" <<'END'
 <JWM>
   <Desktops width="1"><Background type="solid">#5a6472</Background></Desktops>

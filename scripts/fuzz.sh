@@ -1,15 +1,13 @@
 #!/bin/bash
 # Fuzzes the puzzle files and the player: fuzz.sh [seconds for each target]
-# What is found stays in build/fuzz/found.
+# An input that fails stays in build/fuzz/found.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"
 
 seconds=${1:-180}
-need "${build_packages[@]}" "${test_packages[@]}" clang libclang-rt-14-dev
-configure_and_build debug fuzz -DCMAKE_CXX_COMPILER=clang++ -DTESSARIN_FUZZ=ON \
-    -DTESSARIN_WINDOW=OFF -DBUILD_TESTING=OFF -DCMAKE_CXX_FLAGS="-O2 -fno-omit-frame-pointer \
-    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all"
+need "${build_packages[@]}" "${test_packages[@]}" clang libclang-rt-dev
+configure_and_build fuzz fuzz
 
 mkdir -p build/fuzz/found
 for target in build/fuzz/fuzz/fuzz_*; do

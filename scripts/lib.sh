@@ -8,8 +8,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 build_packages=(g++ cmake ninja-build)
 window_packages=(qt6-base-dev)
 test_packages=(libgtest-dev)
-# What the checks of the installation and the Debian package look with.
+# What the checks of the installation and the Debian package use.
 packaging_packages=(desktop-file-utils appstream man-db dpkg-dev file lintian)
+# An X server for programs that are to be shown without a screen, with a small window manager.
+display_packages=(xvfb jwm)
 
 fail() {
     echo "$0: $*" >&2
@@ -49,9 +51,10 @@ configure_and_build() {
     cmake --build "$folder" --parallel "$(nproc)"
 }
 
-# run_tests <folder under build/> [ctest options...]
+# run_tests <folder under build/> [ctest options...]: on the Qt platform $test_platform.
+test_platform=offscreen
 run_tests() {
     local folder=build/$1
     shift
-    QT_QPA_PLATFORM=offscreen ctest --test-dir "$folder" --output-on-failure "$@"
+    QT_QPA_PLATFORM=$test_platform ctest --test-dir "$folder" --output-on-failure --no-tests=error "$@"
 }

@@ -23,7 +23,7 @@ public:
 
 private:
     struct Unplaced {};
-    QtMenuPeer(MenuItem& item, QtForm& form, Unplaced);
+    QtMenuPeer(MenuItem& item, QtForm& form, Unplaced tag);
 
     QMenu& Menu();
 
