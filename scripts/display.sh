@@ -34,6 +34,7 @@ wait_until() {
 
 # start_display <width>x<height>: an X server on a free number with a small window manager.
 start_display() {
+    # shellcheck disable=SC2154 # lib.sh has been sourced before
     need "${display_packages[@]}"
     start_process Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp \
         3>"$scratch/number" 2>"$scratch/Xvfb.log"

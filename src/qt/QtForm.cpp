@@ -61,9 +61,8 @@ void QtForm::Changed(Property property) {
 void QtForm::ApplySize() {
     const int menuHeight = mMenuBar.sizeHint().height();
     const int least = menuHeight + Pixels(mForm.FormProperties().MinClientHeight);
-    const QSize size(
-        Pixels(mForm.Width()) - mFrame.left() - mFrame.right(),
-        std::max(Pixels(mForm.Height()) - mFrame.top() - mFrame.bottom(), least));
+    const QSize size(Pixels(mForm.Width()) - mFrame.left() - mFrame.right(),
+                     std::max(Pixels(mForm.Height()) - mFrame.top() - mFrame.bottom(), least));
     setFixedSize(size);
     mMenuBar.setGeometry(0, 0, size.width(), menuHeight);
     mClient.setGeometry(0, menuHeight, size.width(), size.height() - menuHeight);

@@ -32,7 +32,8 @@ public:
 
     QMenuBar& MenuBar() { return mMenuBar; }
 
-    /// The controls inside `container`, a frame or a composite control, become children of `inside`.
+    /// The controls inside `container`, a frame or a composite control, become children of
+    /// `inside`.
     void AddContainer(const Control& container, QWidget& inside) { mInside[&container] = &inside; }
     /// The widget for the controls inside `container`, which may be the form itself.
     QWidget& Inside(const Control& container) { return *mInside.at(&container); }

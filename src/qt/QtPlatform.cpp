@@ -144,8 +144,8 @@ int QtPlatform::RunModal(QDialog& dialog) {
     return dialog.exec();
 }
 
-// Qt keeps a stack of pointers: setting one twice would need restoring twice. While a dialog is open
-// the program waits for the user, so that the hourglass would be wrong.
+// Qt keeps a stack of pointers: setting one twice would need restoring twice. While a dialog is
+// open the program waits for the user, so that the hourglass would be wrong.
 void QtPlatform::ApplyPointer() {
     const bool hourglass = mbHourglass && mlOpenDialogs == 0;
     if (hourglass == mbHourglassShown) return;

@@ -16,8 +16,8 @@ class ctlRotor : public UserControl {
 public:
     ctlRotor(Control& container, Design design);
 
-    /// True starts the rotor, a running one from the beginning; the next tick shows a picture. False
-    /// stops it and hides all pictures.
+    /// True starts the rotor, a running one from the beginning; the next tick shows a picture.
+    /// False stops it and hides all pictures.
     void SetRunning(bool SetRunning);
     bool Running() const { return FrameIndex >= 0; }
 
