@@ -1,5 +1,8 @@
 // What the real window costs on Qt's offscreen platform, from the click to the repainted grid, and
 // from the start of a process to its first painted window.
+#include "MinimalPuzzles.h"
+
+#include "qt/QtForm.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtToolkit.h"
 #include "ui/Colors.h"
@@ -8,42 +11,44 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QLabel>
+#include <QMenuBar>
+#include <QMouseEvent>
 #include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyleFactory>
 #include <QTimer>
 
+#include <algorithm>
+#include <atomic>
 #include <chrono>
+#include <deque>
+#include <mutex>
+#include <thread>
 
 namespace tessarin {
 namespace {
 
-class CountingPlatform final : public qt::QtPlatform {
-public:
-    int Pumps = 0;
-    void PumpEvents() override {
-        ++Pumps;
-        QtPlatform::PumpEvents();
-    }
-};
-
 struct Window {
-    CountingPlatform Platform;
+    qt::QtPlatform Platform;
     qt::QtToolkit Toolkit{Platform};
     frmTessarin Form{Toolkit};
 
     Window() {
         Form.Show();
-        PumpEvents();
+        PumpEvents(Pump::Now);
     }
     void Load(const std::string& puzzle) {
         goGame->FileImportCSV(PUZZLES + puzzle + ".csv");
         goGame->Fields->SetIndex(1);
         Form.RefreshAll();
-        PumpEvents();
+        PumpEvents(Pump::Now);
     }
     void Solve() {
         Form.btnSolve.RaiseClick();
-        PumpEvents();
+        PumpEvents(Pump::Now);
     }
 };
 
@@ -63,21 +68,97 @@ BENCHMARK_CAPTURE(SolveFromClick, quiet_easy, "easy-1", 0)->Unit(benchmark::kMil
 BENCHMARK_CAPTURE(SolveFromClick, quiet_hard, "hard-1", 0)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(SolveFromClick, painted_easy, "easy-1", 1)->Unit(benchmark::kMillisecond);
 
-// The pumps of the same solve with nothing between them.
-void BarePumps(benchmark::State& state, const char* puzzle) {
+// The same solves without a window.
+void SolveWithoutWindow(benchmark::State& state, const char* puzzle) {
+    Game game;
+    for (auto _ : state) {
+        state.PauseTiming();
+        game.FileImportCSV(PUZZLES + std::string(puzzle) + ".csv");
+        state.ResumeTiming();
+        game.Play->Solve();
+    }
+}
+BENCHMARK_CAPTURE(SolveWithoutWindow, easy, "easy-1")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(SolveWithoutWindow, hard, "hard-1")->Unit(benchmark::kMillisecond);
+
+double MillisecondsSince(std::chrono::steady_clock::time_point start) {
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
+    return time.count();
+}
+
+// Quiet solves of a thousand random puzzles from click to repainted grid; hardest_ms is the
+// longest.
+void SolveMinimalPuzzles(benchmark::State& state) {
     Window window;
     window.Form.optChill(0).Select();
-    window.Load(puzzle);
-    window.Platform.Pumps = 0;
-    window.Solve();
-    const int pumps = window.Platform.Pumps;
+    MinimalPuzzles puzzles(1);
+    double hardest = 0;
     for (auto _ : state)
-        for (int i = 0; i < pumps; ++i)
-            PumpEvents();
-    state.SetItemsProcessed(state.iterations() * pumps);
+        for (int i = 0; i < 1000; ++i) {
+            state.PauseTiming();
+            const auto cells = puzzles.Next();
+            goGame->Fields->Clear();
+            goGame->Play->Reset();
+            for (std::size_t k = 0; k < cells.size(); ++k)
+                goGame->Fields->Items.Item(static_cast<int>(k) + 1)->SetValue(cells[k]);
+            goGame->Fields->SetLockAll(true);
+            window.Form.RefreshAll();
+            PumpEvents(Pump::Now);
+            state.ResumeTiming();
+            const auto start = std::chrono::steady_clock::now();
+            window.Solve();
+            hardest = std::max(hardest, MillisecondsSince(start));
+        }
+    state.counters["hardest_ms"] = hardest;
 }
-BENCHMARK_CAPTURE(BarePumps, easy, "easy-1")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(BarePumps, hard, "hard-1")->Unit(benchmark::kMillisecond);
+BENCHMARK(SolveMinimalPuzzles)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// Another thread clicks on fields every millisecond while puzzles are solved quietly. How late the
+// clicks are answered: latest_ms at worst, mean_ms on average.
+void ClicksWhileSolving(benchmark::State& state) {
+    Window window;
+    window.Form.optChill(0).Select();
+    auto* const field = window.Platform.CurrentForm().findChild<QWidget*>("lblField(41)");
+    std::mutex mutex;
+    std::deque<std::chrono::steady_clock::time_point> clicked;
+    int clicks = 0;
+    double latest = 0, sum = 0;
+    window.Form.lblField.Click = [&](int) {
+        const std::scoped_lock lock(mutex);
+        const double late = MillisecondsSince(clicked.front());
+        clicked.pop_front();
+        latest = std::max(latest, late);
+        sum += late;
+        ++clicks;
+    };
+    std::atomic<bool> solving = false;
+    std::jthread user([&](const std::stop_token& stop) {
+        while (!stop.stop_requested()) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            if (!solving) continue;
+            {
+                const std::scoped_lock lock(mutex);
+                clicked.push_back(std::chrono::steady_clock::now());
+            }
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+                QApplication::postEvent(field, new QMouseEvent(type, QPointF(9, 9), QPointF(9, 9),
+                                                               Qt::LeftButton, Qt::LeftButton, {}));
+        }
+    });
+    for (auto _ : state) {
+        state.PauseTiming();
+        window.Load("hard-1");
+        state.ResumeTiming();
+        solving = true;
+        window.Solve();
+        solving = false;
+    }
+    user = {};
+    PumpEvents(Pump::Now);
+    state.counters["latest_ms"] = latest;
+    state.counters["mean_ms"] = sum / std::max(clicks, 1);
+}
+BENCHMARK(ClicksWhileSolving)->Unit(benchmark::kMillisecond);
 
 // One field painted and brought to the screen; its value changes, or nothing does.
 void PaintOneField(benchmark::State& state, bool changing) {
@@ -85,7 +166,7 @@ void PaintOneField(benchmark::State& state, bool changing) {
     int mark = 0;
     for (auto _ : state) {
         window.Form.PaintField(41, changing && (++mark & 1) != 0);
-        PumpEvents();
+        PumpEvents(Pump::Now);
     }
 }
 BENCHMARK_CAPTURE(PaintOneField, changed, true);
@@ -99,11 +180,11 @@ void RefreshAll(benchmark::State& state, bool changing) {
             state.PauseTiming();
             for (int k = 1; k <= 81; ++k)
                 window.Form.lblField(k).SetBackColor(Yellow);
-            PumpEvents();
+            PumpEvents(Pump::Now);
             state.ResumeTiming();
         }
         window.Form.RefreshAll();
-        PumpEvents();
+        PumpEvents(Pump::Now);
     }
 }
 BENCHMARK_CAPTURE(RefreshAll, changed, true);
@@ -116,7 +197,53 @@ class UntilFirstPaint : public QObject {
     }
 };
 
-// Shows the program's window or a bare one with 81 labels until it has been painted.
+// The same controls with the same texts and fonts, made of Qt's widgets alone.
+class BareWindow : public QWidget {
+public:
+    BareWindow() {
+        QApplication::setStyle(QStyleFactory::create("fusion"));
+        QFont font = QApplication::font();
+        font.setPixelSize(12);
+        QApplication::setFont(font);
+        setFixedSize(588, 457);
+        for (const char* const title : {"File", "Edit", "View", "?"}) {
+            QMenu* const menu = mMenuBar.addMenu(title);
+            for (const char* const entry : {"Import", "Export", "Quit"})
+                menu->addAction(entry);
+        }
+        mMenuBar.resize(588, 19);
+        for (int k = 0; k < 81; ++k)
+            Add<QLabel>(*this, "", "Arial Black", 27, 20 + k % 9 * 40, 30 + k / 9 * 40);
+        auto& pad = Add<QFrame>(*this, {}, "Arial", 27, 410, 28, 160, 420);
+        for (int k = 0; k < 12; ++k)
+            Add<QPushButton>(pad, QString::number(k), "Arial", 27, k % 3 * 50, k / 3 * 50);
+        for (const char* const caption : {">", ">I", "S", "<", "<<", "F", "I"})
+            Add<QPushButton>(pad, caption, "Arial", 19, 10, 220);
+        auto& side = Add<QGroupBox>(*this, "Chillout", "", 10, 590, 28, 169, 420);
+        for (const char* const caption : {"0", "100", "200", "400", "800", "Quiet", "Step"})
+            Add<QRadioButton>(side, caption, "", 10, 10, 20);
+        Add<QLabel>(side, "Index=81", "", 10, 10, 200, 100, 200);
+    }
+
+private:
+    template <class Widget>
+    static Widget& Add(QWidget& parent, const QString& text, const QString& family, int pixels,
+                       int x, int y, int width = 40, int height = 40) {
+        auto* const widget = new Widget(&parent);
+        widget->setGeometry(x, y, width, height);
+        QFont font = QApplication::font();
+        if (!family.isEmpty()) font.setFamily(family);
+        font.setPixelSize(pixels);
+        widget->setFont(font);
+        widget->setToolTip(text);
+        if constexpr (requires { widget->setText(text); }) widget->setText(text);
+        return *widget;
+    }
+
+    QMenuBar mMenuBar{this};
+};
+
+// Shows the program's window or a bare one until it has been painted.
 int ShowOnce(bool bare) {
     UntilFirstPaint filter;
     qApp->installEventFilter(&filter);
@@ -127,11 +254,7 @@ int ShowOnce(bool bare) {
         form.Show();
         return QApplication::exec();
     }
-    QWidget window;
-    window.setFixedSize(590, 478);
-    for (int k = 0; k < 81; ++k)
-        (new QLabel(QString::number(k % 9 + 1), &window))
-            ->setGeometry(20 + k % 9 * 40, 30 + k / 9 * 40, 40, 40);
+    BareWindow window;
     window.show();
     return QApplication::exec();
 }

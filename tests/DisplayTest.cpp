@@ -55,15 +55,37 @@ TEST_F(DisplayTest, NumberPadFollowsTheCurrentField) {
     Script("set 41 5 & pad > 029XC 0123456789XC normal & lock 41 1 & pad > 029XC X red");
 }
 
-TEST_F(DisplayTest, ScreenReadersHearWhatAFieldHolds) {
-    const std::pair<const char*, const char*> rows[] = {{"index 12", "row 2, column 3: empty"},
-                                                        {"set 12 5", "row 2, column 3: 5"},
-                                                        {"playlock", "row 2, column 3: 5, locked"}};
-    for (const auto& [step, spoken] : rows) {
+TEST_F(DisplayTest, ScreenReadersHearWhatTheColoursTell) {
+    using Row = std::tuple<const char*, const char*, const char*>;
+    for (const auto& [step, control, spoken] :
+         {Row{"index 12", "lblField(12)", "row 2, column 3: empty, current"},
+          {"set 12 5", "lblField(12)", "row 2, column 3: 5, current"},
+          {"playlock", "lblField(12)", "row 2, column 3: 5, locked, current"},
+          {"index 13", "lblField(12)", "row 2, column 3: 5, locked"},
+          {"status", "lblDeadEnd", "dead end: not lit"},
+          {"fill .12345678.", "lblWinner", "winner: not lit"},
+          {"set 10 9", "lblDeadEnd", "dead end: lit"},
+          {"click mnuViewNeighbours", "lblField(13)", "row 2, column 4: empty, current"},
+          {"index 1", "lblField(1)", "row 1, column 1: empty, current, dead"},
+          {"status", "optChill(2)", "pause 100 milliseconds"},
+          {"status", "optChill(0)", "only show result"},
+          {"status", "fraInfo", "FieldInfo"},
+          {"status", "btnGoBack", "go back to previous field"}}) {
         Do(step);
-        EXPECT_EQ(window.lblField(12).AccessibleName(), spoken);
+        EXPECT_EQ(toolkit.Find(control).AccessibleName(), spoken);
     }
-    EXPECT_EQ(window.btnGoBack.AccessibleName(), "go back to previous field");
+    std::string whileShown;
+    platform.AtBox = [&] { whileShown += window.lblField(2).AccessibleName() + "; "; };
+    Do("click mnuViewNeighbours");
+    Do("clear");
+    Do("click mnuViewFreedom");
+    EXPECT_EQ(whileShown, "row 1, column 2: 1, marked; row 1, column 2: empty, freedom 9; ");
+}
+
+TEST_F(DisplayTest, AtMostOneFieldIsGreen) {
+    Do("set 60 7"); // a click in the middle of another cursor move paints its field as the current
+    platform.AtPump(1, [&] { Click("lblField(60)"); });
+    Script("index 50 & cursor > 50 & fields 50 60 > :green/text 7:normal/text");
 }
 
 TEST_F(DisplayTest, FieldsOfALargerGridAreLeftOut) {

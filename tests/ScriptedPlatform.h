@@ -20,9 +20,10 @@ public:
     ~ScriptedPlatform() override { Platform::SetCurrent(mPrevious); }
 
     int Pumps = 0;
-    bool Hourglass = false;   ///< the mouse pointer
-    std::deque<bool> Esc;     ///< the next answers to EscPressed; not pressed after them
-    std::deque<bool> Answers; ///< to the next questions, Yes or No; No after them
+    Pump LastPump = Pump::WhenDue; ///< how the last pump was meant
+    bool Hourglass = false;        ///< the mouse pointer
+    std::deque<bool> Esc;          ///< the next answers to EscPressed; not pressed after them
+    std::deque<bool> Answers;      ///< to the next questions, Yes or No; No after them
     DateTime Time;
     std::string Folder;
     VersionRecord Program;
@@ -44,8 +45,9 @@ public:
         return std::exchange(mCalls, instead);
     }
 
-    void PumpEvents() override {
+    void PumpEvents(Pump pump) override {
         if (Closed) return;
+        LastPump = pump;
         if (++Pumps == mPumpOfAction && mAction) std::exchange(mAction, nullptr)();
     }
     void Sleep(int milliseconds) override {

@@ -84,6 +84,22 @@ TEST_F(SolveWindowTest, WhileItRunsThePanelsAreDeadAndAllElseAnswers) {
     EXPECT_TRUE(platform.Closed);
 }
 
+TEST_F(SolveWindowTest, APaceCountsAtOnceHoweverManyClicksWait) {
+    Do("click optChill(5)");
+    int sent = 0;
+    std::function<void()> user = [&] {
+        platform.AtPump(1, user);
+        if (platform.LastPump != Pump::Now) return; // until a pause begins
+        while (sent < 500)
+            window.lblField(++sent % 81 + 1).RaiseClick();
+        if (sent++ == 500) Click("optChill(1)");
+    };
+    platform.AtPump(1, user);
+    const std::string told = Do("click btnSolve");
+    EXPECT_EQ(told.find("Sleep"), std::string::npos);
+    EXPECT_TRUE(grid.IsWinner() && IsIdle());
+}
+
 TEST_F(SolveWindowTest, OnlyAConfirmedEscEndsIt) {
     platform.Esc = {true, true};
     const std::string box = "Box(Abbrechen?|ESC gedrückt|YesNo|-)";

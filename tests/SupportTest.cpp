@@ -49,6 +49,7 @@ TEST(SupportTest, WaitPumpsBeforeAndAfterSleeping) {
     ScriptedPlatform platform;
     Wait();
     EXPECT_EQ(platform.TakeCalls(), "Sleep(5) ");
+    EXPECT_EQ(platform.LastPump, Pump::Now);
     platform.AtPump(2, [&] { EXPECT_EQ(platform.TakeCalls(), "Sleep(800) "); });
     Wait(800);
     Wait(0);

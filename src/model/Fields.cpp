@@ -164,7 +164,7 @@ void Fields::UpdateStatus() {
     Counts counts = CountFields();
     Platform& platform = Platform::Current();
     for (int i = Items.Count(); i > 0; --i)
-        platform.PumpEvents();
+        platform.PumpEvents(Pump::WhenDue);
     if (!mbDirty) return; // a read in the middle of the pumping has brought the status up to date
     if (mlChanges != changes) counts = CountFields();
     TakeOver(std::move(counts));

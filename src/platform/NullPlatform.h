@@ -8,7 +8,7 @@ namespace tessarin {
 /// answered No, and window styles are forgotten. Logic, benchmarks and fuzzers run on it.
 class NullPlatform : public Platform {
 public:
-    void PumpEvents() override {}
+    void PumpEvents(Pump /*pump*/) override {}
     void Sleep(int /*milliseconds*/) override {}
     bool EscPressed() override { return false; }
     Message::Answer ShowMessage(const Message& message) override;

@@ -40,6 +40,9 @@ struct Message {
 
 enum class MousePointer { Default, Hourglass };
 
+/// How a pump is meant: at once, or only when the last one is some time ago.
+enum class Pump { Now, WhenDue };
+
 /// The machine below. One instance is current at a time; without any, a NullPlatform answers.
 class Platform {
 public:
@@ -51,7 +54,9 @@ public:
     static Platform* SetCurrent(Platform* platform);
 
     /// Handles all window events that are waiting, once. Any handler of the window may run inside.
-    virtual void PumpEvents() = 0;
+    /// Long computations ask thousands of times a second, with Pump::WhenDue: then a platform may
+    /// leave a pump out if another one has ended less than a millisecond before.
+    virtual void PumpEvents(Pump pump) = 0;
     /// Stops the program for `milliseconds` (above 0), less when the window is closed by a
     /// handler. The window may be painted and activated meanwhile; apart from what the activation
     /// pumps, no input of the user is handled and no timer ticks.
@@ -93,9 +98,9 @@ public:
     virtual void SetWindowLongA(int handle, int index, int value) = 0;
 };
 
-/// Handles all waiting window events, once: the current platform's PumpEvents.
-inline void PumpEvents() {
-    Platform::Current().PumpEvents();
+/// The current platform's PumpEvents.
+inline void PumpEvents(Pump pump = Pump::WhenDue) {
+    Platform::Current().PumpEvents(pump);
 }
 
 } // namespace tessarin

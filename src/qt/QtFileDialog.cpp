@@ -3,7 +3,9 @@
 #include "qt/QtLook.h"
 
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
+#include <QTreeView>
 
 #include <utility>
 
@@ -11,17 +13,27 @@ namespace tessarin::qt {
 
 namespace {
 
-// "CSV Dokumente (*.csv)|*.csv|..." in Qt's form: a list with one filter for each pair.
+// "CSV Dokumente (*.csv)|*.csv|..." in Qt's form: one filter for each pair, with the pattern in
+// brackets behind the description.
 QStringList NameFilters(const std::string& filter) {
     QStringList filters;
     const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        const QString description = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
         // Here *.* would leave out files without an extension.
         const QString pattern = parts[i + 1] == QLatin1String("*.*") ? "*" : parts[i + 1];
-        filters << description + " (" + pattern + ")";
+        filters << parts[i] + " (" + pattern + ")";
     }
     return filters;
+}
+
+// Name, size, type and date can be read without making the dialog wider.
+void ShowColumnsWhole(QFileDialog& dialog) {
+    constexpr int NameColumn = 0;
+    dialog.resize(740, 460);
+    if (const auto* const list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+        list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        list->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    }
 }
 
 } // namespace
@@ -31,9 +43,11 @@ QtFileDialog::QtFileDialog(FileDialogRequest request, QWidget* parent)
     setOption(QFileDialog::DontUseNativeDialog);
     setOption(QFileDialog::DontConfirmOverwrite);
     setWindowTitle(ToQt(mRequest.Title));
+    setOption(QFileDialog::HideNameFilterDetails); // the descriptions name their patterns
     setNameFilters(NameFilters(mRequest.Filter));
     setAcceptMode(mRequest.Saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     setFileMode(mRequest.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    ShowColumnsWhole(*this);
     if (!mRequest.FileName.empty()) setDirectory(QFileInfo(ToQt(mRequest.FileName)).absolutePath());
 }
 

@@ -1,5 +1,6 @@
 #include "qt/QtForm.h"
 
+#include "qt/QtLabel.h"
 #include "qt/QtLook.h"
 #include "qt/QtPlatform.h"
 
@@ -7,7 +8,9 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QTimer>
 #include <QWindow>
 
@@ -97,17 +100,35 @@ void QtForm::PlaceWidget(QWidget& widget, const Control& control) {
 void QtForm::KeepFocus(const std::function<void()>& change) {
     const QPointer<QWidget> before = focusWidget();
     change();
+    if (before != nullptr && focusWidget() == nullptr && mGrid.Current() != nullptr)
+        mGrid.Current()->setFocus();
     QWidget* const after = focusWidget();
     if (before != nullptr && after != before) {
         if (!mLostFocus || before != mFocusInstead) mLostFocus = before;
         mFocusInstead = after;
     } else if (mLostFocus && mLostFocus->isVisible() && mLostFocus->isEnabled()) {
-        // The menu bar keeps a focus that it got while no control had one.
-        const auto* const bar = qobject_cast<QMenuBar*>(after);
-        const bool isLeft = bar != nullptr && bar->activeAction() == nullptr;
-        if (after == mFocusInstead || isLeft) mLostFocus->setFocus();
+        if (after == mFocusInstead) mLostFocus->setFocus();
         mLostFocus.clear();
     }
+}
+
+void QtForm::MakeCurrent(QtLabel& label) {
+    QWidget* const before = mGrid.SetCurrent(label);
+    if (mFocusInstead == before) mFocusInstead = &label;
+    // When the window opens, the grid has the focus.
+    if (before == nullptr || focusWidget() == before) label.setFocus();
+}
+
+void QtForm::FocusGrid() {
+    mLostFocus.clear();
+    if (mGrid.Current() != nullptr) mGrid.Current()->setFocus();
+}
+
+// The bar remembers who had the focus, and gives it back when ESC is pressed there.
+void QtForm::LeaveMenuBar() {
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(&mMenuBar, &escape);
+    if (focusWidget() == &mMenuBar) FocusGrid();
 }
 
 void QtForm::LockUpdate() {
@@ -177,6 +198,20 @@ void QtForm::closeEvent(QCloseEvent* event) {
     if (closes) mPlatform.Close();
 }
 
+void QtForm::keyPressEvent(QKeyEvent* event) {
+    constexpr auto Shortcuts = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    event->ignore();
+    if ((event->modifiers() & Shortcuts) || event->isAutoRepeat() || focusWidget() == &mMenuBar)
+        return;
+    const auto buttons = mClient.findChildren<QPushButton*>();
+    for (QPushButton* const button : buttons)
+        if (button->isVisible() && button->text().size() == 1 &&
+            button->text().compare(event->text(), Qt::CaseInsensitive) == 0) {
+            event->accept();
+            return button->click();
+        }
+}
+
 // The Tab key visits the containers from left to right, and the controls of each row by row.
 void QtForm::ArrangeTabOrder() {
     auto widgets = mClient.findChildren<QWidget*>();
@@ -190,7 +225,6 @@ void QtForm::ArrangeTabOrder() {
                      [&](QWidget* a, QWidget* b) { return place(a) < place(b); });
     for (qsizetype i = 1; i < widgets.size(); ++i)
         setTabOrder(widgets[i - 1], widgets[i]);
-    if (!widgets.isEmpty()) widgets.constFirst()->setFocus();
 }
 
 } // namespace tessarin::qt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/QtLabelGrid.h"
 #include "toolkit/Controls.h"
 #include "toolkit/Form.h"
 
@@ -32,6 +33,16 @@ public:
 
     QMenuBar& MenuBar() { return mMenuBar; }
 
+    QtLabelGrid& Grid() { return mGrid; }
+    QRect GridOnScreen() const { return mGrid.Bounds().translated(mClient.mapToGlobal(QPoint())); }
+    const QMargins& Frame() const { return mFrame; }
+    /// The keyboard goes on from `label`, which is in the grid.
+    void MakeCurrent(QtLabel& label);
+    /// The user works in the grid: gives the focus to its current label for good.
+    void FocusGrid();
+    /// Ends the keyboard's work in the menu bar: the focus goes back to where it was.
+    void LeaveMenuBar();
+
     /// The controls inside `container`, a frame or a composite control, become children of
     /// `inside`.
     void AddContainer(const Control& container, QWidget& inside) { mInside[&container] = &inside; }
@@ -47,7 +58,7 @@ public:
 
     /// Runs `change`, which may hide or disable the control with the keyboard focus. That control
     /// gets the focus back when a later change makes it usable again, unless the user has moved the
-    /// focus meanwhile.
+    /// focus meanwhile. Until then the focus is at a control beside it or in the grid.
     void KeepFocus(const std::function<void()>& change);
 
     /// The window-style calls. Between lock and unlock they only take effect at the unlock.
@@ -60,6 +71,8 @@ public:
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    // A character that is the whole caption of a button clicks it.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void ApplySize();
@@ -72,6 +85,7 @@ private:
     QtPlatform& mPlatform;
     QMenuBar mMenuBar{this};
     QWidget mClient{this};
+    QtLabelGrid mGrid;
     QMargins mFrame; // the window frame, assumed until it is known
     std::unordered_map<const Control*, QWidget*> mInside;
     std::unordered_map<const Control*, QtMenuPeer*> mMenus;

@@ -15,7 +15,7 @@ void QtFrame::paintEvent(QPaintEvent* /*event*/) {
     const QString caption = ToQt(look.Caption);
     const int textHeight = caption.isEmpty() ? 0 : painter.fontMetrics().height();
     const QRect line = rect().adjusted(0, textHeight / 2, 0, 0);
-    painter.fillRect(line, palette().color(QPalette::Mid));
+    painter.fillRect(line, LineColor());
     painter.fillRect(line.adjusted(1, 1, -1, -1), ToQt(look.BackColor));
     if (caption.isEmpty()) return;
     const QRect text(8, 0, painter.fontMetrics().horizontalAdvance(caption) + 6, textHeight);

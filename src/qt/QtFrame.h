@@ -2,15 +2,15 @@
 
 #include "toolkit/Controls.h"
 
-#include <QWidget>
+#include <QGroupBox>
 
 namespace tessarin::qt {
 
 /// Paints a frame's background and, with a border, a line around its edge that is interrupted by
-/// the caption.
-class QtFrame : public QWidget {
+/// the caption. A group box for screen readers alone.
+class QtFrame : public QGroupBox {
 public:
-    QtFrame(const Frame& frame, QWidget& parent) : QWidget(&parent), mFrame(frame) {}
+    QtFrame(const Frame& frame, QWidget& parent) : QGroupBox(&parent), mFrame(frame) {}
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,7 +1,9 @@
 #include "qt/QtLabel.h"
 
+#include "qt/QtForm.h"
 #include "qt/QtLook.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -9,35 +11,47 @@
 
 namespace tessarin::qt {
 
-QtLabel::QtLabel(Label& label, QWidget& parent) : QLabel(&parent), mControl(label) {
+QtLabel::QtLabel(Label& label, QtForm& form, QWidget& parent)
+    : QLabel(&parent), mControl(label), mForm(form) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    if (IsInGrid()) mForm.Grid().Add(*this);
+    if (mControl.Properties().Keys == KeyStop::Own) setFocusPolicy(Qt::StrongFocus);
 }
 
 void QtLabel::paintEvent(QPaintEvent* /*event*/) {
     const Design& look = mControl.Properties();
     QPainter painter(this);
     QRect inside = rect();
-    // Two nested fills: a drawn rectangle loses lines at fractional scales.
-    if (look.Border == BorderStyle::FixedSingle) {
-        painter.fillRect(inside, Qt::black);
-        inside.adjust(1, 1, -1, -1);
+    // Nested fills: a drawn rectangle loses lines at fractional scales.
+    const auto ring = [&](const QColor& color, int width) {
+        painter.fillRect(inside, color);
+        inside.adjust(width, width, -width, -width);
+    };
+    if (look.Border == BorderStyle::FixedSingle) ring(LineColor(), 1);
+    const QRect space = inside; // for the text
+    if (hasFocus()) {           // on any background one of the two can be seen
+        ring(Qt::white, 2);
+        ring(Qt::black, 2);
     }
     painter.fillRect(inside, ToQt(look.BackColor));
+    if (look.Caption.empty()) return; // also saves the start from loading the font of the values
     painter.setFont(ToQt(look.Font));
     painter.setPen(TextColor(look.ForeColor, look.BackColor));
     const QString text = ToQt(look.Caption);
     if (look.Align == Alignment::Center)
-        painter.drawText(inside, Qt::AlignCenter, text);
+        painter.drawText(space, Qt::AlignCenter, text);
     else if (look.Wrap)
-        painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere, text);
+        painter.drawText(space, Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere, text);
     else
-        painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter,
-                         painter.fontMetrics().elidedText(text, Qt::ElideMiddle, inside.width()));
+        painter.drawText(space, Qt::AlignLeft | Qt::AlignVCenter,
+                         painter.fontMetrics().elidedText(text, Qt::ElideMiddle, space.width()));
 }
 
 void QtLabel::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) mbPressed = true;
     event->accept();
+    if (event->button() != Qt::LeftButton) return;
+    mbPressed = true;
+    if (IsInGrid()) mForm.FocusGrid();
 }
 
 void QtLabel::mouseReleaseEvent(QMouseEvent* event) {
@@ -45,6 +59,22 @@ void QtLabel::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const bool pressed = std::exchange(mbPressed, false);
     if (pressed && rect().contains(event->position().toPoint())) mControl.RaiseClick();
+}
+
+void QtLabel::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!event->isAutoRepeat()) mControl.RaiseClick();
+        return;
+    default:
+        break;
+    }
+    QtLabel* const target = IsInGrid() ? mForm.Grid().Target(*event) : nullptr;
+    if (target == nullptr) return QLabel::keyPressEvent(event);
+    mForm.FocusGrid();
+    target->mControl.RaiseClick();
 }
 
 } // namespace tessarin::qt

@@ -6,10 +6,14 @@
 
 namespace tessarin::qt {
 
-/// Paints a label from its control's properties (background, border and text) and reports clicks.
+class QtForm;
+
+/// Paints a label from its control's properties (background, border and text) and reports clicks:
+/// those of the mouse and, at a stop of the Tab key, those of the keyboard. In the form's grid of
+/// labels the arrow keys click the label they lead to.
 class QtLabel : public QLabel {
 public:
-    QtLabel(Label& label, QWidget& parent);
+    QtLabel(Label& label, QtForm& form, QWidget& parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -18,9 +22,13 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    bool IsInGrid() const { return mControl.Properties().Keys == KeyStop::Grid; }
+
     Label& mControl;
+    QtForm& mForm;
     bool mbPressed = false;
 };
 

@@ -45,6 +45,10 @@ QColor TextColor(Color fore, Color back) {
     return qGray(ToQt(back).rgb()) > 110 ? Qt::black : Qt::white;
 }
 
+QColor LineColor() {
+    return QApplication::palette().color(QPalette::WindowText);
+}
+
 QFont ToQt(const FontStyle& font) {
     QFont result = QApplication::font();
     if (font.Name == HeavyFamily) {

@@ -3,9 +3,31 @@
 #include "qt/QtForm.h"
 #include "qt/QtLook.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMenuBar>
 
 namespace tessarin::qt {
+
+namespace {
+
+// After ESC has closed the last menu, Qt leaves the focus on the menu bar.
+class BarMenu : public QMenu {
+public:
+    explicit BarMenu(QtForm& form) : QMenu(&form.MenuBar()), mForm(form) {}
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        QMenu::keyPressEvent(event);
+        const bool isClosed = QApplication::activePopupWidget() == nullptr;
+        if (event->key() == Qt::Key_Escape && isClosed) mForm.LeaveMenuBar();
+    }
+
+private:
+    QtForm& mForm;
+};
+
+} // namespace
 
 QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form, Unplaced /*tag*/)
     : mItem(item), mForm(form), mAction(&form) {
@@ -27,7 +49,7 @@ QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form, QtMenuPeer& parent)
 
 QMenu& QtMenuPeer::Menu() {
     if (!mMenu) {
-        mMenu = std::make_unique<QMenu>(&mForm.MenuBar());
+        mMenu = std::make_unique<BarMenu>(mForm);
         mMenu->setObjectName(mAction.objectName());
         mAction.setMenu(mMenu.get());
     }

@@ -1,14 +1,12 @@
 #include "qt/QtPlatform.h"
 
 #include "qt/QtForm.h"
-#include "qt/QtLook.h"
+#include "qt/QtMessageBox.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QFileInfo>
-#include <QGridLayout>
-#include <QMessageBox>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QStyleFactory>
@@ -24,14 +22,6 @@ namespace {
 constexpr int ExtendedStyleIndex = -20;
 constexpr int UiPixelSize = 12;
 
-// Wide enough for the title of a box whose text is short.
-constexpr int MinBoxWidth = 280;
-
-void WidenTo(int width, QMessageBox& box) {
-    if (auto* const grid = qobject_cast<QGridLayout*>(box.layout()))
-        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
-}
-
 } // namespace
 
 QtPlatform::QtPlatform(VersionRecord version) : mVersion(std::move(version)) {
@@ -46,10 +36,24 @@ QtPlatform::~QtPlatform() {
     Platform::SetCurrent(nullptr);
 }
 
-void QtPlatform::PumpEvents() {
-    if (mbClosed) return;
+void QtPlatform::PumpEvents(Pump pump) {
+    if (mbClosed || (pump == Pump::WhenDue && !IsPumpDue())) return;
     const QScopedValueRollback<bool> ticking(mbTicksHeld, false);
     QApplication::processEvents();
+    if (pump == Pump::Now)
+        mSincePump.invalidate();
+    else
+        mSincePump.start();
+}
+
+// Even if nothing is waiting, Qt's pump asks the kernel, which takes fifty times as long as the
+// puzzle logic works between two pumps. So half a millisecond passes between two real ones. A look
+// at the clock takes long enough, too: every eighth pump looks.
+bool QtPlatform::IsPumpDue() {
+    constexpr qint64 Nanoseconds = 500'000;
+    constexpr unsigned PumpsPerLook = 8;
+    if (!mSincePump.isValid()) return true;
+    return ++mlPumpsAsked % PumpsPerLook == 0 && mSincePump.nsecsElapsed() >= Nanoseconds;
 }
 
 // Sleeps in slices, so that the window is painted and activated meanwhile. What the user does,
@@ -57,6 +61,7 @@ void QtPlatform::PumpEvents() {
 void QtPlatform::Sleep(int milliseconds) {
     constexpr qint64 Slice = 20;
     const QDeadlineTimer end(milliseconds);
+    mSincePump.invalidate();
     while (!mbClosed && !end.hasExpired()) {
         QThread::msleep(static_cast<unsigned long>(std::min(Slice, end.remainingTime())));
         const QScopedValueRollback<bool> held(mbTicksHeld, true);
@@ -72,16 +77,7 @@ Message::Answer QtPlatform::ShowMessage(const Message& message) {
     const bool question = message.ButtonSet == Message::Buttons::YesNo;
     const auto refusal = question ? Message::Answer::No : Message::Answer::Ok;
     if (mbClosed) return refusal;
-    QMessageBox box(mForm);
-    box.setWindowTitle(message.Title.empty() && mForm != nullptr ? mForm->windowTitle()
-                                                                 : ToQt(message.Title));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(ToQt(message.Prompt));
-    box.setIcon(message.QuestionIcon ? QMessageBox::Question : QMessageBox::NoIcon);
-    box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-    // Unless it is set, the default button depends on the desktop.
-    box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
-    WidenTo(MinBoxWidth, box);
+    QtMessageBox box(message, mForm);
     return RunModal(box) == QMessageBox::Yes ? Message::Answer::Yes : refusal;
 }
 
@@ -138,6 +134,7 @@ int QtPlatform::RunModal(QDialog& dialog) {
     const auto end = qScopeGuard([this] {
         --mlOpenDialogs;
         ApplyPointer();
+        mSincePump.invalidate();
     });
     ++mlOpenDialogs;
     ApplyPointer();

@@ -3,6 +3,8 @@
 #include "platform/Platform.h"
 #include "qt/EscWatch.h"
 
+#include <QElapsedTimer>
+
 class QDialog;
 
 namespace tessarin::qt {
@@ -19,7 +21,7 @@ public:
     QtPlatform& operator=(const QtPlatform&) = delete;
     ~QtPlatform() override;
 
-    void PumpEvents() override;
+    void PumpEvents(Pump pump) override;
     void Sleep(int milliseconds) override;
     bool EscPressed() override;
     Message::Answer ShowMessage(const Message& message) override;
@@ -52,6 +54,7 @@ public:
 private:
     static constexpr int DesktopWindow = 1;
 
+    bool IsPumpDue();
     void ApplyPointer();
     bool IsForm(int handle) const;
 
@@ -60,6 +63,8 @@ private:
     QtForm* mForm = nullptr;
     bool mbClosed = false;
     bool mbTicksHeld = false;
+    QElapsedTimer mSincePump; // since the last real pump; invalid when the next one has to be real
+    unsigned mlPumpsAsked = 0;
     bool mbHourglass = false; // the pointer that SetMousePointer has asked for
     bool mbHourglassShown = false;
     int mlOpenDialogs = 0;

@@ -32,11 +32,30 @@ struct Holder {
 class LabelPeer : Holder<QtLabel>, public QtPeer {
 public:
     LabelPeer(Label& label, QtForm& form, QWidget& parent)
-        : Holder(label, parent), QtPeer(label, Own, form) {}
+        : Holder(label, form, parent), QtPeer(label, Own, form), mForm(form) {}
+
+    void Changed(Property property) override {
+        if (property == Property::Current)
+            mForm.MakeCurrent(Own);
+        else
+            QtPeer::Changed(property);
+    }
 
 protected:
     // The label paints itself with the font of its control.
     void SetFont() override { LookChanged(); }
+
+private:
+    QtForm& mForm;
+};
+
+// It answers over its whole rectangle, not only where circle and text are.
+class RadioButton : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 };
 
 template <class Button>
@@ -118,7 +137,7 @@ std::unique_ptr<ControlPeer> QtToolkit::Create(CommandButton& button, Control& c
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(OptionButton& option, Control& container) {
-    return Make<ButtonPeer<QRadioButton>>(option, container, mPlatform);
+    return Make<ButtonPeer<RadioButton>>(option, container, mPlatform);
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(Frame& frame, Control& container) {

@@ -5,10 +5,15 @@
 namespace tessarin {
 
 void Wait(int milliseconds) {
-    PumpEvents();
-    if (milliseconds <= 0) return;
-    Platform::Current().Sleep(milliseconds);
-    PumpEvents();
+    Wait([milliseconds] { return milliseconds; });
+}
+
+void Wait(const std::function<int()>& milliseconds) {
+    PumpEvents(Pump::Now);
+    const int left = milliseconds();
+    if (left <= 0) return;
+    Platform::Current().Sleep(left);
+    PumpEvents(Pump::Now);
 }
 
 } // namespace tessarin

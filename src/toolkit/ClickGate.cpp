@@ -8,14 +8,18 @@ namespace tessarin {
 
 void ClickGate::Raise(Control& control) {
     if (mbClosed) return;
+    if (!control.Waits()) return Run(control);
     mWaiting.push_back(&control);
     while (!mWaiting.empty() && mlDepth < MaxDepth) {
         const Control& next = *mWaiting.front();
         mWaiting.pop_front();
-        if (!next.Click || !next.Reachable()) continue;
         const ScopedValue<int> deeper(mlDepth, mlDepth + 1);
-        Enter(next.Click);
+        Run(next);
     }
+}
+
+void ClickGate::Run(const Control& control) {
+    if (control.Click && control.Reachable()) Enter(control.Click);
 }
 
 void ClickGate::Close() {

@@ -9,7 +9,8 @@ class Control;
 /// The way by which the user's clicks reach their handlers. Handlers pump window events, so clicks
 /// arrive while handlers of other clicks are running. The gate limits how many handlers are nested
 /// and keeps the other clicks waiting in order: a flood of clicks neither exhausts the stack nor
-/// gets lost. A click whose control is disabled or hidden when its turn comes is dropped.
+/// gets lost. A click whose control is disabled or hidden when its turn comes is dropped. Controls
+/// whose handlers pump nothing (Control::Waits) pass at once.
 class ClickGate {
 public:
     static constexpr int MaxDepth = 16;
@@ -20,6 +21,8 @@ public:
     void Close();
 
 private:
+    static void Run(const Control& control);
+
     std::deque<Control*> mWaiting;
     int mlDepth = 0; // handlers running
     bool mbClosed = false;

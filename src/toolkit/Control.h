@@ -23,6 +23,9 @@ struct FontStyle {
 
 enum class BorderStyle { None, FixedSingle };
 enum class Alignment { Left, Center };
+/// Whether the Tab key stops at a label: never, at this one, or at the current one of the form's
+/// grid of labels, in which the arrow keys go on from there.
+enum class KeyStop { None, Own, Grid };
 
 /// The properties of a control as it is designed. Positions are in twips (1440 to the inch),
 /// relative to the inside of the container.
@@ -40,6 +43,7 @@ struct Design {
     /// What a label does with a text that is too long: wrapped, it goes on in the next line, else
     /// its middle is left out.
     bool Wrap = false;
+    KeyStop Keys = KeyStop::None;
     FontStyle Font = {};
     Color BackColor = SystemColor(15);
     Color ForeColor = SystemColor(18);
@@ -108,6 +112,9 @@ public:
 
     /// What the control lies in; nullptr for a form.
     Control* Container() const { return mContainer; }
+
+    /// Whether a click may have to wait until handlers of other clicks have ended.
+    virtual bool Waits() const { return true; }
 
     /// For the toolkit: the user has clicked the control.
     void RaiseClick();

@@ -12,6 +12,9 @@ namespace tessarin {
 class Label : public Control {
 public:
     Label(Control& container, Design design);
+
+    /// The keyboard goes on from this label of the grid. If the focus is in the grid, it comes here.
+    void MakeCurrent() { Notify(Property::Current); }
 };
 
 class CommandButton : public Control {
@@ -20,13 +23,16 @@ public:
 };
 
 /// One of several options in the same container, of which one is selected. Clicking it runs Click
-/// every time, also when it is selected already.
+/// every time, also when it is selected already. Click must not pump window events: so it need not
+/// wait for other handlers, and the choice counts as soon as it is seen.
 class OptionButton : public Control {
 public:
     OptionButton(Control& container, Design design);
 
     /// Selects the option and runs its Click at once, as a click of the user does.
     void Select();
+
+    bool Waits() const override { return false; }
 };
 
 /// Holds other controls; disabling it disables all of them. Its BorderStyle gives it a border with

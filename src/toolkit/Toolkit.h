@@ -31,6 +31,7 @@ enum class Property {
     Visible,
     Enabled,
     Selected,
+    Current,
     PictureFile,
     Interval,
 };

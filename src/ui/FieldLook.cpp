@@ -1,5 +1,7 @@
 #include "ui/FieldLook.h"
 
+#include <utility>
+
 namespace tessarin {
 
 FieldLook LookOf(const FieldState& field) {
@@ -10,6 +12,18 @@ FieldLook LookOf(const FieldState& field) {
     if (field.IsLocked) look.ForeColor = Red;
     if (field.Value != 0) look.Caption = std::to_string(field.Value);
     return look;
+}
+
+std::string SpokenName(const FieldState& field) {
+    std::string text = "row " + std::to_string(field.Row) + ", column " +
+                       std::to_string(field.Column) + ": " +
+                       (field.Value == 0 ? "empty" : std::to_string(field.Value));
+    for (const auto& [holds, word] : {std::pair{field.IsLocked, ", locked"},
+                                      {field.IsCursor, ", current"},
+                                      {field.IsDead, ", dead"},
+                                      {field.IsMarked, ", marked"}})
+        if (holds) text += word;
+    return text;
 }
 
 FieldLook LookOfFreedom(int freedom) {

@@ -13,6 +13,8 @@ inline const FontStyle FieldFont{.Name = "Arial Black", .Size = 20};
 
 /// What the window knows of a field that it paints.
 struct FieldState {
+    int Row = 0;
+    int Column = 0;
     int Value = 0;
     bool IsCursor = false;
     bool IsDead = false;
@@ -31,6 +33,10 @@ struct FieldLook {
 /// A field with its value: the colour of a mark wins over that of a dead field, and both win over
 /// the cursor's.
 FieldLook LookOf(const FieldState& field);
+
+/// What a screen reader says of the field: "row 2, column 3: 5, locked, current", with everything
+/// that the colours tell.
+std::string SpokenName(const FieldState& field);
 
 /// An empty field with the number of its free values.
 FieldLook LookOfFreedom(int freedom);

@@ -5,6 +5,7 @@
 #include "toolkit/ControlArray.h"
 #include "toolkit/Controls.h"
 #include "toolkit/Form.h"
+#include "ui/FieldLook.h"
 #include "ui/ctlRotor/ctlRotor.h"
 
 #include <array>
@@ -105,7 +106,13 @@ private:
     void ArrangeActionPanel();
     void ArrangeSideColumn();
 
-    std::string InfoText(const Field& field, bool isCursor, bool isDead) const;
+    FieldState StateOf(const Field& field, int deadField) const;
+    void ShowState(int index, const FieldState& state);
+    // The field is painted as the current one; another one that was before is so no longer.
+    void MoveCurrent(int index, int deadField);
+    std::string InfoText(const Field& field, const FieldState& state) const;
+    // Shows whether the dead-end or the winner indicator is lit.
+    static void Light(Label& indicator, Color color);
     // The labels of the fields that were dead at the last count.
     std::vector<Label*> DeadLabels();
     bool PaintingOff() const { return Solving && ChillDelay == Quiet; }
@@ -155,6 +162,7 @@ private:
     bool Solving = false;
     int ChillDelay = 0;    // Quiet, Step, or the pause in milliseconds after each painted field
     int PreviousIndex = 0; // the index of the last BeforeIndexChanged
+    int PaintedCurrent = 0; // the field whose label looks like the current one's; 0 for none
     bool mbViewRunning = false;
     bool mbInfoVisible = false;
 };

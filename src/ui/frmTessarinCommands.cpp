@@ -128,11 +128,11 @@ void frmTessarin::moGame_StatusChanged(int Index) {
 }
 
 void frmTessarin::moGame_IsWinner(int Index) {
-    lblWinner.SetBackColor(Index == 0 ? WindowBackground : Green);
+    Light(lblWinner, Index == 0 ? WindowBackground : Green);
 }
 
 void frmTessarin::moGame_IsDeadEnd(int Index) {
-    lblDeadEnd.SetBackColor(Index == 0 ? WindowBackground : Red);
+    Light(lblDeadEnd, Index == 0 ? WindowBackground : Red);
 }
 
 void frmTessarin::lblField_Click(int Index) {
@@ -192,8 +192,8 @@ void frmTessarin::mnuFileImportCSV_Click() {
         moGame->Play->SetTracing(true);
         lblFile.SetCaption(fileName);
     }
-    lblDeadEnd.SetBackColor(WindowBackground);
-    lblWinner.SetBackColor(WindowBackground);
+    Light(lblDeadEnd, WindowBackground);
+    Light(lblWinner, WindowBackground);
 }
 
 void frmTessarin::mnuFileExportCSV_Click() {

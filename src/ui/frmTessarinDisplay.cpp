@@ -1,23 +1,11 @@
 // Painting: fields, information panel, number pad.
 #include "support/modWait.h"
 #include "ui/Colors.h"
-#include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"
 
+#include <utility>
+
 namespace tessarin {
-
-namespace {
-
-// What a screen reader says of a field.
-std::string SpokenField(const Fields& grid, const Field& field) {
-    const int n = grid.Numbers();
-    std::string text = "row " + std::to_string((field.Index - 1) / n + 1) + ", column " +
-                       std::to_string((field.Index - 1) % n + 1) + ": " +
-                       (field.Value() == 0 ? "empty" : std::to_string(field.Value()));
-    return field.Locked() ? text + ", locked" : text;
-}
-
-} // namespace
 
 void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
     Fields& grid = *moGame->Fields;
@@ -27,19 +15,45 @@ void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
     const int idx = index > 0 ? index : grid.Index();
     if (!grid.Items.Has(idx) || !lblField.Has(idx)) return;
     const auto field = grid.Items.Item(idx);
-    const FieldState state{.Value = field->Value(),
-                           .IsCursor = idx == grid.Index(),
-                           .IsDead = idx == deadField,
-                           .IsLocked = field->Locked(),
-                           .IsMarked = neighbourMark || groupMark};
-    lblInfo.SetCaption(InfoText(*field, state.IsCursor, state.IsDead));
-    Label& label = lblField(idx);
-    Apply(LookOf(state), label);
-    label.SetAccessibleName(SpokenField(grid, *field));
-    if (Solving && ChillDelay > 0) Wait(ChillDelay);
+    FieldState state = StateOf(*field, deadField);
+    state.IsMarked = neighbourMark || groupMark;
+    lblInfo.SetCaption(InfoText(*field, state));
+    ShowState(idx, state);
+    if (state.IsCursor)
+        MoveCurrent(idx, deadField);
+    else if (idx == PaintedCurrent)
+        PaintedCurrent = 0;
+    // What the wait handles may change the pace or end the solve.
+    const auto pause = [this] { return Solving ? ChillDelay : 0; };
+    if (pause() > 0) Wait(pause);
 }
 
-std::string frmTessarin::InfoText(const Field& field, bool isCursor, bool isDead) const {
+FieldState frmTessarin::StateOf(const Field& field, int deadField) const {
+    const Fields& grid = *moGame->Fields;
+    const int n = grid.Numbers();
+    return {.Row = (field.Index - 1) / n + 1,
+            .Column = (field.Index - 1) % n + 1,
+            .Value = field.Value(),
+            .IsCursor = field.Index == grid.Index(),
+            .IsDead = field.Index == deadField,
+            .IsLocked = field.Locked()};
+}
+
+void frmTessarin::ShowState(int index, const FieldState& state) {
+    Apply(LookOf(state), lblField(index));
+    lblField(index).SetAccessibleName(SpokenName(state));
+}
+
+// A click that comes in the middle of another move of the cursor paints its field after that move
+// has begun, and nobody paints it again when the move ends elsewhere.
+void frmTessarin::MoveCurrent(int index, int deadField) {
+    const int before = std::exchange(PaintedCurrent, index);
+    if (before != index && moGame->Fields->Items.Has(before))
+        ShowState(before, StateOf(*moGame->Fields->Items.Item(before), deadField));
+    lblField(index).MakeCurrent();
+}
+
+std::string frmTessarin::InfoText(const Field& field, const FieldState& state) const {
     const auto yesNo = [](bool flag) { return std::string(flag ? "True" : "False"); };
     const std::string lines[] = {
         "Index=" + std::to_string(field.Index),
@@ -48,10 +62,10 @@ std::string frmTessarin::InfoText(const Field& field, bool isCursor, bool isDead
         "Freedom=" + std::to_string(field.Freedom()),
         "FreeValuesList=" + field.FreeValuesList(),
         "",
-        "IsCursor=" + yesNo(isCursor),
+        "IsCursor=" + yesNo(state.IsCursor),
         "IsLocked=" + yesNo(field.Locked()),
         "IsEmpty=" + yesNo(field.Value() == 0),
-        "IsDeadCell=" + yesNo(isDead),
+        "IsDeadCell=" + yesNo(state.IsDead),
         "",
         "Retries=" + std::to_string(moGame->Play->Retries),
         "DeadCount=" + std::to_string(moGame->Fields->DeadCount()),
@@ -66,8 +80,12 @@ std::string frmTessarin::InfoText(const Field& field, bool isCursor, bool isDead
 
 void frmTessarin::PaintFreedoms() {
     for (const auto& field : moGame->Fields->Items)
-        if (field->Value() == 0 && lblField.Has(field->Index))
-            Apply(LookOfFreedom(field->Freedom()), lblField(field->Index));
+        if (field->Value() == 0 && lblField.Has(field->Index)) {
+            Label& label = lblField(field->Index);
+            const FieldLook look = LookOfFreedom(field->Freedom());
+            Apply(look, label);
+            label.SetAccessibleName(SpokenName(StateOf(*field, 0)) + ", freedom " + look.Caption);
+        }
 }
 
 // Each key gets its final state once: hiding and showing keys is what costs.
@@ -92,6 +110,12 @@ void frmTessarin::RefreshAll() {
     for (int i = 1; i <= grid.Count(); ++i)
         PaintField(i);
     RefreshNumPad();
+}
+
+void frmTessarin::Light(Label& indicator, Color color) {
+    indicator.SetBackColor(color);
+    indicator.SetAccessibleName(indicator.Properties().ToolTipText +
+                                (color == WindowBackground ? ": not lit" : ": lit"));
 }
 
 void frmTessarin::SetViewRunning(bool running) {

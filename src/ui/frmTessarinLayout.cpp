@@ -25,13 +25,13 @@ void MakePanel(Frame& frame) {
 
 void frmTessarin::LayoutWindow() {
     CreateFieldLabels();
-    PumpEvents();
+    PumpEvents(Pump::Now);
     CreateNumPad();
-    PumpEvents();
+    PumpEvents(Pump::Now);
     ArrangeActionPanel();
-    PumpEvents();
+    PumpEvents(Pump::Now);
     ArrangeSideColumn();
-    PumpEvents();
+    PumpEvents(Pump::Now);
     SetWidth(btnNumPad(3).Left() + fraNumPad.Left() + 1050);
     const Label& last = lblField(moGame->Fields->Count());
     SetHeight(last.Top() + 1650);
@@ -122,7 +122,7 @@ void frmTessarin::ArrangeActionPanel() {
     for (Label* const indicator : {&lblDeadEnd, &lblWinner}) {
         indicator->SetCaption("");
         indicator->SetBorderStyle(BorderStyle::FixedSingle);
-        indicator->SetBackColor(WindowBackground);
+        Light(*indicator, WindowBackground);
     }
 }
 
@@ -132,6 +132,8 @@ void frmTessarin::ArrangeSideColumn() {
     fraChill.SetTop(fraInfo.Top() + fraInfo.Height() + 105);
     fraChill.SetLeft(fraInfo.Left());
     fraChill.SetWidth(fraInfo.Width());
+    for (int i = 1; i <= 5; ++i)
+        optChill(i).SetAccessibleName("pause " + optChill(i).Caption() + " milliseconds");
     optChill(1).Select();
     ctlRotor1.SetLeft((fraRotor.Width() - ctlRotor1.Width()) / 2);
     ctlRotor1.SetTop((fraRotor.Height() - ctlRotor1.Height()) / 2);

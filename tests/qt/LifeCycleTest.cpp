@@ -46,8 +46,7 @@ TEST_F(LifeCycleTest, ReturnFromElsewhereIsAnActivationButNotFromAnOwnBox) {
     EXPECT_EQ(activations(), 1);
     Answer(QMessageBox::Ok);
     ASSERT_TRUE(Menu("mnuAbout"));
-    form->activateWindow(); // as a window manager does when the box is gone
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+    Activate();
     EXPECT_EQ(activations(), 1);
 
     window.lblField(81).SetCaption("?");

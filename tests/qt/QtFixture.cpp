@@ -15,9 +15,9 @@ constexpr int LookMilliseconds = 20;
 
 } // namespace
 
-void SpyPlatform::PumpEvents() {
+void SpyPlatform::PumpEvents(Pump pump) {
     if (AtPump) AtPump();
-    QtPlatform::PumpEvents();
+    QtPlatform::PumpEvents(pump);
 }
 
 void SpyPlatform::Sleep(int milliseconds) {
@@ -38,7 +38,7 @@ QtFixture::QtFixture() {
     QObject::connect(&mEyes, &QTimer::timeout, [this] { LookForBox(); });
     mEyes.start(LookMilliseconds);
     window.Show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+    Activate();
 }
 
 void QtFixture::Click(QWidget& widget, QPoint where, Qt::MouseButton button) {
@@ -46,12 +46,12 @@ void QtFixture::Click(QWidget& widget, QPoint where, Qt::MouseButton button) {
     QTest::mouseClick(top->windowHandle(), button, {}, widget.mapTo(top, where));
 }
 
-void QtFixture::Key(Qt::Key key) {
+void QtFixture::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     // As between two strokes of a hand; without the pause the second one counts as a repeat.
     QTest::qWait(LookMilliseconds);
     QWidget* top = QApplication::activePopupWidget();
     if (top == nullptr) top = QApplication::activeModalWidget();
-    QTest::keyClick((top == nullptr ? form : top)->windowHandle(), key);
+    QTest::keyClick((top == nullptr ? form : top)->windowHandle(), key, modifiers);
 }
 
 bool QtFixture::Menu(const QString& entry) {
@@ -67,6 +67,11 @@ bool QtFixture::Menu(const QString& entry) {
             return true;
         }
     return false;
+}
+
+void QtFixture::Activate() {
+    form->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
 }
 
 void QtFixture::Import(const QString& path) {

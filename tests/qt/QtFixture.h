@@ -31,7 +31,7 @@ public:
     std::vector<int> Styles;      ///< extended styles given to the window
     std::function<void()> AtPump; ///< runs before each pump handles its events
 
-    void PumpEvents() override;
+    void PumpEvents(Pump pump) override;
     void Sleep(int milliseconds) override;
     void Beep() override { ++Beeps; }
     void SetWindowLongA(int handle, int index, int value) override;
@@ -48,10 +48,13 @@ protected:
     // keep them from the controls as they do on a screen.
     void Click(QWidget& widget, QPoint where, Qt::MouseButton button = Qt::LeftButton);
     void Click(const std::string& name) { Click(Widget(name), Widget(name).rect().center()); }
-    void Key(Qt::Key key);
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+    std::string Focus() { return form->focusWidget()->objectName().toStdString(); }
     /// Opens the menus on the way to the entry and clicks it. False when one does not open.
     bool Menu(const QString& entry);
     void Import(const QString& path);
+    /// As a window manager does when a box is gone.
+    void Activate();
 
     // How the user answers the boxes to come, in order.
     void Answer(QMessageBox::StandardButton button, std::function<void()> whileOpen = {});

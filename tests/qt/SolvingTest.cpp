@@ -68,14 +68,11 @@ TEST_F(SolvingTest, OnlyAnEscThatClosesNothingAsks) {
     ASSERT_TRUE(Menu("mnuFileExportCSV"));
     CancelDialog();
     ASSERT_TRUE(Menu("mnuEditClearAll"));
-    form->activateWindow(); // as a window manager does when the box is gone
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
-    Widget("btnSolve").setFocus();
+    Activate();
     Click(MenuBar(), {10, 5});
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     Key(Qt::Key_Escape);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    Key(Qt::Key_Escape); // leaves the menu bar
     EXPECT_FALSE(CancelRequested());
     QTest::mouseMove(form->windowHandle(), MenuBar().mapTo(form, QPoint(12, 6)));
     ASSERT_NE(MenuBar().activeAction(), nullptr) << "the pointer is over a title";

@@ -78,7 +78,7 @@ void ctlRotor::Timer1_Timer() {
 void ctlRotor::ShowFrame() {
     for (int i = 0; i < Pictures; ++i)
         Image1(i).SetVisible(i == FrameIndex);
-    PumpEvents();
+    PumpEvents(Pump::Now);
 }
 
 void ctlRotor::SetPointer(MousePointer pointer) const {
