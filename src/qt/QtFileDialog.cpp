@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTreeView>
 
@@ -52,13 +53,17 @@ QtFileDialog::QtFileDialog(FileDialogRequest request, QWidget* parent)
 }
 
 std::optional<std::string> QtFileDialog::Chosen() const {
-    if (result() != QDialog::Accepted || selectedFiles().isEmpty()) return std::nullopt;
-    return QDir::toNativeSeparators(selectedFiles().constFirst()).toStdString();
+    const QString path = mQuoted.isEmpty() ? selectedFiles().value(0) : mQuoted;
+    if (result() != QDialog::Accepted || path.isEmpty()) return std::nullopt;
+    return QDir::toNativeSeparators(path).toStdString();
 }
 
 // A file to open may have no extension: the default one is tried only when the name as typed does
 // not exist. A file to save always gets an extension.
 void QtFileDialog::accept() {
+    const auto* const nameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (nameEdit != nullptr && nameEdit->text().contains(QLatin1Char('"')))
+        return AcceptQuoted(nameEdit->text());
     setDefaultSuffix(mRequest.Saving ? ToQt(mRequest.DefaultExt) : QString());
     const QStringList typed = selectedFiles();
     if (!typed.isEmpty() && !QFileInfo::exists(typed.constFirst())) {
@@ -71,6 +76,18 @@ void QtFileDialog::accept() {
         }
     }
     QFileDialog::accept();
+}
+
+// QFileDialog takes quotes for separators of several names. They may belong to the one name here.
+void QtFileDialog::AcceptQuoted(const QString& name) {
+    QString path = directory().absoluteFilePath(name);
+    if ((mRequest.Saving || !QFileInfo::exists(path)) && QFileInfo(path).suffix().isEmpty())
+        path += ToQt(mRequest.DefaultExt);
+    const QFileInfo file(path);
+    if (file.isDir() || !(mRequest.Saving ? file.dir().exists() : file.isFile()))
+        return QFileDialog::accept(); // which complains
+    mQuoted = path;
+    QDialog::accept();
 }
 
 } // namespace tessarin::qt

@@ -18,7 +18,10 @@ protected:
     void accept() override;
 
 private:
+    void AcceptQuoted(const QString& name);
+
     FileDialogRequest mRequest;
+    QString mQuoted; // the path chosen, if its name contains quotes
 };
 
 } // namespace tessarin::qt

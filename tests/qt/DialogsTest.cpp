@@ -1,7 +1,14 @@
 // Message boxes and file dialogs.
 #include "QtFixture.h"
 
+#include <QApplication>
+#include <QComboBox>
 #include <QFile>
+#include <QFileDialog>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTest>
+#include <QTreeView>
 
 namespace tessarin {
 namespace {
@@ -27,6 +34,59 @@ TEST_F(DialogsTest, BoxesHaveTheirTitlesIconsAndButtons) {
                            "Copyright: Copyright 2022 Velmora\r\n"
                            "Internet: https://velmora.example\r\nVersion: 01.06.048\r\n"
                            "Release: 29.04.2022 - 06:49:52 [OK]"}));
+}
+
+TEST_F(DialogsTest, BoxesLeaveTheGridFreeWhereTheScreenHasRoom) {
+    const QRect grid = Widget("lblField(1)").geometry() | Widget("lblField(81)").geometry();
+    for (const bool room : {true, false}) {
+        const QRect screen = form->screen()->availableGeometry();
+        form->move(room ? screen.topLeft() : screen.topRight() - QPoint(form->width(), 0));
+        bool hides = room;
+        Answer(QMessageBox::Ok, [&] {
+            const QRect box = QApplication::activeModalWidget()->frameGeometry();
+            hides = box.intersects(
+                grid.translated(form->mapToGlobal(MenuBar().geometry().bottomLeft())));
+            EXPECT_TRUE(form->screen()->availableGeometry().contains(box));
+        });
+        ASSERT_TRUE(Menu("mnuViewNeighbours"));
+        EXPECT_EQ(hides, !room);
+    }
+}
+
+TEST_F(DialogsTest, FileDialogShowsItsFiltersAndColumnsWhole) {
+    File("plain", "Index;Value;Locked\r\n1;5;1");
+    Unexpected = [this](QDialog& dialog) {
+        auto& types = *dialog.findChild<QComboBox*>("fileTypeCombo");
+        EXPECT_EQ(types.itemText(0), "CSV Dokumente (*.csv)");
+        EXPECT_EQ(types.itemText(1), "Alle Dateien (*.*)");
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        files.setDirectory(folder.path());
+        types.setCurrentIndex(1);
+        Q_EMIT types.activated(1);
+        auto& list = *dialog.findChild<QTreeView*>("treeView");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return list.model()->rowCount(list.rootIndex()) == 1; }));
+        QTest::qWait(50);
+        for (int column = 0; column < 4; ++column) {
+            const QModelIndex index = list.model()->index(0, column, list.rootIndex());
+            EXPECT_GE(list.columnWidth(column), list.sizeHintForIndex(index).width()) << column;
+        }
+        EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
+        dialog.reject();
+    };
+    ASSERT_TRUE(Menu("mnuFileImportCSV"));
+}
+
+TEST_F(DialogsTest, FileNamesOfAllKinds) {
+    for (const QString& name : {QString("Rätsel für \"Größe\" 'ß' & 数独.csv"),
+                                QString(196, 'x') + ".csv", QString("a b;c\\d.csv")}) {
+        At(1).SetValue(5);
+        ChooseFile(folder.filePath(name));
+        ASSERT_TRUE(Menu("mnuFileExportCSV"));
+        At(1).SetValue(0);
+        Import(folder.filePath(name));
+        EXPECT_EQ(At(1).Value(), 5) << name.toStdString();
+        EXPECT_EQ(window.lblFile.Caption(), folder.filePath(name).toStdString());
+    }
 }
 
 TEST_F(DialogsTest, OnlyAnExistingFileIsOpened) {

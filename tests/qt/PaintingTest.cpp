@@ -11,9 +11,33 @@
 namespace tessarin {
 namespace {
 
-using PaintingTest = QtFixture;
+// The argument: in a dark theme.
+class PaintingTest : public QtFixture, public testing::WithParamInterface<bool> {
+protected:
+    PaintingTest() {
+        QPalette dark(QColor(0x31, 0x36, 0x3B));
+        dark.setColor(QPalette::Base, QColor(27, 30, 32));
+        if (GetParam()) QApplication::setPalette(dark);
+    }
+    ~PaintingTest() override { QApplication::setPalette(mBefore); }
 
-TEST_F(PaintingTest, AFieldShowsItsBackground) {
+    QImage Picture(const std::string& name) { return Widget(name).grab().toImage(); }
+    // The greatest difference in brightness between a pixel of the part and the one at `where`.
+    static int Contrast(const QImage& image, QRect part, QPoint where) {
+        int greatest = 0;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x)
+                greatest = std::max(greatest,
+                                    std::abs(qGray(image.pixel(x, y)) - qGray(image.pixel(where))));
+        return greatest;
+    }
+
+private:
+    QPalette mBefore = QApplication::palette();
+};
+INSTANTIATE_TEST_SUITE_P(Themes, PaintingTest, testing::Bool());
+
+TEST_P(PaintingTest, AFieldShowsItsBackground) {
     const QColor base = QApplication::palette().color(QPalette::Base);
     for (const auto& [color, seen] : {std::pair{WindowBackground, base},
                                       {Red, QColor(255, 0, 0)},
@@ -25,7 +49,7 @@ TEST_F(PaintingTest, AFieldShowsItsBackground) {
 }
 
 // The field with the longest text: all its lines are seen, and nothing is cut off at the edges.
-TEST_F(PaintingTest, AllLinesFitIntoTheInfoPanel) {
+TEST_P(PaintingTest, AllLinesFitIntoTheInfoPanel) {
     Click("btnInfo");
     window.PaintField(41);
     const QImage image = Widget("lblInfo").grab().toImage();
@@ -42,24 +66,23 @@ TEST_F(PaintingTest, AllLinesFitIntoTheInfoPanel) {
     EXPECT_TRUE(isEmpty({image.width() - 1, 0, 1, image.height()}));
 }
 
-TEST_F(PaintingTest, DigitsCanBeReadInADarkTheme) {
-    const QPalette before = QApplication::palette();
-    QPalette dark(QColor(0x23, 0x26, 0x29));
-    dark.setColor(QPalette::Base, Qt::black);
-    dark.setColor(QPalette::ButtonText, Qt::white);
-    QApplication::setPalette(dark);
-    At(12).SetValue(8);
-    for (const auto& [cursor, mark] : {std::pair{12, false}, {81, false}, {81, true}}) {
-        Grid().SetIndex(cursor);
-        window.PaintField(12, mark);
-        const QImage image = Widget("lblField(12)").grab().toImage().copy(3, 3, 34, 34);
-        int contrast = 0;
-        for (int i = 0; i < 34 * 34; ++i)
-            contrast = std::max(
-                contrast, std::abs(qGray(image.pixel(i % 34, i / 34)) - qGray(image.pixel(0, 0))));
-        EXPECT_GT(contrast, 120) << cursor << mark;
+TEST_P(PaintingTest, DigitsBordersAndTheFocusCanBeSeen) {
+    Click("btnInfo");
+    const int window_gray = qGray(QApplication::palette().color(QPalette::Window).rgb());
+    for (const char* const name : {"lblField(40)", "lblDeadEnd", "lblWinner", "fraInfo"}) {
+        const QImage image = Picture(name);
+        const QPoint edge(0, image.height() / 2);
+        EXPECT_GT(Contrast(image, {edge, edge}, edge + QPoint(1, 0)), 60) << name;
+        EXPECT_GT(std::abs(qGray(image.pixel(edge)) - window_gray), 60) << name;
     }
-    QApplication::setPalette(before);
+    At(12).SetValue(8);
+    for (const Color color : {WindowBackground, Red, Green, Yellow}) {
+        window.lblField(12).SetBackColor(color);
+        Widget("btnInfo").setFocus();
+        EXPECT_GT(Contrast(Picture("lblField(12)"), {8, 8, 24, 24}, {6, 6}), 60) << color;
+        Widget("lblField(12)").setFocus();
+        EXPECT_GT(Contrast(Picture("lblField(12)"), {1, 20, 4, 1}, {6, 6}), 60) << color;
+    }
 }
 
 } // namespace
