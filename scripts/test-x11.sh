@@ -1,5 +1,6 @@
 #!/bin/bash
-# Runs the tests of the real window on an X server with a window manager, both started for them:
+# Runs the tests of the real window on an X server with a window manager, both started for them, and
+# one with a screen reader's ears:
 # test-x11.sh [folder under build/ [ctest options...]]
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
@@ -11,3 +12,9 @@ folder=${1:-test}
 start_display 1280x1024
 test_platform=xcb
 run_tests "$folder" -L qt "${@:2}"
+
+need at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xdotool
+echo 'What a screen reader hears'
+HOME=$scratch QT_QPA_PLATFORM=xcb ASAN_OPTIONS=detect_leaks=0 \
+    dbus-run-session -- tests/qt/screen_reader.py "build/$folder/src/Tessarin" \
+    2>"$scratch/bus.log" || fail "$(<"$scratch/bus.log")"

@@ -77,4 +77,11 @@ void QtLabel::keyPressEvent(QKeyEvent* event) {
     target->mControl.RaiseClick();
 }
 
+// The menu bar gives the focus back to the label that had it, which need not be current any more.
+void QtLabel::focusInEvent(QFocusEvent* event) {
+    QLabel::focusInEvent(event);
+    QtLabel* const current = mForm.Grid().Current();
+    if (IsInGrid() && current != nullptr && current != this) current->setFocus();
+}
+
 } // namespace tessarin::qt

@@ -20,7 +20,8 @@ QColor ToQt(Color color);
 /// white, so that it can be read in a dark theme too.
 QColor TextColor(Color fore, Color back);
 
-/// The colour of borders and lines, which can be told from every background in light and dark themes.
+/// The colour of borders and lines, which can be told from every background in light and dark
+/// themes.
 QColor LineColor();
 
 QFont ToQt(const FontStyle& font);

@@ -20,8 +20,7 @@ void WidenTo(int width, QMessageBox& box) {
 
 } // namespace
 
-QtMessageBox::QtMessageBox(const Message& message, QtForm* form)
-    : QMessageBox(form), mForm(form) {
+QtMessageBox::QtMessageBox(const Message& message, QtForm* form) : QMessageBox(form), mForm(form) {
     const bool question = message.ButtonSet == Message::Buttons::YesNo;
     setWindowTitle(message.Title.empty() && form != nullptr ? form->windowTitle()
                                                             : ToQt(message.Title));

@@ -13,7 +13,8 @@ class Label : public Control {
 public:
     Label(Control& container, Design design);
 
-    /// The keyboard goes on from this label of the grid. If the focus is in the grid, it comes here.
+    /// The keyboard goes on from this label of the grid. If the focus is in the grid, it comes
+    /// here.
     void MakeCurrent() { Notify(Property::Current); }
 };
 

@@ -160,8 +160,8 @@ private:
     std::unique_ptr<Game> moGame;
     std::array<Connection, 5> mConnections;
     bool Solving = false;
-    int ChillDelay = 0;    // Quiet, Step, or the pause in milliseconds after each painted field
-    int PreviousIndex = 0; // the index of the last BeforeIndexChanged
+    int ChillDelay = 0;     // Quiet, Step, or the pause in milliseconds after each painted field
+    int PreviousIndex = 0;  // the index of the last BeforeIndexChanged
     int PaintedCurrent = 0; // the field whose label looks like the current one's; 0 for none
     bool mbViewRunning = false;
     bool mbInfoVisible = false;

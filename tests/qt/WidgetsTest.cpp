@@ -75,6 +75,7 @@ TEST_F(WidgetsTest, ControlsHaveTheirTextsAndFonts) {
     At(12).SetValue(5);
     for (const auto& [name, spoken] : {std::pair{"btnGoBack", "go back to previous field"},
                                        {"lblWinner", "winner: not lit"},
+                                       {"fraChill", "Chillout"},
                                        {"lblField(12)", "row 2, column 3: 5"}})
         EXPECT_EQ(QAccessible::queryAccessibleInterface(&Widget(name))->text(QAccessible::Name),
                   spoken);
