@@ -76,6 +76,7 @@ TEST_P(PaintingTest, DigitsBordersAndTheFocusCanBeSeen) {
         EXPECT_GT(std::abs(qGray(image.pixel(edge)) - window_gray), 60) << name;
     }
     At(12).SetValue(8);
+    Grid().SetIndex(12);
     for (const Color color : {WindowBackground, Red, Green, Yellow}) {
         window.lblField(12).SetBackColor(color);
         Widget("btnInfo").setFocus();
