@@ -41,7 +41,8 @@ void QtMessageBox::showEvent(QShowEvent* event) {
     const QMargins frame = mForm->Frame();
     QRect place = QRect(QPoint(), size()).marginsAdded(frame);
     place.moveCenter(grid.center());
-    place.moveLeft(grid.right() + 1);
+    // Some window managers put the box, not its frame, at the place asked for.
+    place.moveLeft(grid.right() + 1 + frame.left());
     if (!grid.isEmpty() && free.contains(place)) move(place.topLeft());
 }
 

@@ -1,5 +1,5 @@
-// Plays the input: each byte says what the player or the grid does, or a number it takes.
-#include "RandomPlayer.h"
+// Works the window as the input says: each byte is what the user does next, or a number for it.
+#include "RandomUser.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     constexpr std::size_t MaxBytes = 100; // more of them are slow and show nothing new
@@ -7,9 +7,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0) return 0;
     size = std::min(size, MaxBytes);
     std::size_t at = 1;
-    tessarin::RandomPlayer player(data[0] % 2 == 1,
-                                  [&](int count) { return at < size ? data[at++] % count : 0; });
-    while (at < size)
-        player.Step();
+    tessarin::RandomUser user(data[0] % 2 == 1,
+                              [&](int count) { return at < size ? data[at++] % count : 0; });
+    while (at < size && user.IsOpen())
+        user.Step();
     return 0;
 }

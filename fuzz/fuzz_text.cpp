@@ -1,0 +1,41 @@
+// Loads any text into a grid in both formats. Only the errors of a bad text may come out, the
+// status can be read afterwards, and what is then written loads again into the same grid.
+#include "model/Errors.h"
+#include "play/Game.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+
+namespace tessarin {
+
+void CheckText(const std::string& text, auto load, auto write) {
+    Game game;
+    Fields& grid = *game.Fields;
+    try {
+        load(grid, text);
+    } catch (const TypeMismatchError&) {
+    } catch (const std::overflow_error&) {
+    } catch (const std::out_of_range&) {
+    }
+    const int free = grid.FreeCount();
+    const std::string written = write(grid);
+    load(grid, written);
+    if (write(grid) != written || grid.FreeCount() != free || grid.IsWinner() != (free == 0))
+        std::abort();
+}
+
+} // namespace tessarin
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string input(data, data + size);
+    tessarin::CheckText(
+        input, [](auto& grid, auto& text) { grid.SetTextCSV(text); },
+        [](const auto& grid) { return grid.TextCSV(true); });
+    tessarin::CheckText(
+        input, [](auto& grid, auto& text) { grid.SetTextSDK(text); },
+        [](const auto& grid) { return grid.TextSDK(); });
+    return 0;
+}

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "WindowScript.h"
+
+#include <set>
+
+namespace tessarin {
+
+/// A user who does anything with game and window; an impatient one also while something else is
+/// under way, as the pumping of window events lets commands in.
+class RandomUser : public WindowScript {
+public:
+    /// `below` tells what happens next: a number from 0 to below its argument.
+    RandomUser(bool impatient, std::function<int(int)> below)
+        : mbImpatient(impatient), mBelow(std::move(below)) {
+        mCommands["reload"] = [this](int, auto&) {
+            grid.SetTextCSV(grid.Dimension() == 3 ? grid.TextCSV() : "");
+        };
+    }
+
+    bool IsOpen() const { return !platform.Closed; }
+
+    /// Does something and checks what always holds.
+    void Step() {
+        // Each with the least number for its "#" and how many there are.
+        static const std::tuple<std::string, int, int> moves[] = {
+            {"index #", -1, 84},
+            {"value #", -1, 12},
+            {"next #", 0, 2},
+            {"back #", 0, 2},
+            {"retreat #", 0, 2},
+            {"trace #", 0, 1},
+            {"init #", 3, 3},
+            {"reload", 0, 1},
+            {"click lblField(#)", 1, 81},
+            {"click btnNumPad(#)", 0, 12},
+            {"click btnNextFreeAuto", 0, 1},
+            {"click btnNextFreeAuto", 0, 1},
+            {"click btnGoBackToFreedom", 0, 1},
+            {"click btnNextFreeValue", 0, 1},
+            {"click btnSolve", 0, 1},
+            {"click optChill(#)", 0, 7},
+            {"click lblDeadEnd", 0, 1},
+            {"click mnuViewFreedom", 0, 1},
+            {"click mnuViewGroups", 0, 1},
+            {"click mnuViewNeighbours", 0, 1},
+            {"click mnuEditClearFree", 0, 1},
+            {"click mnuEditClearAll", 0, 1},
+            {"click mnuEditLockAllSet", 0, 1},
+            {"click mnuEditLockClear", 0, 1},
+            {"import 5;3;1|#;4;0|7;7;1", 1, 82},
+            {"click mnuFileQuit", 0, 1}};
+        const auto& [move, least, count] = moves[mBelow(std::size(moves))];
+        const std::string line = ReplaceAll(move, "#", std::to_string(least + mBelow(count)));
+        SCOPED_TRACE(line);
+        if (++mlDepth < 3 && mbImpatient) platform.AtPump(1 + 7 * mBelow(60), [this] { Step(); });
+        platform.Esc.assign(8, false); // a solve that takes long is cancelled
+        platform.Esc.push_back(true);
+        platform.Answers.assign(2, true);
+        Do(line);
+        ExpectRightStatus();
+        const auto is = [&](const char* name) { return move.find(name) != std::string::npos; };
+        mbStale |= is("#;4") || is("init") || is("reload") || is("Clear") || is("Chill");
+        if (--mlDepth == 0 && IsOpen()) ExpectInOrder();
+    }
+
+private:
+    // What holds when nothing runs.
+    void ExpectInOrder() {
+        EXPECT_TRUE(window.mnuFile.Enabled() && window.mnuEdit.Enabled() &&
+                    window.mnuView.Enabled() && window.fraAction.Enabled() &&
+                    window.fraNumPad.Enabled());
+        EXPECT_FALSE(window.ViewRunning() || window.ctlRotor1.Running() || platform.Hourglass);
+        // Neither a change without an event nor one in a quiet solve is painted at once.
+        if (std::exchange(mbStale, false)) window.RefreshAll();
+        int green = 0;
+        for (const auto& field : grid.Items) {
+            if (!window.lblField.Has(field->Index)) break;
+            const Label& label = window.lblField(field->Index);
+            const int value = field->Value();
+            EXPECT_EQ(label.Caption(), value == 0 ? "" : std::to_string(value)) << field->Index;
+            green += label.BackColor() == Green ? 1 : 0;
+            int alike = 0; // only free values are entered, unless something interferes
+            for (const int i : field->Neighbours)
+                alike += At(i).Value() == value ? 1 : 0;
+            EXPECT_TRUE(mbImpatient || value == 0 || alike == 1) << field->Index;
+        }
+        EXPECT_LE(green, 1);
+        const KeyedNumbers history = play.History.value_or(KeyedNumbers());
+        EXPECT_EQ(std::set<int>(history.begin(), history.end()).size(),
+                  static_cast<std::size_t>(history.Count()));
+    }
+
+    const bool mbImpatient;
+    std::function<int(int)> mBelow;
+    int mlDepth = 0;
+    bool mbStale = false;
+};
+
+} // namespace tessarin
