@@ -25,15 +25,10 @@ TEST_F(CommandsTest, ActionButtonsWorkAPuzzleByHand) {
 
 TEST_F(CommandsTest, PadKeysEnterLockAndClear) {
     Script(R"(
-        click btnNumPad(5) & fields 1 > 5:green/text
-        click btnNumPad(10) & fields 1 > 5:green/red
-        click btnNumPad(3) & fields 1 > 5:green/red
-        click btnNumPad(10) & fields 1 > 5:green/text
-        click btnNumPad(9) & fields 1 > 9:green/text
-        click btnNumPad(0) & fields 1 > :green/text
-        click btnNumPad(10) & fields 1 > :green/text
-        click btnNumPad(1) & fields 1 > 1:green/text
-        click btnNumPad(11) & fields 1 > :green/text
+        click btnNumPad(5) & click btnNumPad(10) & click btnNumPad(3) & fields 1 > 5:green/red
+        click btnNumPad(10) & fields 1 > 5:green/text & click btnNumPad(9) & fields 1 > 9:green/text
+        click btnNumPad(0) & click btnNumPad(10) & fields 1 > :green/text
+        click btnNumPad(1) & fields 1 > 1:green/text & click btnNumPad(11) & fields 1 > :green/text
         click lblField(40) & cursor > 40 & fields 1 40 > :normal/text :green/text
     )");
 }
@@ -103,34 +98,26 @@ TEST_F(CommandsTest, ExportWritesANewFileAndLeavesAnExistingOne) {
 
 TEST_F(CommandsTest, EditMenuLocksAndClears) {
     window.lblFile.SetCaption("a.csv");
-    const auto ask = [](const std::string& what) { return "Box(Clear " + what + "?||YesNo|?)"; };
-    Script("set 1 5 & set 2 3 & click mnuEditLockAllSet & fields 1 2 3 > 5:green/red 3:normal/red "
-           ":normal/text\n pad > 01246789XC X red\n"
-           "click mnuEditLockClear & fields 1 2 > 5:green/text 3:normal/text & lock 1 1\n"
-           "answer 0 & click mnuEditClearFree > " +
-           ask("Free") +
-           "\n"
-           "answer 0 & click mnuEditClearAll > " +
-           ask("All") +
-           "\n"
-           "fields 1 2 > 5:green/red 3:normal/text & answer 1 & click mnuEditClearFree > " +
-           ask("Free") +
-           "\n fields 1 2 > 5:green/red :normal/text & file > a.csv & answer 1 &\n"
-           "click mnuEditClearAll > " +
-           ask("All") +
-           "\n fields 1 2 > :green/text :normal/text\n"
-           "file >");
+    Script(R"(
+        set 1 5 & set 2 3 & click mnuEditLockAllSet & fields 1 2 3 > 5:green/red 3:normal/red :normal/text
+        pad > 01246789XC X red
+        click mnuEditLockClear & fields 1 2 > 5:green/text 3:normal/text & lock 1 1
+        answer 0 & click mnuEditClearFree > Box(Clear Free?||YesNo|?)
+        answer 0 & click mnuEditClearAll > Box(Clear All?||YesNo|?)
+        fields 1 2 > 5:green/red 3:normal/text
+        answer 1 & click mnuEditClearFree > Box(Clear Free?||YesNo|?)
+        fields 1 2 > 5:green/red :normal/text & file > a.csv
+        answer 1 & click mnuEditClearAll > Box(Clear All?||YesNo|?)
+        fields 1 2 > :green/text :normal/text & file >
+    )");
 }
 
-TEST_F(CommandsTest, EveryPaceClearsAPendingCancel) {
+TEST_F(CommandsTest, PacesClearAPendingCancelAndInfoShowsTheSideColumn) {
     for (int option = 0; option <= 6; ++option) {
         SetCancel();
         Click(window.optChill(option).Name());
         EXPECT_FALSE(gbCancel) << option;
     }
-}
-
-TEST_F(CommandsTest, InfoShowsAndHidesTheSideColumn) {
     for (const float width : {11625.F, 8850.F}) {
         Click("btnInfo");
         EXPECT_EQ(window.Width(), width);

@@ -56,29 +56,28 @@ TEST_F(DisplayTest, NumberPadFollowsTheCurrentField) {
 }
 
 TEST_F(DisplayTest, ScreenReadersHearWhatTheColoursTell) {
-    using Row = std::tuple<const char*, const char*, const char*>;
-    for (const auto& [step, control, spoken] :
-         {Row{"index 12", "lblField(12)", "row 2, column 3: empty, current"},
-          {"set 12 5", "lblField(12)", "row 2, column 3: 5, current"},
-          {"playlock", "lblField(12)", "row 2, column 3: 5, locked, current"},
-          {"index 13", "lblField(12)", "row 2, column 3: 5, locked"},
-          {"status", "lblDeadEnd", "dead end: not lit"},
-          {"fill .12345678.", "lblWinner", "winner: not lit"},
-          {"set 10 9", "lblDeadEnd", "dead end: lit"},
-          {"click mnuViewNeighbours", "lblField(13)", "row 2, column 4: empty, current"},
-          {"index 1", "lblField(1)", "row 1, column 1: empty, current, dead"},
-          {"status", "optChill(2)", "pause 100 milliseconds"},
-          {"status", "optChill(0)", "only show result"},
-          {"status", "fraInfo", "FieldInfo"},
-          {"status", "btnGoBack", "go back to previous field"}}) {
-        Do(step);
-        EXPECT_EQ(toolkit.Find(control).AccessibleName(), spoken);
-    }
+    mCommands["hear"] = [this](int, auto& name) { Tell(toolkit.Find(name).AccessibleName()); };
+    Script(R"(
+        hear lblField(12) > row 2, column 3: empty
+        index 12 & set 12 5 & hear lblField(12) > row 2, column 3: 5, current
+        playlock & hear lblField(12) > row 2, column 3: 5, locked, current
+        index 13 & hear lblField(12) > row 2, column 3: 5, locked
+        hear lblDeadEnd > dead end: not lit & hear lblWinner > winner: not lit
+        fill .12345678. & set 10 9 & hear lblDeadEnd > dead end: lit
+        index 1 & hear lblField(1) > row 1, column 1: empty, current, dead
+        hear optChill(2) > pause 100 milliseconds & hear optChill(0) > only show result
+        hear optChill(6) > stop after every move / continue with solve & hear fraInfo > FieldInfo
+        hear btnNumPad(1) > 1 & hear btnNumPad(10) > locke & hear btnNumPad(11) > clear
+        hear btnNextFree > goto next free field & hear btnSolve > solve the sudoku
+        hear btnNextFreeAuto > goto next free field and fill value in
+        hear btnGoBack > go back to previous field & hear btnNextFreeValue > next free value
+        hear btnGoBackToFreedom > go back to last field with freedom
+        hear btnInfo > show/hide fild info
+    )");
     std::string whileShown;
-    platform.AtBox = [&] { whileShown += window.lblField(2).AccessibleName() + "; "; };
-    Do("click mnuViewNeighbours");
-    Do("clear");
-    Do("click mnuViewFreedom");
+    platform.AtBox = [&] { whileShown += Do("hear lblField(2)") + "; "; };
+    for (const char* const step : {"click mnuViewNeighbours", "clear", "click mnuViewFreedom"})
+        Do(step);
     EXPECT_EQ(whileShown, "row 1, column 2: 1, marked; row 1, column 2: empty, freedom 9; ");
 }
 

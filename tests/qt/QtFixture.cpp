@@ -21,12 +21,11 @@ void SpyPlatform::PumpEvents(Pump pump) {
 }
 
 void SpyPlatform::Sleep(int milliseconds) {
-    Sleeps.push_back(milliseconds);
     if (ReallySleeps) QtPlatform::Sleep(milliseconds);
 }
 
 void SpyPlatform::SetWindowLongA(int handle, int index, int value) {
-    Styles.push_back(value);
+    ++Activations;
     QtPlatform::SetWindowLongA(handle, index, value);
 }
 

@@ -25,15 +25,13 @@ class SpyPlatform final : public qt::QtPlatform {
 public:
     SpyPlatform() : QtPlatform(ProgramVersion) {}
 
-    bool ReallySleeps = false; ///< off: a sleep takes no time
-    std::vector<int> Sleeps;
-    int Beeps = 0;
-    std::vector<int> Styles;      ///< extended styles given to the window
+    bool ReallySleeps = false;    ///< off: a sleep takes no time
+    int Activations = 0;          ///< of the window: each makes sure of the taskbar entry
     std::function<void()> AtPump; ///< runs before each pump handles its events
 
     void PumpEvents(Pump pump) override;
     void Sleep(int milliseconds) override;
-    void Beep() override { ++Beeps; }
+    void Beep() override {}
     void SetWindowLongA(int handle, int index, int value) override;
     void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
 };
