@@ -6,6 +6,6 @@ set -euo pipefail
 source "$(dirname "$0")/lib.sh"
 
 need "${build_packages[@]}" "${test_packages[@]}"
-configure_and_build asan asan -DTESSARIN_WINDOW=OFF
-build/asan/tests/tessarin_window_tests --gtest_filter='RandomWalk*' --gtest_repeat="${1:-300}" \
+configure_and_build asan soak -DTESSARIN_WINDOW=OFF
+build/soak/tests/tessarin_window_tests --gtest_filter='RandomWalk*' --gtest_repeat="${1:-300}" \
     --gtest_shuffle --gtest_break_on_failure --gtest_brief=1

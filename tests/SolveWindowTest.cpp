@@ -1,28 +1,35 @@
 // The automatic solve as the window shows it: pace, disabled panels, cancel and the busy indicator.
 #include "WindowScript.h"
 
-#include "support/modKbd.h"
+#include <stdexcept>
 
 namespace tessarin {
 
 class SolveWindowTest : public WindowFixture {
 protected:
-    SolveWindowTest() { Load(); }
+    SolveWindowTest() {
+        // A grid in which the fields 1, 11, 21 and 31 are empty.
+        mCommands["load"] = [this](int, auto&) {
+            std::string cells = FullCells;
+            cells[0] = cells[10] = cells[20] = cells[30] = '.';
+            Fill(cells);
+            play.Reset();
+        };
+        // How many fields are empty, and whether a solve has left its traces in the window.
+        mCommands["left"] = [this](int, auto&) {
+            const bool idle = window.fraAction.Enabled() && window.fraNumPad.Enabled() &&
+                              !window.ctlRotor1.Running() && !platform.Hourglass;
+            Tell(std::to_string(grid.FreeCount()) + (idle ? " idle" : " busy"));
+        };
+        // What is done at the next change of a field: steps with "=>" for ">".
+        mCommands["during"] = [this](int, auto& steps) { mDuring = steps; };
+        Do("load");
+    }
 
-    // A grid in which the fields 1, 11, 21 and 31 are empty.
-    void Load() {
-        std::string cells = FullCells;
-        cells[0] = cells[10] = cells[20] = cells[30] = '.';
-        Do("fill " + cells);
-        play.Reset();
-    }
-    Connection AtEachChange(std::function<void(int)> step) {
-        return game.Events.StatusChanged.Connect(std::move(step));
-    }
-    bool IsIdle() {
-        return window.fraAction.Enabled() && window.fraNumPad.Enabled() &&
-               !window.ctlRotor1.Running() && !platform.Hourglass;
-    }
+    std::string mDuring;
+    Connection mChanges = game.Events.StatusChanged.Connect([this](int) {
+        Script(ReplaceAll(ReplaceAll(std::exchange(mDuring, ""), "; ", "\n"), "=>", ">"));
+    });
 };
 
 TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
@@ -31,55 +38,32 @@ TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
     for (const auto& [option, pause] :
          {std::pair{0, 0}, {1, 0}, {2, 100}, {3, 200}, {4, 400}, {5, 800}}) {
         SCOPED_TRACE(option);
-        Do("index 1");
-        Load();
-        Click(window.optChill(option).Name());
-        int painted = 0;
-        const auto connection =
-            AtEachChange([&](int index) { painted += !window.lblField(index).Caption().empty(); });
-        const std::string told = Do("click btnSolve");
-        EXPECT_EQ(std::count(told.begin(), told.end(), 'S'), pause == 0 ? 0 : 10);
-        EXPECT_EQ(told.find("Sleep(" + std::to_string(pause) + ")") == std::string::npos,
-                  pause == 0);
-        EXPECT_EQ(painted, option == 0 ? 0 : 4);
-        for (int k = 1; k <= 81; ++k)
-            EXPECT_EQ(window.lblField(k).Caption(), std::to_string(At(k).Value())) << k;
-        EXPECT_EQ(window.lblField(grid.Index()).BackColor(), Green);
+        Script("index 1 & load & click optChill(" + std::to_string(option) + ")");
+        std::string pauses;
+        for (int i = 0; i < 10 && pause > 0; ++i)
+            pauses += "Sleep(" + std::to_string(pause) + ") ";
+        Do(std::string("during fields 1 => ") + (option == 0 ? "" : "1") + ":green/text");
+        Script("click btnSolve > " + pauses + "[1 11 21 31] & fields 31 > 5:green/text");
+        Script("fields 1 11 21 > 1:normal/text 5:normal/text 9:normal/text & left > 0 idle");
         Script("lights > normal green");
-        EXPECT_TRUE(IsIdle());
     }
-    Script("click btnGoBack & lights > normal normal");
+    Script("click btnGoBack > [1 11 21] & lights > normal normal");
 }
 
 TEST_F(SolveWindowTest, StepMakesOneCycleForEachClick) {
-    Do("click optChill(6)");
-    for (int left = 3; left >= 0; --left) {
-        Do("click btnSolve");
-        EXPECT_EQ(grid.FreeCount(), left);
-        EXPECT_TRUE(IsIdle());
-    }
+    Script(R"(
+        click optChill(6) & click btnSolve > [1] & left > 3 idle & click btnSolve > [1 11]
+        left > 2 idle & click btnSolve & click btnSolve & left > 0 idle
+    )");
 }
 
 TEST_F(SolveWindowTest, WhileItRunsThePanelsAreDeadAndAllElseAnswers) {
-    Do("click optChill(2)");
-    int changes = 0;
-    const auto connection = AtEachChange([&](int) {
-        if (++changes > 1) return;
-        EXPECT_TRUE(platform.Hourglass && window.ctlRotor1.Running());
-        for (const char* const name :
-             {"btnInfo", "btnGoBack", "lblDeadEnd", "btnNumPad(11)", "mnuFileQuit"})
-            Click(name);
-        EXPECT_EQ(window.Width(), 8850);
-        EXPECT_EQ(grid.FreeCount(), 3);
-        EXPECT_FALSE(platform.Closed);
-        Click("lblField(5)");
-        EXPECT_EQ(grid.Index(), 5);
-        Click("optChill(0)"); // quiet from here on
-        platform.TakeCalls();
-    });
-    Script("click btnSolve > [1 11 21 31]");
-    EXPECT_EQ(changes, 4);
-    EXPECT_TRUE(IsIdle());
+    Script(R"(
+        during click btnInfo; click btnGoBack; click lblDeadEnd; click btnNumPad(11); click mnuFileQuit; left => 3 busy; click lblField(5); cursor => 5; click optChill(0)
+        click optChill(1) & click btnSolve > [1 11 21 31] & left > 0 idle
+    )");
+    EXPECT_EQ(window.Width(), 8850);
+    EXPECT_FALSE(platform.Closed);
     Do("click mnuFileQuit");
     EXPECT_TRUE(platform.Closed);
 }
@@ -95,51 +79,41 @@ TEST_F(SolveWindowTest, APaceCountsAtOnceHoweverManyClicksWait) {
         if (sent++ == 500) Click("optChill(1)");
     };
     platform.AtPump(1, user);
-    const std::string told = Do("click btnSolve");
-    EXPECT_EQ(told.find("Sleep"), std::string::npos);
-    EXPECT_TRUE(grid.IsWinner() && IsIdle());
+    Script("click btnSolve > [1 11 21 31] & left > 0 idle"); // without any pause
 }
 
 TEST_F(SolveWindowTest, OnlyAConfirmedEscEndsIt) {
     platform.Esc = {true, true};
     const std::string box = "Box(Abbrechen?|ESC gedrückt|YesNo|-)";
-    Script("answer 0 & answer 1 & click btnSolve > " + box + " " + box + " [1]");
-    EXPECT_TRUE(IsIdle());
-    Do("click btnSolve"); // the cancel before is forgotten
-    EXPECT_TRUE(grid.IsWinner());
+    Script("answer 0 & answer 1 & click btnSolve > " + box + " " + box + " [1] & left > 3 idle");
+    Script("click btnSolve & left > 0 idle"); // the cancel before is forgotten
+}
+
+TEST_F(SolveWindowTest, ItsEndLeavesNoTrace) {
+    // The solve of a step has still to return when the window closes.
+    Script(
+        "click optChill(6) & during click optChill(1); click mnuFileQuit & click btnSolve > [1]");
+    Script("left > 3 idle");
+    EXPECT_TRUE(platform.Closed);
 }
 
 TEST_F(SolveWindowTest, AFailingSolveLeavesAUsableWindow) {
     platform.ErrorsExpected = true;
-    const auto connection = AtEachChange([](int) { throw std::runtime_error("no more"); });
-    Do("click btnSolve");
-    EXPECT_TRUE(IsIdle());
-    Do("click mnuFileQuit");
+    const auto failing =
+        game.Events.StatusChanged.Connect([](int) -> void { throw std::runtime_error("no more"); });
+    Script("click btnSolve & left > 3 idle & click mnuFileQuit");
     EXPECT_TRUE(platform.Closed) << "no solve runs any more";
-}
-
-// The solve of a step has still to return when the window closes.
-TEST_F(SolveWindowTest, ClosedInTheTailOfAStep) {
-    Do("click optChill(6)");
-    const auto connection = AtEachChange([&](int) {
-        Click("optChill(1)");
-        Click("mnuFileQuit");
-    });
-    Script("click btnSolve > [1]");
-    EXPECT_TRUE(platform.Closed);
-    EXPECT_EQ(grid.FreeCount(), 3);
-    EXPECT_TRUE(IsIdle());
 }
 
 TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
     auto& timer = dynamic_cast<Timer&>(toolkit.Find("Timer1"));
     const auto shown = [&] {
-        std::vector<int> pictures;
+        std::string pictures;
         for (int i = 0; i < 12; ++i)
-            if (toolkit.Find("Image1(" + std::to_string(i) + ")").Visible()) pictures.push_back(i);
-        return Text(pictures);
+            if (toolkit.Find("Image1(" + std::to_string(i) + ")").Visible())
+                pictures += std::to_string(i);
+        return pictures;
     };
-    EXPECT_EQ(timer.Interval(), 5);
     for (int run = 0; run < 2; ++run) {
         window.ctlRotor1.SetRunning(true);
         for (int tick = 1; tick <= 13; ++tick) {
@@ -147,7 +121,7 @@ TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
             EXPECT_EQ(shown(), std::to_string(tick % 12));
         }
     }
-    EXPECT_TRUE(timer.Enabled());
+    EXPECT_TRUE(timer.Enabled() && timer.Interval() == 5);
     int ticks = 0;
     timer.Tick = [&] {
         ++ticks;
