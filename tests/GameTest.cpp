@@ -17,23 +17,24 @@ TEST_F(GameTest, RelayPassesOnWhatTheGridTells) {
     EXPECT_EQ(goGame, &game);
     EXPECT_EQ(game.Groups->Items.Count(), 27);
     Listen(game.Events, "-");
-    const std::pair<std::string, int> steps[] = {
-        {"index 2 > -IndexChanged(2) IndexChanged(2)", 2},
-        {"index 1 > -BeforeIndexChanged(2) BeforeIndexChanged(2) -IndexChanged(1) IndexChanged(1)",
-         4},
-        {"set 81 1 > -StatusChanged(81) StatusChanged(81)", 2 + 81 + 1},
-        {"set 10 1 > -StatusChanged(10) StatusChanged(10) -IsDeadEnd(1) IsDeadEnd(1)", 2 + 81 + 3},
-        {"set 1 1 > -StatusChanged(1) StatusChanged(1) -IsDeadEnd(0) IsDeadEnd(0)", 2 + 81 + 3},
-        {"set 80 2 > -StatusChanged(80) StatusChanged(80) -IsWinner(80) IsWinner(80)", 2 + 81 + 3},
-        {"set 81 0 > -StatusChanged(81) StatusChanged(81) -IsWinner(0) IsWinner(0)", 2 + 81 + 3},
-        {"csv > Init", 0}};
-    for (const auto& [step, pumps] : steps) {
-        if (step.starts_with("set 10")) Do("fill .23456789");
-        if (step.starts_with("set 80")) Do("fill " + FullCells.substr(0, 79) + ".8");
-        platform.Pumps = 0;
-        Script(step);
-        EXPECT_EQ(platform.Pumps, pumps);
-    }
+    mCommands["pumps"] = [this](int, auto&) {
+        Tell(std::to_string(std::exchange(platform.Pumps, 0)));
+    };
+    Do("pumps");
+    Script(R"(
+        index 2 > -IndexChanged(2) IndexChanged(2) & pumps > 2
+        index 1 > -BeforeIndexChanged(2) BeforeIndexChanged(2) -IndexChanged(1) IndexChanged(1)
+        pumps > 4 & set 81 1 > -StatusChanged(81) StatusChanged(81) & pumps > 84
+        fill .23456789 & pumps
+        set 10 1 > -StatusChanged(10) StatusChanged(10) -IsDeadEnd(1) IsDeadEnd(1) & pumps > 86
+        set 1 1 > -StatusChanged(1) StatusChanged(1) -IsDeadEnd(0) IsDeadEnd(0) & pumps > 86
+        csv > Init & pumps > 0
+    )");
+    Do("fill " + FullCells.substr(0, 79) + ".8");
+    Script(R"(
+        set 80 2 > -StatusChanged(80) StatusChanged(80) -IsWinner(80) IsWinner(80)
+        set 81 0 > -StatusChanged(81) StatusChanged(81) -IsWinner(0) IsWinner(0)
+    )");
 }
 
 class GameFilesTest : public GameFixture {
