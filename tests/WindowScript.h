@@ -2,33 +2,13 @@
 
 #include "FakeToolkit.h"
 #include "GameFixture.h"
+#include "ScratchFolder.h"
 #include "ui/Colors.h"
 #include "ui/frmTessarin.h"
 
 #include <filesystem>
-#include <fstream>
-#include <random>
 
 namespace tessarin {
-
-/// A folder for a test, removed with everything in it.
-class ScratchFolder {
-public:
-    ScratchFolder() { std::filesystem::create_directory(mPath); }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    ~ScratchFolder() { std::filesystem::remove_all(mPath); }
-
-    std::string File(const std::string& name) const { return (mPath / name).string(); }
-    std::string Write(const std::string& name, const std::string& content) const {
-        std::ofstream(File(name), std::ios::binary) << content;
-        return File(name);
-    }
-
-private:
-    std::filesystem::path mPath = std::filesystem::temp_directory_path() /
-                                  ("tessarin-test-" + std::to_string(std::random_device{}()));
-};
 
 struct WindowParts {
     WindowParts() {
