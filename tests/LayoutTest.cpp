@@ -54,6 +54,7 @@ TEST_F(LayoutTest, ControlsHaveTheirPlaces) {
             const auto end = row.find(' ');
             EXPECT_EQ(Place(toolkit.Find(row.substr(0, end))), row.substr(end + 1)) << row;
         }
+    EXPECT_EQ(window.fraAction.BackColor(), WindowBackground);
     EXPECT_TRUE(window.Width() == 8850 && window.Height() == 7170);
     window.ctlRotor1.SetWidth(900);
     EXPECT_EQ(window.ctlRotor1.Width(), 480) << "as wide as a picture";

@@ -18,7 +18,10 @@ using DialogsTest = QtFixture;
 TEST_F(DialogsTest, BoxesHaveTheirTitlesIconsAndButtons) {
     for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
         At(1).SetValue(5);
-        Answer(button);
+        Answer(button, [] {
+            const auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
+            EXPECT_EQ(QMessageBox::Yes, box.standardButton(box.defaultButton()));
+        });
         ASSERT_TRUE(Menu("mnuEditClearAll"));
         EXPECT_EQ(At(1).Value(), button == QMessageBox::Yes ? 0 : 5);
     }
@@ -54,17 +57,21 @@ TEST_F(DialogsTest, BoxesLeaveTheGridFreeWhereTheScreenHasRoom) {
 }
 
 TEST_F(DialogsTest, FileDialogShowsItsFiltersAndColumnsWhole) {
-    File("plain", "Index;Value;Locked\r\n1;5;1");
+    File("plain", "");
+    File("puzzle.csv", "");
     Unexpected = [this](QDialog& dialog) {
         auto& types = *dialog.findChild<QComboBox*>("fileTypeCombo");
-        EXPECT_EQ(types.itemText(0), "CSV Dokumente (*.csv)");
-        EXPECT_EQ(types.itemText(1), "Alle Dateien (*.*)");
-        auto& files = dynamic_cast<QFileDialog&>(dialog);
-        files.setDirectory(folder.path());
-        types.setCurrentIndex(1);
-        Q_EMIT types.activated(1);
         auto& list = *dialog.findChild<QTreeView*>("treeView");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return list.model()->rowCount(list.rootIndex()) == 1; }));
+        dynamic_cast<QFileDialog&>(dialog).setDirectory(folder.path());
+        for (const auto& [type, text] :
+             {std::pair{0, "CSV Dokumente (*.csv)"}, {1, "Alle Dateien (*.*)"}}) {
+            EXPECT_EQ(types.itemText(type), text);
+            types.setCurrentIndex(type);
+            Q_EMIT types.activated(type);
+            EXPECT_TRUE(QTest::qWaitFor([&, files = type + 1] {
+                return list.model()->rowCount(list.rootIndex()) == files;
+            }));
+        }
         QTest::qWait(50);
         for (int column = 0; column < 4; ++column) {
             const QModelIndex index = list.model()->index(0, column, list.rootIndex());

@@ -91,18 +91,29 @@ TEST_F(SolvingTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
     EXPECT_EQ(Grid().FreeCount(), 4);
 }
 
-TEST_F(SolvingTest, RotorTurnsAfterEachPause) {
+TEST_F(SolvingTest, RotorTurnsAfterEachPauseAndInACommandThatItsTickLetsIn) {
     platform.ReallySleeps = true;
     int seen = -1, turns = 0;
-    platform.AtPump = [&] {
+    const auto look = [&] {
         for (int i = 0; i < 12; ++i)
             if (!Widget("Image1(" + std::to_string(i) + ")").isHidden() &&
                 std::exchange(seen, i) != i)
                 ++turns;
     };
+    platform.AtPump = look;
     window.optChill(2).Select();
     Click("btnSolve");
     EXPECT_GE(turns, 11);
+    bool inTick = false;
+    platform.AtPump = [&] {
+        look();
+        if (!std::exchange(inTick, true)) QTest::qWait(100);
+    };
+    turns = 0;
+    window.ctlRotor1.SetRunning(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return inTick; }));
+    EXPECT_GE(turns, 5);
+    window.ctlRotor1.SetRunning(false);
     EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#2f5d8c"));
 }
 

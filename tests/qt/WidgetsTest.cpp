@@ -15,7 +15,7 @@ protected:
     QString Text(const QList<QAction*>& actions) {
         QString text;
         for (const QAction* const action : actions) {
-            text += (action->isSeparator() ? "-" : action->text()) + " ";
+            text += (action->isSeparator() ? "|" : action->text()) + " ";
             if (action->menu()) text += "{" + Text(action->menu()->actions()) + "} ";
         }
         return text;
@@ -81,8 +81,8 @@ TEST_F(WidgetsTest, ControlsHaveTheirTextsAndFonts) {
         EXPECT_EQ(heard->role(), role) << name;
     }
     EXPECT_EQ(Text(MenuBar().actions()).toStdString(),
-              "File {Import Export - Quit } Edit {Clear {Free All } Lock All {Set Clear } } "
-              "View {Freedom - Groups Neighbours } ? {About } ");
+              "File {Import Export | Quit } Edit {Clear {Free All } Lock All {Set Clear } } "
+              "View {Freedom | Groups Neighbours } ? {About } ");
 }
 
 } // namespace
