@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
@@ -20,7 +21,7 @@ TEST_F(DialogsTest, BoxesHaveTheirTitlesIconsAndButtons) {
         At(1).SetValue(5);
         Answer(button, [] {
             const auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
-            EXPECT_TRUE(box.button(QMessageBox::Yes) == box.defaultButton());
+            EXPECT_EQ(box.button(QMessageBox::Yes), box.defaultButton());
         });
         ASSERT_TRUE(Menu("mnuEditClearAll"));
         EXPECT_EQ(At(1).Value(), button == QMessageBox::Yes ? 0 : 5);
