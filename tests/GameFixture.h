@@ -44,15 +44,14 @@ std::string ErrorOf(Action action) try {
     return "overflow ";
 }
 
-/// A game on a scripted machine that is worked by lines of text.
+/// A game that is worked by lines of text.
 class GameScript {
 public:
-    ScriptedPlatform& platform;
     Game& game;
     Fields& grid = *game.Fields;
     Play& play = *game.Play;
 
-    GameScript(ScriptedPlatform& machine, Game& played) : platform(machine), game(played) {}
+    GameScript(CallLog& log, Game& played) : game(played), mLog(log) {}
 
     Field& At(int index) { return *grid.Items.Item(index); }
 
@@ -76,7 +75,7 @@ public:
         std::string command, text;
         std::getline(words >> command >> std::ws, text);
         // A script may run inside another one's step.
-        const std::string outerTold = std::exchange(mTold, ""), outerCalls = platform.TakeCalls();
+        const std::string outerTold = std::exchange(mTold, ""), outerCalls = mLog.TakeCalls();
         const std::string before = History();
         const auto found = mCommands.find(command);
         if (found == mCommands.end()) {
@@ -84,7 +83,7 @@ public:
             return "";
         }
         std::string told = ErrorOf([&] { found->second(std::atoi(text.c_str()), text); });
-        told += std::exchange(mTold, outerTold) + platform.TakeCalls(outerCalls);
+        told += std::exchange(mTold, outerTold) + mLog.TakeCalls(outerCalls);
         if (History() != before) told.append("[").append(History()).append("] ");
         return told.substr(0, told.size() - (told.empty() ? 0 : 1));
     }
@@ -185,6 +184,9 @@ protected:
 
     std::string mTold;
     std::vector<Connection> mConnections;
+
+private:
+    CallLog& mLog;
 };
 
 struct GameParts {
@@ -195,6 +197,8 @@ struct GameParts {
 /// A game without a window, which also tells the events of its grid.
 class TestGame : GameParts, public GameScript {
 public:
+    ScriptedPlatform& platform = OwnPlatform;
+
     TestGame() : GameScript(OwnPlatform, OwnGame) {
         Listen(grid.Events, "");
         mConnections.push_back(grid.Events.Init.Connect([this] { mTold += "Init "; }));

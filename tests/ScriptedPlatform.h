@@ -12,9 +12,28 @@
 
 namespace tessarin {
 
+/// The calls that a machine has got, in order, as text.
+class CallLog {
+public:
+    /// Those since the last call of this; `instead` counts as called.
+    std::string TakeCalls(const std::string& instead = "") {
+        return std::exchange(mCalls, instead);
+    }
+
+protected:
+    template <class First, class... Rest>
+    void Note(const char* call, const First& first, const Rest&... rest) {
+        std::ostringstream text;
+        text << call << '(' << first;
+        ((text << '|' << rest), ...);
+        mCalls += text.str() + ") ";
+    }
+    std::string mCalls;
+};
+
 /// A machine that does what a test tells it and remembers what was asked of it. It is the current
 /// platform for its lifetime.
-class ScriptedPlatform : public NullPlatform {
+class ScriptedPlatform : public NullPlatform, public CallLog {
 public:
     ScriptedPlatform() : mPrevious(Platform::SetCurrent(this)) {}
     ~ScriptedPlatform() override { Platform::SetCurrent(mPrevious); }
@@ -37,12 +56,6 @@ public:
     void AtPump(int n, std::function<void()> action) {
         mPumpOfAction = Pumps + n;
         mAction = std::move(action);
-    }
-
-    /// Beeps, sleeps, boxes and window-style calls since the last call of this, in order; `instead`
-    /// counts as called.
-    std::string TakeCalls(const std::string& instead = "") {
-        return std::exchange(mCalls, instead);
     }
 
     void PumpEvents(Pump pump) override {
@@ -91,18 +104,9 @@ private:
         if (!script.empty()) script.pop_front();
         return next;
     }
-    template <class First, class... Rest>
-    void Note(const char* call, const First& first, const Rest&... rest) {
-        std::ostringstream text;
-        text << call << '(' << first;
-        ((text << '|' << rest), ...);
-        mCalls += text.str() + ") ";
-    }
-
     Platform* mPrevious;
     int mPumpOfAction = 0;
     std::function<void()> mAction;
-    std::string mCalls;
 };
 
 } // namespace tessarin

@@ -72,6 +72,7 @@ public:
         return Text(fields);
     }
 
+    ScriptedPlatform& platform = OwnPlatform;
     FakeToolkit& toolkit = OwnToolkit;
     ScratchFolder folder;
 

@@ -1,10 +1,10 @@
 // Message boxes and file dialogs.
 #include "QtFixture.h"
+#include "support/modTextStream.h"
 
-#include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -17,53 +17,56 @@ namespace {
 using DialogsTest = QtFixture;
 
 TEST_F(DialogsTest, BoxesHaveTheirTitlesIconsAndButtons) {
-    for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
-        At(1).SetValue(5);
-        Answer(button, [] {
-            const auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
-            EXPECT_EQ(box.button(QMessageBox::Yes), box.defaultButton());
-        });
-        ASSERT_TRUE(Menu("mnuEditClearAll"));
-        EXPECT_EQ(At(1).Value(), button == QMessageBox::Yes ? 0 : 5);
+    // Title, text, icon and buttons, the default one in brackets.
+    std::string seen;
+    const auto look = [&](QDialog& dialog) {
+        const auto& box = dynamic_cast<QMessageBox&>(dialog);
+        seen += (box.windowTitle() + "|" + box.text() + "|").toStdString();
+        seen += box.icon() == QMessageBox::Question ? "?" : "-";
+        for (auto* const button : box.buttons())
+            seen += (button == box.defaultButton() ? " [" : " ") + button->text().toStdString();
+        seen += "\n";
+    };
+    for (const char* const step :
+         {"answer No & menu mnuEditClearAll", "answer Esc & menu mnuEditClearAll",
+          "answer OK & click lblDeadEnd", "answer OK & menu mnuAbout"}) {
+        WhileOpen = look;
+        Script(std::string("set 1 5 & ") + step + " & is > |1;5;0");
     }
-    Answer(QMessageBox::Ok);
-    Click("lblDeadEnd");
-    Answer(QMessageBox::Ok);
-    ASSERT_TRUE(Menu("mnuAbout"));
-    EXPECT_EQ(Boxes,
-              QStringList({"Velmora Sudoku Solver: Clear All? [? No Yes]",
-                           "Velmora Sudoku Solver: Clear All? [? No Yes]",
-                           "Velmora Sudoku Solver: Dead cells = 0 [OK]",
-                           "About tessarin_qt_tests: FileDescription: Solves sudoku games\r\n"
-                           "Copyright: Copyright 2022 Velmora\r\n"
-                           "Internet: https://velmora.example\r\nVersion: 01.06.048\r\n"
-                           "Release: 29.04.2022 - 06:49:52 [OK]"}));
+    EXPECT_EQ(seen, "Velmora Sudoku Solver|Clear All?|? [&Yes &No\n"
+                    "Velmora Sudoku Solver|Clear All?|? [&Yes &No\n"
+                    "Velmora Sudoku Solver|Dead cells = 0|- [OK\n"
+                    "About tessarin_qt_tests|FileDescription: Solves sudoku games\r\n"
+                    "Copyright: Copyright 2022 Velmora\r\n"
+                    "Internet: https://velmora.example\r\nVersion: 01.06.048\r\n"
+                    "Release: 29.04.2022 - 06:49:52|- [OK\n");
+    Script("answer Yes & menu mnuEditClearAll & is >");
 }
 
 TEST_F(DialogsTest, BoxesLeaveTheGridFreeWhereTheScreenHasRoom) {
-    const QRect grid = Widget("lblField(1)").geometry() | Widget("lblField(81)").geometry();
+    const QRect fields = Widget("lblField(1)").geometry() | Widget("lblField(81)").geometry();
     for (const bool room : {true, false}) {
         const QRect screen = form->screen()->availableGeometry();
         form->move(room ? screen.topLeft() : screen.topRight() - QPoint(form->width(), 0));
         bool hides = room;
-        Answer(QMessageBox::Ok, [&] {
-            const QRect box = QApplication::activeModalWidget()->frameGeometry();
-            hides = box.intersects(
-                grid.translated(form->mapToGlobal(MenuBar().geometry().bottomLeft())));
-            EXPECT_TRUE(form->screen()->availableGeometry().contains(box));
-        });
-        ASSERT_TRUE(Menu("mnuViewNeighbours"));
+        WhileOpen = [&](QDialog& box) {
+            const QPoint client = form->mapToGlobal(MenuBar().geometry().bottomLeft());
+            hides = box.frameGeometry().intersects(fields.translated(client));
+            EXPECT_TRUE(screen.contains(box.frameGeometry()));
+        };
+        Do("answer OK");
+        Do("menu mnuViewNeighbours");
         EXPECT_EQ(hides, !room);
     }
 }
 
 TEST_F(DialogsTest, FileDialogShowsItsFiltersAndColumnsWhole) {
-    File("plain", "");
-    File("puzzle.csv", "");
-    Unexpected = [this](QDialog& dialog) {
+    folder.Write("plain", "");
+    folder.Write("puzzle.csv", "");
+    WhileOpen = [this](QDialog& dialog) {
         auto& types = *dialog.findChild<QComboBox*>("fileTypeCombo");
         auto& list = *dialog.findChild<QTreeView*>("treeView");
-        dynamic_cast<QFileDialog&>(dialog).setDirectory(folder.path());
+        dynamic_cast<QFileDialog&>(dialog).setDirectory(QString::fromStdString(folder.File("")));
         for (const auto& [type, text] :
              {std::pair{0, "CSV Dokumente (*.csv)"}, {1, "Alle Dateien (*.*)"}}) {
             EXPECT_EQ(types.itemText(type), text);
@@ -79,55 +82,45 @@ TEST_F(DialogsTest, FileDialogShowsItsFiltersAndColumnsWhole) {
             EXPECT_GE(list.columnWidth(column), list.sizeHintForIndex(index).width()) << column;
         }
         EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
-        dialog.reject();
     };
-    ASSERT_TRUE(Menu("mnuFileImportCSV"));
+    Script("answer Esc & menu mnuFileImportCSV");
 }
 
 TEST_F(DialogsTest, FileNamesOfAllKinds) {
-    for (const QString& name : {QString("Rätsel für \"Größe\" 'ß' & 数独.csv"),
-                                QString(196, 'x') + ".csv", QString("a b;c\\d.csv")}) {
-        At(1).SetValue(5);
-        ChooseFile(folder.filePath(name));
-        ASSERT_TRUE(Menu("mnuFileExportCSV"));
-        At(1).SetValue(0);
-        Import(folder.filePath(name));
-        EXPECT_EQ(At(1).Value(), 5) << name.toStdString();
-        EXPECT_EQ(window.lblFile.Caption(), folder.filePath(name).toStdString());
+    for (const std::string& name : {std::string("Rätsel für \"Größe\" 'ß' & 数独.csv"),
+                                    std::string(196, 'x') + ".csv", std::string("a b;c\\d.csv")}) {
+        Do("set 1 5");
+        Do("choose " + name);
+        Script("menu mnuFileExportCSV > [] & clear");
+        Do("choose " + name);
+        Script("menu mnuFileImportCSV & is > |1;5;0 & reset & activate");
+        EXPECT_EQ(window.lblFile.Caption(), folder.File(name));
     }
 }
 
 TEST_F(DialogsTest, OnlyAnExistingFileIsOpened) {
-    ChooseFile(folder.filePath("missing.csv"));
-    Answer(QMessageBox::Ok);
-    CancelDialog();
-    ASSERT_TRUE(Menu("mnuFileImportCSV"));
-    EXPECT_EQ(Boxes.size(), 1) << "the dialog refuses the missing file";
+    Script("choose missing.csv & answer OK & answer Esc & menu mnuFileImportCSV >");
     EXPECT_EQ(window.lblFile.Caption(), "");
     for (const char* const name : {"good.csv", "plain"}) {
-        Import(File(name, "Index;Value;Locked\r\n1;5;1"));
-        EXPECT_EQ(window.lblFile.Caption(), folder.filePath(name).toStdString());
-        EXPECT_EQ(At(1).Value(), 5);
+        folder.Write(name, "Index;Value;Locked\r\n1;5;1");
+        Script(std::string("choose ") + name + " & menu mnuFileImportCSV & is > |1;5;1 & clear");
+        EXPECT_EQ(window.lblFile.Caption(), folder.File(name));
     }
 }
 
 TEST_F(DialogsTest, AFileIsSavedWithAnExtensionInAFolderThatExists) {
-    ChooseFile(folder.filePath("gone/new.csv"));
-    Answer(QMessageBox::Ok);
-    CancelDialog();
-    ASSERT_TRUE(Menu("mnuFileExportCSV"));
-    EXPECT_EQ(Boxes.size(), 1) << "the dialog refuses the missing folder";
-    File("old.csv", "mine");
-    File("plain", "mine");
-    using Row = std::tuple<const char*, const char*, QByteArray>;
-    for (const auto& [typed, name, content] :
-         {Row{"new", "new.csv", "Index;Value;Locked"}, Row{"old.csv", "old.csv", "mine"},
-          Row{"plain", "plain.csv", "Index;Value;Locked"}}) {
-        ChooseFile(folder.filePath(typed));
-        ASSERT_TRUE(Menu("mnuFileExportCSV"));
-        QFile written(folder.filePath(name));
-        EXPECT_TRUE(written.open(QIODevice::ReadOnly) && written.readAll() == content) << name;
-    }
+    folder.Write("old.csv", "mine");
+    folder.Write("plain", "mine");
+    Script(R"(
+        choose gone/new.csv & answer OK & answer Esc & menu mnuFileExportCSV >
+        choose new & menu mnuFileExportCSV & choose old.csv & menu mnuFileExportCSV
+        choose plain & menu mnuFileExportCSV
+    )");
+    for (const auto& [name, content] : {std::pair{"new.csv", "Index;Value;Locked"},
+                                        {"plain.csv", "Index;Value;Locked"},
+                                        {"old.csv", "mine"},
+                                        {"plain", "mine"}})
+        EXPECT_EQ(ReadTextFile(folder.File(name)), content) << name;
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QTest>
+#include <QWindow>
 
 namespace tessarin {
 namespace {
@@ -11,122 +11,70 @@ namespace {
 using KeyboardTest = QtFixture;
 
 TEST_F(KeyboardTest, ArrowsGoOnFromTheCurrentField) {
-    EXPECT_EQ(Focus(), "lblField(1)") << "from the start";
-    using Row = std::tuple<int, Qt::Key, Qt::KeyboardModifiers, int>;
-    for (const auto& [from, key, modifiers, to] : {Row{41, Qt::Key_Left, {}, 40},
-                                                   {41, Qt::Key_Right, {}, 42},
-                                                   {41, Qt::Key_Up, {}, 32},
-                                                   {41, Qt::Key_Down, Qt::KeypadModifier, 50},
-                                                   {41, Qt::Key_Home, {}, 37},
-                                                   {41, Qt::Key_End, {}, 45},
-                                                   {41, Qt::Key_Home, Qt::ControlModifier, 1},
-                                                   {41, Qt::Key_End, Qt::ControlModifier, 81},
-                                                   {41, Qt::Key_Right, Qt::ControlModifier, 41},
-                                                   {41, Qt::Key_Space, {}, 41},
-                                                   {9, Qt::Key_Right, {}, 9},
-                                                   {73, Qt::Key_Down, {}, 73}}) {
-        Grid().SetIndex(from);
-        Key(key, modifiers);
-        EXPECT_EQ(Grid().Index(), to) << "from " << from << " by " << key;
-        EXPECT_EQ(Focus(), window.lblField(to).Name());
-    }
-    int clicks = 0;
-    window.lblField.Click = [&](int index) { clicks += index; };
-    Key(Qt::Key_Enter);
-    Key(Qt::Key_Up);
-    EXPECT_EQ(clicks, 73 + 64);
+    Script(R"(
+        focus > lblField(1) & index 41 & key Left & cursor > 40 & focus > lblField(40)
+        index 41 & key Right & cursor > 42 & key Num+Down & cursor > 51 & key Up & cursor > 42
+        key Home & cursor > 37 & key End & cursor > 45 & key Right & cursor > 45
+        key Ctrl+Home & cursor > 1 & key Up & cursor > 1 & key Left & cursor > 1
+        key Ctrl+Right & cursor > 1 & key Ctrl+End & cursor > 81 & key Down & cursor > 81
+        focus > lblField(81) & key Shift+Left & cursor > 81
+    )");
+    int clicked = 0;
+    window.lblField.Click = [&](int index) { clicked += index; };
+    Script("key Space & key Enter & key Up");
+    EXPECT_EQ(clicked, 81 + 81 + 72);
 }
 
 TEST_F(KeyboardTest, ACharacterClicksTheButtonThatItIsTheCaptionOf) {
-    using Row = std::tuple<const char*, Qt::Key, Qt::KeyboardModifiers, int>;
-    for (const auto& [focus, key, modifiers, value] :
-         {Row{"lblField(1)", Qt::Key_5, {}, 5},
-          {"btnSolve", Qt::Key_4, {}, 4},
-          {"optChill(1)", Qt::Key_7, Qt::KeypadModifier, 7},
-          {"lblField(1)", Qt::Key_3, Qt::ControlModifier, 7},
-          {"lblField(1)", Qt::Key_3, Qt::AltModifier, 7},
-          {"lblField(1)", Qt::Key_F, Qt::MetaModifier, 7},
-          {"lblField(1)", Qt::Key_F, {}, 8},
-          {"lblField(1)", Qt::Key_F, Qt::ShiftModifier, 9},
-          {"lblField(1)", Qt::Key_9, {}, 9},
-          {"lblField(1)", Qt::Key_C, {}, 0}}) {
-        Click("btnInfo");
-        Widget(focus).setFocus();
-        Key(key, modifiers);
-        EXPECT_EQ(At(1).Value(), value) << focus << key;
-    }
-    At(2).SetValue(6);
-    Key(Qt::Key_6); // hidden on the pad
+    Script(R"(
+        click btnInfo & key 5 & is > |1;5;0 & to btnSolve & key 4 & is > |1;4;0
+        to optChill(1) & key Num+7 & is > |1;7;0 & to lblField(1)
+        key Ctrl+3 & key Alt+3 & key Meta+F & is > |1;7;0 & key F & is > |1;8;0
+        key Shift+F & is > |1;9;0 & key X & is > |1;9;1 & key C & is > |1;9;1 & key X
+        key C & is > & set 2 6 & key 6 & is > |2;6;0
+        index 81 & key Shift+> & cursor > 1 & key Alt & key 4 & is > |2;6;0 & key Alt
+    )");
     QKeyEvent repeat(QEvent::KeyPress, Qt::Key_3, {}, "3", true);
     QApplication::sendEvent(form->windowHandle(), &repeat);
-    EXPECT_EQ(At(1).Value(), 0);
-    Grid().SetIndex(81);
-    Key(Qt::Key_Greater);
-    EXPECT_EQ(Grid().Index(), 1);
-    Key(Qt::Key_I);
-    Answer(QMessageBox::Ok, [&] { Key(Qt::Key_4); });
-    Click("lblDeadEnd");
-    Key(Qt::Key_Alt);
-    Key(Qt::Key_4); // the menu bar has the focus
-    EXPECT_EQ(At(1).Value(), 0);
+    WhileOpen = [&](QDialog&) { Key("4"); };
+    Script("answer OK & click lblDeadEnd > Box(Dead cells = 0) & is > |2;6;0");
 }
 
 TEST_F(KeyboardTest, TabReadsThePanelsAndStopsOnceInTheGrid) {
-    Click("btnInfo");
-    Grid().SetIndex(12);
-    Widget("lblField(12)").setFocus();
+    Script("click btnInfo & index 12 & to lblField(12)");
     std::string stops;
-    for (int i = 0; i < 23; ++i, Key(Qt::Key_Tab))
-        stops += Focus() + (i < 21 ? "" : "!") + " ";
+    for (int i = 0; i < 23; ++i, Key("Tab"))
+        stops += Do("focus") + " ";
     EXPECT_EQ(stops, "lblField(12) btnNumPad(1) btnNumPad(2) btnNumPad(3) btnNumPad(4) "
                      "btnNumPad(5) btnNumPad(6) btnNumPad(7) btnNumPad(8) btnNumPad(9) "
                      "btnNumPad(11) btnNumPad(0) btnNextFree btnNextFreeAuto btnSolve btnGoBack "
                      "btnGoBackToFreedom btnNextFreeValue lblDeadEnd btnInfo optChill(1) "
-                     "lblField(12)! btnNumPad(1)! ");
-    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
-        Widget("lblDeadEnd").setFocus();
-        Answer(QMessageBox::Ok);
-        Key(key);
-        Widget("btnInfo").setFocus();
-        Key(key);
-    }
-    EXPECT_EQ(Boxes.size(), 2);
-    EXPECT_TRUE(window.InfoVisible());
-    Activate();
-    Widget("optChill(1)").setFocus();
+                     "lblField(12) btnNumPad(1) ");
     int clicked = -1;
     window.optChill.Click = [&](int index) { clicked = index; };
-    Key(Qt::Key_Down);
+    Script(R"(
+        to lblDeadEnd & answer OK & key Space > Box(Dead cells = 0) & activate
+        answer OK & key Return > Box(Dead cells = 0) & activate & to optChill(1) & key Down
+        to btnInfo & key Return
+    )");
     EXPECT_EQ(clicked, 2);
+    EXPECT_FALSE(window.InfoVisible());
 }
 
 TEST_F(KeyboardTest, TheFocusComesBack) {
-    for (const char* const place : {"lblField(1)", "btnSolve", "btnInfo"}) {
-        Widget(place).setFocus();
-        Click(MenuBar(), {10, 5});
-        Key(Qt::Key_Escape);
-        EXPECT_EQ(Focus(), place) << "after a menu";
+    for (const std::string place : {"lblField(1)", "btnSolve", "btnInfo"}) {
+        Script("to " + place + " & menu mnuFile & key Esc & focus > " + place);
         EXPECT_EQ(MenuBar().activeAction(), nullptr);
-        Answer(QMessageBox::Ok);
-        ASSERT_TRUE(Menu("mnuAbout"));
-        EXPECT_EQ(Focus(), place) << "after a box";
-        Activate();
+        Script("answer OK & menu mnuAbout & focus > " + place + " & activate");
     }
-    Widget("btnNumPad(5)").setFocus();
-    Key(Qt::Key_Space); // hides the key and its value
-    EXPECT_TRUE(Widget(Focus()).isEnabled());
-    Key(Qt::Key_C);
-    EXPECT_EQ(Focus(), "btnNumPad(5)");
-    Import(TESSARIN_PUZZLES "/nearly-complete.csv");
-    Widget("btnSolve").setFocus();
+    Script("to btnNumPad(5) & key Space"); // hides the key and its value
+    EXPECT_TRUE(Widget(Do("focus")).isEnabled());
+    Script("key C & focus > btnNumPad(5) & import nearly-complete.csv & activate & to btnSolve");
     std::string during;
     const auto connection =
-        goGame->Events.StatusChanged.Connect([&](int) { during += Focus() + " "; });
-    Key(Qt::Key_S);
-    EXPECT_EQ(Focus(), "btnSolve");
+        game.Events.StatusChanged.Connect([&](int) { during += Do("focus") + " "; });
+    Script("key S & focus > btnSolve & click lblField(50) & focus > lblField(50)");
     EXPECT_EQ(during.substr(0, 9), "lblField(") << "panels are disabled in a solve";
-    Click("lblField(50)");
-    EXPECT_EQ(Focus(), "lblField(50)");
 }
 
 } // namespace

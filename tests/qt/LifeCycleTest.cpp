@@ -13,9 +13,7 @@ class LifeCycleTest : public QtFixture, public testing::WithParamInterface<const
 
 TEST_F(LifeCycleTest, ReturnFromElsewhereIsAnActivationButNotFromAnOwnBox) {
     EXPECT_EQ(platform.Activations, 1);
-    Answer(QMessageBox::Ok);
-    ASSERT_TRUE(Menu("mnuAbout"));
-    Activate();
+    Script("answer OK & menu mnuAbout & activate");
     EXPECT_EQ(platform.Activations, 1);
 
     QWidget other;
@@ -46,7 +44,7 @@ TEST_P(LifeCycleTest, ClosedInACommandTheProgramEndsSoon) {
     });
     user.start(1);
     QTimer::singleShot(1, form, [&] {
-        Menu(GetParam());
+        Do(std::string("menu ") + GetParam());
         ended = true;
     });
     QApplication::exec();

@@ -20,7 +20,7 @@ protected:
         QPalette dark(QColor(0x31, 0x36, 0x3B));
         dark.setColor(QPalette::Base, QColor(27, 30, 32));
         if (GetParam()) QApplication::setPalette(dark);
-        Click("btnInfo");
+        Do("click btnInfo");
     }
     ~PaintingTest() override { QApplication::setPalette(mBefore); }
 
@@ -49,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(Themes, PaintingTest, testing::Bool());
 
 TEST_P(PaintingTest, BackgroundsBordersDigitsAndTheFocusCanBeSeen) {
     At(12).SetValue(8);
-    Grid().SetIndex(12);
+    grid.SetIndex(12);
     const QColor base = QApplication::palette().color(QPalette::Base);
     for (const auto& [color, seen] : {std::pair{WindowBackground, base},
                                       {Red, QColor(255, 0, 0)},

@@ -1,9 +1,10 @@
 #include "QtFixture.h"
 
 #include <QApplication>
-#include <QFile>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 
@@ -24,20 +25,44 @@ void SpyPlatform::Sleep(int milliseconds) {
     if (ReallySleeps) QtPlatform::Sleep(milliseconds);
 }
 
+Message::Answer SpyPlatform::ShowMessage(const Message& message) {
+    Note("Box", message.Prompt);
+    return QtPlatform::ShowMessage(message);
+}
+
 void SpyPlatform::SetWindowLongA(int handle, int index, int value) {
     ++Activations;
     QtPlatform::SetWindowLongA(handle, index, value);
 }
 
-QtFixture::QtFixture() {
-    Unexpected = [this](QDialog& dialog) {
-        ADD_FAILURE() << "unexpected box after " << Boxes.join("; ").toStdString();
+QtFixture::QtFixture() : GameScript(platform, *goGame) {
+    mCommands["click"] = [this](int, auto& name) {
+        Click(Widget(name), Widget(name).rect().center());
+    };
+    mCommands["key"] = [this](int, auto& keys) { Key(keys); };
+    mCommands["menu"] = [this](int, auto& entry) { Menu(QString::fromStdString(entry)); };
+    mCommands["answer"] = [this](int, auto& answer) { mAnswers.push_back(answer); };
+    mCommands["choose"] = [this](int, auto& name) { mAnswers.push_back(folder.File(name)); };
+    mCommands["import"] = [this](int, auto& puzzle) {
+        mAnswers.push_back(TESSARIN_PUZZLES + puzzle);
+        Menu("mnuFileImportCSV");
+    };
+    mCommands["to"] = [this](int, auto& name) { Widget(name).setFocus(); };
+    mCommands["focus"] = [this](int, auto&) {
+        Tell(form->focusWidget()->objectName().toStdString());
+    };
+    mCommands["cursor"] = [this](int, auto&) { Tell(std::to_string(grid.Index())); };
+    mCommands["left"] = [this](int, auto&) { Tell(std::to_string(grid.FreeCount())); };
+    mCommands["activate"] = [this](int, auto&) { Activate(); };
+    Unexpected = [](QDialog& dialog) {
+        ADD_FAILURE() << "unexpected box " << dialog.windowTitle().toStdString();
         dialog.reject();
     };
     QObject::connect(&mEyes, &QTimer::timeout, [this] { LookForBox(); });
     mEyes.start(LookMilliseconds);
     window.Show();
     Activate();
+    mTold.clear();
 }
 
 void QtFixture::Click(QWidget& widget, QPoint where, Qt::MouseButton button) {
@@ -45,27 +70,15 @@ void QtFixture::Click(QWidget& widget, QPoint where, Qt::MouseButton button) {
     QTest::mouseClick(top->windowHandle(), button, {}, widget.mapTo(top, where));
 }
 
-void QtFixture::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+void QtFixture::Key(const std::string& keys) {
     // As between two strokes of a hand; without the pause the second one counts as a repeat.
     QTest::qWait(LookMilliseconds);
     QWidget* top = QApplication::activePopupWidget();
     if (top == nullptr) top = QApplication::activeModalWidget();
-    QTest::keyClick((top == nullptr ? form : top)->windowHandle(), key, modifiers);
-}
-
-bool QtFixture::Menu(const QString& entry) {
-    for (QAction* const action : MenuBar().actions())
-        if (action->objectName() == entry)
-            Click(MenuBar(), MenuBar().actionGeometry(action).center());
-    for (QMenu* const menu : MenuBar().findChildren<QMenu*>())
-        for (QAction* const action : menu->actions()) {
-            if (action->objectName() != entry) continue;
-            Menu(menu->menuAction()->objectName());
-            if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 500)) return false;
-            Click(*menu, menu->actionGeometry(action).center());
-            return true;
-        }
-    return false;
+    const QKeyCombination key =
+        keys == "Alt" ? Qt::Key_Alt : QKeySequence(QString::fromStdString(keys))[0];
+    QTest::keyClick((top == nullptr ? form : top)->windowHandle(), key.key(),
+                    key.keyboardModifiers());
 }
 
 void QtFixture::Activate() {
@@ -73,31 +86,17 @@ void QtFixture::Activate() {
     EXPECT_TRUE(QTest::qWaitForWindowActive(form));
 }
 
-void QtFixture::Import(const QString& path) {
-    ChooseFile(path);
-    EXPECT_TRUE(Menu("mnuFileImportCSV"));
-}
-
-void QtFixture::Answer(QMessageBox::StandardButton button, std::function<void()> whileOpen) {
-    mAnswers.emplace_back([this, button, whileOpen = std::move(whileOpen)](QDialog& dialog) {
-        if (whileOpen) whileOpen();
-        auto* const box = qobject_cast<QMessageBox*>(&dialog);
-        if (box == nullptr || box->button(button) == nullptr) return Unexpected(dialog);
-        Click(*box->button(button), {5, 5});
-    });
-}
-
-void QtFixture::ChooseFile(const QString& path) {
-    mAnswers.emplace_back([this, path](QDialog& dialog) {
-        auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
-        if (name == nullptr) return Unexpected(dialog);
-        name->setText(path);
-        QMetaObject::invokeMethod(&dialog, "accept");
-    });
-}
-
-void QtFixture::CancelDialog() {
-    mAnswers.emplace_back([this](QDialog&) { Key(Qt::Key_Escape); });
+void QtFixture::Menu(const QString& entry) {
+    for (QAction* const action : MenuBar().actions())
+        if (action->objectName() == entry)
+            Click(MenuBar(), MenuBar().actionGeometry(action).center());
+    for (QMenu* const menu : MenuBar().findChildren<QMenu*>())
+        for (QAction* const action : menu->actions()) {
+            if (action->objectName() != entry) continue;
+            Menu(menu->menuAction()->objectName());
+            if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 500)) return Tell("shut");
+            Click(*menu, menu->actionGeometry(action).center());
+        }
 }
 
 void QtFixture::LookForBox() {
@@ -107,30 +106,23 @@ void QtFixture::LookForBox() {
     if (!dialog->isActiveWindow()) return dialog->activateWindow();
     mSeen = dialog;
     mEyes.start(); // or it would not look again before the answer has ended
-    if (auto* const box = qobject_cast<QMessageBox*>(dialog)) {
-        QStringList buttons(box->icon() == QMessageBox::Question ? QStringList("?")
-                                                                 : QStringList());
-        for (const auto* const button : box->buttons())
-            buttons << button->text().remove('&');
-        buttons.sort();
-        Boxes << box->windowTitle() + ": " + box->text() + " [" + buttons.join(' ') + "]";
-    }
+    if (const auto meanwhile = std::exchange(WhileOpen, nullptr)) meanwhile(*dialog);
     if (mAnswers.empty()) return Unexpected(*dialog);
-    const auto answer = std::move(mAnswers.front());
+    const auto answer = QString::fromStdString(mAnswers.front());
     mAnswers.pop_front();
-    answer(*dialog);
+    for (auto* const button : dialog->findChildren<QPushButton*>())
+        if (button->text().remove('&') == answer) return Click(*button, {5, 5});
+    auto* const name = dialog->findChild<QLineEdit*>("fileNameEdit");
+    if (answer == "Esc") return Key("Esc");
+    if (name == nullptr) return Unexpected(*dialog);
+    name->setText(answer);
+    QMetaObject::invokeMethod(dialog, "accept");
 }
 
 QWidget& QtFixture::Widget(const std::string& name) {
     auto* const widget = form->findChild<QWidget*>(QString::fromStdString(name));
     if (widget == nullptr) throw std::invalid_argument("no control " + name);
     return *widget;
-}
-
-QString QtFixture::File(const QString& name, const QByteArray& content) {
-    QFile file(folder.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    return file.fileName();
 }
 
 } // namespace tessarin

@@ -1,7 +1,9 @@
 // The real window with a user made of mouse and key events.
 #pragma once
 
+#include "GameFixture.h"
 #include "Program.h"
+#include "ScratchFolder.h"
 #include "qt/QtForm.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtToolkit.h"
@@ -9,11 +11,8 @@
 
 #include <QDialog>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPointer>
-#include <QTemporaryDir>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include <deque>
 #include <functional>
@@ -21,7 +20,7 @@
 namespace tessarin {
 
 /// The real machine, which notes what passes.
-class SpyPlatform final : public qt::QtPlatform {
+class SpyPlatform final : public qt::QtPlatform, public CallLog {
 public:
     SpyPlatform() : QtPlatform(ProgramVersion) {}
 
@@ -31,57 +30,50 @@ public:
 
     void PumpEvents(Pump pump) override;
     void Sleep(int milliseconds) override;
+    Message::Answer ShowMessage(const Message& message) override;
     void Beep() override {}
     void SetWindowLongA(int handle, int index, int value) override;
     void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
 };
 
-/// The window, shown and active. Whatever the user does is handled before the call returns: the
-/// command that it started has ended then, its boxes answered as told before.
-class QtFixture : public testing::Test {
+struct QtParts {
+    SpyPlatform platform;
+    qt::QtToolkit toolkit{platform};
+    frmTessarin window{toolkit};
+    QWidget* const form = &platform.CurrentForm();
+};
+
+/// The window, shown and active, worked by lines of text. Whatever the user does is handled before
+/// a step ends: the command that it started has ended then, its boxes answered as told before.
+class QtFixture : public testing::Test, protected QtParts, public GameScript {
 protected:
     QtFixture();
 
     // Events go to the window that is seen, so that modal boxes, open menus and disabled panels
     // keep them from the controls as they do on a screen.
     void Click(QWidget& widget, QPoint where, Qt::MouseButton button = Qt::LeftButton);
-    void Click(const std::string& name) { Click(Widget(name), Widget(name).rect().center()); }
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
-    std::string Focus() { return form->focusWidget()->objectName().toStdString(); }
-    /// Opens the menus on the way to the entry and clicks it. False when one does not open.
-    bool Menu(const QString& entry);
-    void Import(const QString& path);
+    void Key(const std::string& keys);
+    /// Opens the menus on the way to the entry and clicks it; tells "shut" if one does not open.
+    void Menu(const QString& entry);
     /// As a window manager does when a box is gone.
     void Activate();
 
-    // How the user answers the boxes to come, in order.
-    void Answer(QMessageBox::StandardButton button, std::function<void()> whileOpen = {});
-    void ChooseFile(const QString& path);
-    void CancelDialog();
+    /// What else is done while the next box is open.
+    std::function<void(QDialog&)> WhileOpen;
     /// What happens to a box that nobody expects: it is a failure.
     std::function<void(QDialog&)> Unexpected;
-    /// The message boxes seen so far: "title: text [? No Yes]", "?" for the question icon.
-    QStringList Boxes;
 
     QWidget& Widget(const std::string& name);
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
-    Fields& Grid() { return *goGame->Fields; }
-    Field& At(int index) { return *Grid().Items.Item(index); }
-    /// A file with that content in the scratch folder.
-    QString File(const QString& name, const QByteArray& content);
 
-    QTemporaryDir folder;
-    SpyPlatform platform;
-    qt::QtToolkit toolkit{platform};
-    frmTessarin window{toolkit};
-    QWidget* const form = &platform.CurrentForm();
+    ScratchFolder folder;
 
 private:
     void LookForBox();
 
     QTimer mEyes;
     QPointer<QDialog> mSeen;
-    std::deque<std::function<void(QDialog&)>> mAnswers;
+    std::deque<std::string> mAnswers; // a button, "Esc" or the path of a file
 };
 
 } // namespace tessarin

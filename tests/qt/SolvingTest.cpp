@@ -15,7 +15,7 @@ namespace {
 class SolvingTest : public QtFixture {
 protected:
     // Four fields are empty.
-    SolvingTest() { Import(TESSARIN_PUZZLES "/nearly-complete.csv"); }
+    SolvingTest() { Do("import nearly-complete.csv"); }
 
     // What the system tells of the key, with its time in milliseconds.
     void Esc(QWidget& top, QEvent::Type type, quint64 time, bool repeat = false) {
@@ -29,34 +29,28 @@ TEST_F(SolvingTest, WhileItRunsThePanelsAreDeadAndTheWindowStaysOpen) {
     int changes = 0;
     const auto connection = goGame->Events.StatusChanged.Connect([&](int) {
         if (++changes > 1) return;
-        for (const char* const name : {"btnInfo", "btnGoBack", "lblDeadEnd", "btnNumPad(11)"})
-            Click(name);
-        EXPECT_TRUE(Menu("mnuFileQuit"));
         EXPECT_FALSE(form->close());
-        EXPECT_EQ(Grid().FreeCount(), 3);
-        Click("lblField(1)");
-        EXPECT_EQ(Grid().Index(), 1);
-        Answer(QMessageBox::Ok, [] { EXPECT_EQ(QApplication::overrideCursor(), nullptr); });
-        EXPECT_TRUE(Menu("mnuAbout"));
+        WhileOpen = [](QDialog&) { EXPECT_EQ(QApplication::overrideCursor(), nullptr); };
+        Script(R"(
+            click btnInfo & click btnGoBack & click lblDeadEnd & click btnNumPad(11)
+            menu mnuFileQuit > & left > 3 & click lblField(1) & cursor > 1
+            answer OK & menu mnuAbout
+        )");
         ASSERT_NE(QApplication::overrideCursor(), nullptr);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     });
-    Click("btnSolve");
+    Do("click btnSolve");
     EXPECT_EQ(changes, 4);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    EXPECT_TRUE(Menu("mnuFileQuit"));
+    Script("menu mnuFileQuit >");
     EXPECT_FALSE(form->isVisible());
 }
 
 TEST_F(SolvingTest, OnlyAnEscThatClosesNothingAsks) {
-    CancelDialog();
-    ASSERT_TRUE(Menu("mnuFileExportCSV"));
-    CancelDialog();
-    ASSERT_TRUE(Menu("mnuEditClearAll"));
-    Activate();
-    Click(MenuBar(), {10, 5});
+    Script("answer Esc & menu mnuFileExportCSV & answer Esc & menu mnuEditClearAll & activate");
+    Do("menu mnuFile");
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    Key(Qt::Key_Escape);
+    Do("key Esc");
     EXPECT_FALSE(platform.EscPressed());
     QTest::mouseMove(form->windowHandle(), MenuBar().mapTo(form, QPoint(12, 6)));
     ASSERT_NE(MenuBar().activeAction(), nullptr) << "the pointer is over a title";
@@ -76,8 +70,7 @@ TEST_F(SolvingTest, OnlyAnEscThatClosesNothingAsks) {
 TEST_F(SolvingTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
     Esc(*form, QEvent::KeyPress, 1000);
     bool staysOpen = false;
-    Answer(QMessageBox::Yes, [&] {
-        QWidget& box = *QApplication::activeModalWidget();
+    WhileOpen = [&](QDialog& box) {
         // The first repeat after the focus has changed is not marked as one.
         for (const quint64 time : {1600U, 1630U, 1660U}) {
             Esc(box, QEvent::KeyRelease, time, time > 1600);
@@ -85,10 +78,9 @@ TEST_F(SolvingTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
         }
         staysOpen = box.isVisible();
         Esc(box, QEvent::KeyRelease, 1700);
-    });
-    Click("btnSolve");
+    };
+    Script("answer Yes & click btnSolve > Box(Abbrechen?) [1] & left > 4");
     EXPECT_TRUE(staysOpen);
-    EXPECT_EQ(Grid().FreeCount(), 4);
 }
 
 TEST_F(SolvingTest, RotorTurnsAfterEachPauseAndInACommandThatItsTickLetsIn) {
@@ -102,7 +94,7 @@ TEST_F(SolvingTest, RotorTurnsAfterEachPauseAndInACommandThatItsTickLetsIn) {
     };
     platform.AtPump = look;
     window.optChill(2).Select();
-    Click("btnSolve");
+    Do("click btnSolve");
     EXPECT_GE(turns, 11);
     bool inTick = false;
     platform.AtPump = [&] {
