@@ -7,8 +7,8 @@ namespace tessarin {
 class Fields;
 class Groups;
 
-/// The grid and its groups as the objects of the model find them: a field or group knows others by
-/// number only and looks them up here. The Game is the one Board of a run.
+/// Where the objects of the model find the grid and its groups: fields and groups refer to each
+/// other by number and look the numbers up here. The program's only Board is its Game.
 struct Board {
     /// Becomes the current board.
     Board();

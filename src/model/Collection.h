@@ -30,7 +30,7 @@ public:
     bool Has(int position) const { return Find(position) != nullptr; }
 
     void Add(T item) { mItems.push_back(std::move(item)); }
-    /// Makes room for `count` items, so that adding them does not move the others.
+    /// Allocates room for `count` items in advance.
     void Reserve(int count) { mItems.reserve(static_cast<std::size_t>(count)); }
 
     auto begin() const { return mItems.begin(); }

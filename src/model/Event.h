@@ -9,7 +9,7 @@
 
 namespace tessarin {
 
-/// Keeps a handler connected to an event for as long as it lives. It may outlive the event.
+/// Keeps a handler connected to an event while it lives. It may outlive the event.
 class Connection {
 public:
     Connection() = default;
@@ -22,7 +22,7 @@ public:
     }
     ~Connection() { Disconnect(); }
 
-    /// From now on the handler is not called any more, not even by a Raise that is under way.
+    /// The handler is not called again, not even by a Raise in progress.
     void Disconnect() {
         if (mConnected) *mConnected = false;
         mConnected.reset();
@@ -32,7 +32,7 @@ private:
     std::shared_ptr<bool> mConnected;
 };
 
-/// Something that happens to an object and that others want to hear of.
+/// Tells the connected handlers that something has happened.
 template <class... Args>
 class Event {
 public:
@@ -55,7 +55,7 @@ public:
     }
 
     /// Calls all handlers in order. Handlers may connect, disconnect, raise the event again or
-    /// destroy it; one connected meanwhile hears of the next Raise only.
+    /// destroy it; one that is connected meanwhile is first called by the next Raise.
     void Raise(Args... args) const {
         const std::shared_ptr<const HandlerList> handlers = mHandlers;
         for (const Entry& entry : *handlers)
@@ -69,6 +69,8 @@ private:
     };
     using HandlerList = std::vector<Entry>;
 
+    // Raise keeps the list that it walks: Connect replaces the list and never changes it. Which of
+    // its handlers are still connected is read from the flag in each entry.
     std::shared_ptr<const HandlerList> mHandlers = std::make_shared<const HandlerList>();
 };
 

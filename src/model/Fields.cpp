@@ -119,7 +119,7 @@ void Fields::SetIndex(int MyIndex) {
         Events.BeforeIndexChanged.Raise(Cursor->Index);
         PumpEvents();
     }
-    // Commands that ran just now may have moved the cursor or replaced the fields.
+    // Commands that ran in the event or the pump may have moved the cursor or replaced the fields.
     if (MyIndex != 0) {
         if (Cursor && Cursor->Index == MyIndex) return;
         Cursor = Items.Item(MyIndex);
@@ -158,6 +158,9 @@ void Fields::MarkDirty() {
     ++mlChanges;
 }
 
+// Counts before it pumps, so that a count sees one state of the grid. If commands in the pumps have
+// changed the grid, it counts again without pumping: otherwise a stream of changes could go on for
+// ever.
 void Fields::UpdateStatus() {
     if (!mbDirty) return;
     const auto changes = mlChanges;
@@ -165,7 +168,7 @@ void Fields::UpdateStatus() {
     Platform& platform = Platform::Current();
     for (int i = Items.Count(); i > 0; --i)
         platform.PumpEvents(Pump::WhenDue);
-    if (!mbDirty) return; // a read in the middle of the pumping has brought the status up to date
+    if (!mbDirty) return; // a command in the pumps has read the status
     if (mlChanges != changes) counts = CountFields();
     TakeOver(std::move(counts));
 }
@@ -192,7 +195,7 @@ Fields::Counts Fields::CountFields() const {
     return counts;
 }
 
-// The status compares the new count with the one before it, however many changes lie in between.
+// The status compares the new count with the last one, however many changes lie between them.
 void Fields::TakeOver(Counts counts) {
     const bool isWinner = counts.Free == 0;
     const int deadField = counts.DeadField();

@@ -14,23 +14,22 @@
 namespace tessarin {
 
 /// The grid: all fields, the cursor, the counts and the status of the puzzle, and the events that
-/// tell of every change. Of dimension D it has boxes of D by D fields, Numbers() = D*D rows and
+/// tell of every change. With dimension D it has boxes of D by D fields, Numbers() = D*D rows and
 /// columns and Count() = Numbers()*Numbers() fields, numbered from 1 row by row.
 ///
 /// The status is lazy: a change only marks it dirty, and the next read of a status property counts
-/// all fields anew, pumping window events once for each. Commands that run meanwhile may change the
-/// grid or read the status themselves; whoever reads gets the numbers of the grid as it then is.
+/// all fields anew and pumps window events once for each. Commands that run meanwhile may change
+/// the grid or read the status themselves; every read returns the counts of the grid at its end.
 class Fields {
 public:
-    /// What the grid tells. After each event that SetIndex or FieldChanged raises, window events
-    /// are pumped.
+    /// SetIndex and FieldChanged pump window events after each event that they raise.
     struct GridEvents {
-        Event<int> BeforeIndexChanged; ///< index of the cursor field that is about to be left
+        Event<int> BeforeIndexChanged; ///< index of the field that the cursor is about to leave
         Event<int> IndexChanged;       ///< the new cursor index, 0 when there is no cursor now
         Event<int> StatusChanged;      ///< the changed field; for a lock the cursor's index
-        Event<int> IsWinner;           ///< as StatusChanged; 0: the grid is not complete any more
+        Event<int> IsWinner;           ///< as StatusChanged; 0: the grid is no longer full
         Event<int> IsDeadEnd;          ///< the lowest dead field; 0: the dead end is gone
-        Event<> Init;                  ///< the grid has new fields that know no group yet
+        Event<> Init;                  ///< the grid has new fields, which have no groups yet
     };
 
     /// A grid of dimension 3.
@@ -39,31 +38,31 @@ public:
     Fields& operator=(const Fields&) = delete;
 
     GridEvents Events;
-    std::shared_ptr<Field> Cursor;            ///< the current field or none; set by the grid alone
+    std::shared_ptr<Field> Cursor;            ///< the current field or none; only the grid sets it
     Collection<std::shared_ptr<Field>> Items; ///< the field with Index k at position k
-    /// The empty fields without any free value as of the last count, ascending; none before it.
+    /// The empty fields without free value at the last count, ascending; no list before the first.
     std::optional<KeyedNumbers> DeadFields;
 
-    /// Replaces all fields by new ones for a dimension that is odd and at least 3 (0: dimension 3),
-    /// without cursor, and raises Init. Returns "", or why the dimension was refused; then the grid
-    /// is as before. Throws std::overflow_error for a dimension above 215.
+    /// Replaces all fields by those of a dimension that is odd and at least 3 (0: dimension 3),
+    /// removes the cursor and raises Init. Returns "", or why the dimension is refused and the grid
+    /// unchanged. Throws std::overflow_error for a dimension above 215.
     std::string Init(int MyDimension = 0);
     /// Empties and unlocks all fields, or only those that are not locked, and puts the cursor on
-    /// field 1. Tells of the cursor alone.
+    /// field 1. Raises only the events of the cursor.
     void Clear(bool FreeOnly = false);
 
     /// The grid as text: "Index;Value;Locked" and a line for each field with a value (or for all).
     std::string TextCSV(bool WithEmpty = false) const;
-    /// Rebuilds the grid, of dimension 3, from such a text. A text with another first line leaves
+    /// Rebuilds the grid with dimension 3 from such a text. A text with another first line leaves
     /// it empty. Throws what Field::SetTextCSV throws, and std::out_of_range for an index outside
     /// 1 to 81; what was loaded before stays. Raises Init only.
     void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
     /// The grid as text: "\"Sudoku\"" and a line of values for each row.
     std::string TextSDK() const;
-    /// Rebuilds the grid from such a text, the values as locked fields. A text with another first
-    /// line, or of a number of rows that no dimension has, leaves it as it is. Throws what
-    /// Field::SetTextSDK throws, and std::out_of_range for items past the last field; what was
-    /// loaded before stays. Raises Init only.
+    /// Rebuilds the grid from such a text and locks all values. A text with another first line, or
+    /// with other than 9 or 25 rows, leaves the grid unchanged. Throws what Field::SetTextSDK
+    /// throws, and std::out_of_range for items past the last field; what was loaded before stays.
+    /// Raises Init only.
     void SetTextSDK(std::string_view MyTextCSV);
 
     /// Locks or unlocks every field that holds a value.
@@ -76,26 +75,26 @@ public:
     int NextFreeField(); ///< empty field with the fewest free values, at least one; 0 if none
     bool IsWinner();     ///< no field is empty
     bool IsDeadEnd();    ///< some empty field has no free value
-    int Status();        ///< what is to be reported: 0 winner state, 1 nothing, 2 dead-end state
+    int Status();        ///< the event that a change raises: 0 IsWinner, 1 none, 2 IsDeadEnd
     int DeadField();     ///< the lowest index of an empty field without free value; 0 if none
 
-    /// The number of DeadFields. Does not count anew.
+    /// The number of DeadFields. Never counts anew.
     int DeadCount() const;
 
     /// The cursor field's index, 0 without a cursor.
     int Index() const;
-    /// Moves the cursor to a field, or takes it away with 0. The current index again does nothing;
-    /// nor does a number below 1 without a cursor. Throws std::out_of_range, and changes nothing,
-    /// for any other number outside 0 to Count().
+    /// Moves the cursor to a field, or removes it with 0. Does nothing for the current index or,
+    /// without a cursor, for a number below 1. Throws std::out_of_range, and changes nothing, for
+    /// any other number outside 0 to Count().
     void SetIndex(int MyIndex);
 
-    // The sizes. They throw std::overflow_error where 32 bits do not hold them.
+    // The sizes. They throw std::overflow_error if the result exceeds 32 bits.
     int Count() const;
     int Numbers() const;
     int Dimension() const { return mlDimension; }
 
-    /// For Field alone: a field's value (its index) or lock (0) has changed. Raises StatusChanged
-    /// and then IsWinner or IsDeadEnd, unless a command that rebuilds the grid is under way.
+    /// For Field alone: the value of field ThisIndex, or the lock of any field (0), has changed.
+    /// Raises StatusChanged and then what Status says, except while the grid is being rebuilt.
     void FieldChanged(int ThisIndex);
 
 private:
@@ -128,10 +127,10 @@ private:
     bool mbNotify = true;
     int mlDimension = 0;
     int mlDeadField = 0;
-    unsigned mlChanges = 0; // grows with everything that makes the status dirty
+    unsigned mlChanges = 0; // how often the status was made dirty
 };
 
-/// Holds back the reports of field changes for its lifetime. Afterwards they are as they were.
+/// Suppresses the reports of field changes while it lives.
 class Fields::Silence {
 public:
     explicit Silence(Fields& fields)

@@ -22,8 +22,8 @@ public:
     /// The name of the flavor: "horizontal", "vertikal", "diagonal", "box" or "(unbekannt)".
     std::string FlavorText() const;
 
-    /// Which values of `word` the group's fields hold; `items` are the grid's fields, and one that
-    /// is not among them holds nothing.
+    /// The values in `word` that the group's fields hold. `items` are the grid's fields; indices
+    /// outside them are ignored.
     ValueBits HeldValues(const Collection<std::shared_ptr<Field>>& items, int word) const;
 };
 

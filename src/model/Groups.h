@@ -17,8 +17,8 @@ public:
     Groups(const Groups&) = delete;
     Groups& operator=(const Groups&) = delete;
 
-    /// Throws the old groups away and builds all anew, registering each with its fields. Must run
-    /// once on each new grid: fields that know their groups already end it with DuplicateKeyError.
+    /// Replaces all groups and registers each with its fields. To be called once for each new grid:
+    /// throws DuplicateKeyError if the fields have groups already.
     void Init();
 
 private:

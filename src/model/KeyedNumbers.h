@@ -4,9 +4,8 @@
 
 namespace tessarin {
 
-/// Whole numbers in the order in which they were added, each at most once: a collection whose items
-/// are filed under themselves. Adding in ascending order takes constant time, which is how nearly
-/// all of them are made; finding and removing walk the numbers.
+/// Whole numbers in the order in which they were added, each at most once. Adding in ascending
+/// order, the usual case, takes constant time; finding and removing search one by one.
 class KeyedNumbers {
 public:
     int Count() const { return static_cast<int>(mNumbers.size()); }
@@ -18,9 +17,9 @@ public:
     void Add(int number);
     /// Appends `number` unless it is already there; returns whether it was added.
     bool TryAdd(int number);
-    /// Takes `number` out, wherever it stands; does nothing when it is not there.
+    /// Removes `number`; does nothing when it is not there.
     void Remove(int number);
-    /// Makes room for `count` numbers, so that adding them does not move the others.
+    /// Allocates room for `count` numbers in advance.
     void Reserve(int count) { mNumbers.reserve(static_cast<std::size_t>(count)); }
 
     auto begin() const { return mNumbers.begin(); }
@@ -29,7 +28,7 @@ public:
 
 private:
     std::vector<int> mNumbers;
-    int mlHighest = 0; // no number is above it, unless there is none at all
+    int mlHighest = 0; // an upper bound of the numbers; unused while there are none
 };
 
 } // namespace tessarin

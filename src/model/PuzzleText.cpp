@@ -15,8 +15,8 @@ std::string_view FirstLine(std::string_view text) {
     return text.substr(0, text.find(LineBreak));
 }
 
-// The dimension of a grid with so many rows; 0 for a number of rows that no puzzle has. The grid
-// itself refuses dimension 4.
+// The dimension of a grid with that number of rows, 0 if there is none. The grid itself refuses
+// dimension 4.
 int DimensionOfRows(std::size_t rows) {
     for (const std::size_t dimension : {3U, 4U, 5U})
         if (rows == dimension * dimension) return static_cast<int>(dimension);
@@ -53,7 +53,7 @@ std::string Fields::TextCSV(bool WithEmpty) const {
 }
 
 void Fields::SetTextCSV(std::string_view MyTextCSV, bool /*WithEmpty*/) {
-    Init(3); // leaves the status dirty, so that loading need not, not even when it fails
+    Init(3); // marks the status dirty for all that follows, even for a load that fails
     if (FirstLine(MyTextCSV) != HeaderCSV) return;
     const Silence silence(*this);
     TextItems lines(MyTextCSV, LineBreak);
@@ -80,7 +80,7 @@ std::string Fields::TextSDK() const {
 void Fields::SetTextSDK(std::string_view MyTextCSV) {
     if (FirstLine(MyTextCSV) != HeaderSDK) return;
     TextItems lines(MyTextCSV, LineBreak);
-    // The header, and the line break of the last row leaves one more, empty line.
+    // Two lines are no rows: the header, and the empty one after the last line break.
     const int dimension = DimensionOfRows(CountItems(lines) - 2);
     if (dimension == 0 || !Init(dimension).empty()) return;
     const Silence silence(*this);

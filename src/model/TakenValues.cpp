@@ -11,7 +11,7 @@ namespace tessarin {
 
 namespace {
 
-// The bits that the members of a group, given by their numbers from 1, have together.
+// The union of the bits of all members, which are positions in `bits` from 1.
 ValueBits Together(const std::vector<ValueBits>& bits, const auto& members) {
     ValueBits together = 0;
     for (const int number : members)
@@ -24,7 +24,7 @@ ValueBits Together(const std::vector<ValueBits>& bits, const auto& members) {
 
 TakenValues::TakenValues(const Board& board) : mlNumbers(board.Fields->Numbers()) {
     const auto& fields = board.Fields->Items;
-    static const decltype(board.Groups->Items) None; // of a board whose groups are still to come
+    static const decltype(board.Groups->Items) None; // of a board that has no groups yet
     const auto& groups = board.Groups ? board.Groups->Items : None;
     std::vector<ValueBits> held(static_cast<std::size_t>(fields.Count()));
     mBits.resize(static_cast<std::size_t>(WordCount(mlNumbers)));

@@ -9,8 +9,8 @@ namespace tessarin {
 struct Board;
 class Field;
 
-/// The values that the fields of every group hold, looked up once for a pass over all fields. Valid
-/// until a field changes.
+/// The values that are taken in each group, collected once for a pass over all fields. Valid until
+/// a field changes.
 class TakenValues {
 public:
     explicit TakenValues(const Board& board);
@@ -20,7 +20,7 @@ public:
 
 private:
     int mlNumbers;
-    std::vector<std::vector<ValueBits>> mBits; // by word, and there by group
+    std::vector<std::vector<ValueBits>> mBits; // by word, then by group
 };
 
 } // namespace tessarin

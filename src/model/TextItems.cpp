@@ -10,7 +10,7 @@ namespace tessarin {
 
 namespace {
 
-// An item as it is quoted in an error message: not all of a file that is no puzzle.
+// Quotes an item in an error message, shortened: it may be a whole file.
 std::string Quoted(std::string_view item) {
     constexpr std::size_t Longest = 40;
     std::string quoted = "\"";

@@ -6,9 +6,8 @@
 
 namespace tessarin {
 
-/// The items of a text, one after the other: what lies between its separators (exact comparison).
-/// The empty text has no items; any other has one more than separators. The items point into the
-/// text.
+/// Splits a text at its separators (exact comparison), one item after the other. The empty text has
+/// no items; any other has one more than separators. The items point into the text.
 class TextItems {
 public:
     TextItems(std::string_view text, std::string_view separator);
@@ -24,7 +23,7 @@ private:
     bool mbAtEnd;
 };
 
-/// How many items there are. Takes no memory, however long the text is.
+/// The number of items. Allocates nothing, however long the text is.
 std::size_t CountItems(TextItems items);
 
 /// The whole number written in `item`: blanks (code 32), an optional sign, digits, blanks. Throws

@@ -10,7 +10,7 @@ using ValueBits = std::uint64_t;
 
 constexpr int ValuesInWord = 64;
 
-/// How many words hold the values 1 to `numbers`.
+/// The number of words for the values 1 to `numbers`.
 constexpr int WordCount(int numbers) {
     return (numbers + ValuesInWord - 1) / ValuesInWord;
 }

@@ -4,8 +4,8 @@
 
 namespace tessarin {
 
-/// A machine without a window: nothing to pump, no sleep, ESC is never pressed, every question is
-/// answered No, and window styles are forgotten. Logic, benchmarks and fuzzers run on it.
+/// The default platform, without a window: nothing to pump, no sleep, ESC is never pressed, every
+/// question is answered No, and window styles are discarded.
 class NullPlatform : public Platform {
 public:
     void PumpEvents(Pump /*pump*/) override {}

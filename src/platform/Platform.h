@@ -17,7 +17,7 @@ struct DateTime {
     bool operator==(const DateTime&) const = default;
 };
 
-/// What the program file says of itself.
+/// The program's name and version, as the About box shows them.
 struct VersionRecord {
     std::string FileDescription;
     std::string LegalNotice;
@@ -40,56 +40,54 @@ struct Message {
 
 enum class MousePointer { Default, Hourglass };
 
-/// How a pump is meant: at once, or only when the last one is some time ago.
+/// Whether PumpEvents must handle events now or may skip them if the last pump was recent.
 enum class Pump { Now, WhenDue };
 
-/// The machine below. One instance is current at a time; without any, a NullPlatform answers.
+/// The machine that the program runs on. One instance is current; by default a NullPlatform.
 class Platform {
 public:
     virtual ~Platform() = default;
 
     static Platform& Current();
-    /// Makes `platform` the current one (none: the null platform) and returns the one before,
-    /// or nullptr. The caller keeps the ownership.
+    /// Makes `platform` current and returns the one before; in both places nullptr stands for the
+    /// null platform. The caller keeps the ownership.
     static Platform* SetCurrent(Platform* platform);
 
-    /// Handles all window events that are waiting, once. Any handler of the window may run inside.
-    /// Long computations ask thousands of times a second, with Pump::WhenDue: then a platform may
-    /// leave a pump out if another one has ended less than a millisecond before.
+    /// Handles the waiting window events once. Any handler of the window may run inside. Long
+    /// computations call it thousands of times a second with Pump::WhenDue; a platform may then
+    /// skip a pump if the last one ended less than a millisecond ago.
     virtual void PumpEvents(Pump pump) = 0;
-    /// Stops the program for `milliseconds` (above 0), less when the window is closed by a
-    /// handler. The window may be painted and activated meanwhile; apart from what the activation
-    /// pumps, no input of the user is handled and no timer ticks.
+    /// Sleeps for `milliseconds` (above 0); ends early when a handler closes the window. The window
+    /// may be painted and activated meanwhile. User input and timers wait, unless the activation
+    /// pumps events.
     virtual void Sleep(int milliseconds) = 0;
     /// Whether ESC is down now or has been pressed since the last call.
     virtual bool EscPressed() = 0;
-    /// Shows the box and returns the button that closed it; closing it otherwise counts as No, or
-    /// as OK where that is the only button.
+    /// Shows the box and returns the button that closed it. Closing it without a button counts as
+    /// No, or as OK if that is the only button.
     virtual Message::Answer ShowMessage(const Message& message) = 0;
     virtual void Beep() = 0;
-    /// Sets the pointer of the whole application; setting it twice is the same as once.
+    /// Sets the pointer of the whole application. Calls do not nest.
     virtual void SetMousePointer(MousePointer pointer) = 0;
 
     /// The name of the program file without folder and extension.
     virtual std::string ProgramName() = 0;
     /// The folder of the program file, without a separator at its end.
     virtual std::string ProgramFolder() = 0;
-    /// The program's version record.
     virtual VersionRecord Version() = 0;
     /// The current local time.
     virtual DateTime Now();
-    /// `path`, made of a folder, a backslash and a name, in the form in which this system opens
-    /// files: here the last backslash becomes a slash.
+    /// Converts `path` (folder, backslash, name) to the form in which this system opens files: here
+    /// the last backslash becomes a slash.
     virtual std::string NativePath(const std::string& path);
 
-    /// A handler of the window has ended with an error of which the user is not told. A debug
-    /// build shows it on the standard error stream.
+    /// Called when a handler of the window ends with an error. The user is not told; a debug build
+    /// prints it to standard error.
     virtual void ReportError(const std::string& what);
 
-    // The window-style calls behind the taskbar entry. A window is named by its native handle.
+    // The window-style calls behind the taskbar entry. `handle` is the window's native handle.
     virtual int GetDesktopWindow() = 0;
-    /// Holds back what the calls below do to a window, so that it does not flicker; handle 0 lets
-    /// it show.
+    /// Suspends what the calls below make visible, to avoid flicker; handle 0 ends that.
     virtual void LockWindowUpdate(int handle) = 0;
     /// Command 0 hides the window, command 5 shows and activates it.
     virtual void ShowWindow(int handle, int command) = 0;

@@ -1,4 +1,4 @@
-// The request to cancel a running automatic solve, and the ESC key's question.
+// The request to cancel a running automatic solve, and the question that ESC asks.
 #pragma once
 
 namespace tessarin {
@@ -9,9 +9,9 @@ extern bool gbCancel;
 void ClearCancel();
 void SetCancel();
 
-/// Whether the running solve shall stop: at once when a cancel is already requested; otherwise,
-/// when ESC is down or was pressed since the last call, as the user answers the question. Yes sets
-/// gbCancel, No leaves it unset, so that the next ESC asks again.
+/// Whether the running solve has to stop: true if gbCancel is set. If not, and ESC is down or was
+/// pressed since the last call, the user is asked: Yes sets gbCancel, after No the next ESC asks
+/// again.
 bool CancelRequested();
 
 } // namespace tessarin

@@ -9,9 +9,9 @@
 
 namespace tessarin {
 
-/// `text` without leading and trailing blanks, right-aligned in `length` characters: filled up on
-/// the left with the first character of `padCharacter` (a blank without one), or cut to its last
-/// characters. A missing length is that of the untrimmed text; 0 or less gives "".
+/// Trims blanks from `text` and right-aligns it in `length` characters (by default the untrimmed
+/// length; 0 or less gives ""). Pads on the left with the first character of `padCharacter`, or a
+/// blank if that is empty. Of a longer text the last characters remain.
 std::string PadLeft(std::string_view text, std::optional<std::int16_t> length = std::nullopt,
                     std::string_view padCharacter = " ");
 
@@ -24,9 +24,9 @@ std::string PadInteger(std::int16_t number, std::int16_t width, std::string_view
 /// searched again. An empty `find` changes nothing.
 std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view replacement);
 
-/// `text` without `count` characters from `start` on (without a count, to its end). The end is
-/// reckoned from the given start, then both are clamped to the text; a start beyond the end or a
-/// count below 1 changes nothing.
+/// `text` without `count` characters from `start` on (by default to its end). The end is computed
+/// from `start` as given, then both are clamped to the text. A start beyond the end or a count
+/// below 1 changes nothing.
 std::string DeleteChars(std::string_view text, std::int16_t start,
                         std::optional<std::int16_t> count = std::nullopt);
 

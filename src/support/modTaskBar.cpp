@@ -10,7 +10,6 @@ constexpr int ApplicationWindow = 0x40000;
 constexpr int CommandHide = 0;
 constexpr int CommandShow = 5;
 
-// Holds back what is done to windows, so that it does not flicker.
 class UpdateLock {
 public:
     explicit UpdateLock(Platform& platform) : mPlatform(platform) {

@@ -3,8 +3,8 @@
 
 namespace tessarin {
 
-/// Gives the window with the native handle `windowHandle` an entry in the taskbar, or takes it
-/// away, without flicker; afterwards it is shown and active.
+/// Adds the taskbar entry of the window with that native handle, or removes it, without flicker.
+/// Afterwards the window is shown and active.
 void ShowInTaskBar(int windowHandle, bool show);
 
 } // namespace tessarin

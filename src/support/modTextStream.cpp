@@ -18,14 +18,14 @@ struct CloseFile {
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-// A pipe or device is not opened at all: it could block for ever or never end.
+// Opens only regular files: a pipe or device could block for ever or never end.
 File OpenToRead(const std::string& fileName) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(fileName, error)) return nullptr;
     return File(std::fopen(fileName.c_str(), "rb"));
 }
 
-// The first `limit` bytes of the file, all of it without a limit; "" after any failure.
+// The first `limit` bytes of the file, by default all; "" after any failure.
 std::string Read(const std::string& fileName, std::size_t limit = std::string::npos) {
     try {
         const File file = OpenToRead(fileName);
@@ -53,7 +53,7 @@ std::string TwoBytesEach(const std::string& text) {
     return bytes;
 }
 
-// Returns 0 or the number of the system's error.
+// Returns 0 or the system's error number.
 int Write(const std::string& fileName, const std::string& bytes, bool replaceExisting) {
     errno = 0;
     std::FILE* const file = std::fopen(fileName.c_str(), replaceExisting ? "wb" : "wbx");

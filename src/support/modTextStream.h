@@ -1,5 +1,5 @@
-// Whole text files as strings. Every byte is one character and back; line ends and byte-order marks
-// are left as they are. No procedure throws or shows anything; none leaves a file open.
+// Reads and writes whole text files. A byte is a character; line ends and byte-order marks stay as
+// they are. No function throws, shows anything or leaves a file open.
 #pragma once
 
 #include <string>
@@ -11,9 +11,9 @@ namespace tessarin {
 std::string ReadTextFile(const std::string& fileName);
 
 /// Writes `text` to a new file; with `replaceExisting` also over an existing one. The character set
-/// "unicode" writes two bytes for each character, the low one first; any other the text unchanged.
-/// Returns "", or "File=" + name + ", Err=" + the system's description when it failed: an existing
-/// file that is not to be replaced stays untouched; after an error while writing the file may be
+/// "unicode" writes each character as two bytes, the low one first; any other set writes the text
+/// unchanged. Returns "" or, on failure, "File=" + name + ", Err=" + the system's description. An
+/// existing file that is not to be replaced stays untouched; after a write error the file may be
 /// empty or incomplete.
 std::string WriteTextFile(const std::string& fileName, const std::string& text,
                           const std::string& charset, bool replaceExisting);

@@ -5,11 +5,11 @@
 
 namespace tessarin {
 
-/// Pumps waiting window events, sleeps for so many milliseconds and pumps again. With 0 or less it
-/// only pumps, once.
+/// Pumps window events, sleeps for `milliseconds` and pumps again. With 0 or less it only pumps,
+/// once.
 void Wait(int milliseconds = 5);
 
-/// The same for a time that may be changed by what the first pump handles.
+/// The same, but reads the time after the first pump, whose handlers may change it.
 void Wait(const std::function<int()>& milliseconds);
 
 } // namespace tessarin
