@@ -18,7 +18,7 @@ namespace tessarin {
 /// new fields. There is one game, goGame.
 class Game : public Board {
 public:
-    /// The grid's events under the same names, with the grid's own argument.
+    /// The grid's events, with the same names and arguments.
     struct GameEvents {
         Event<int> BeforeIndexChanged;
         Event<int> IndexChanged;
@@ -34,19 +34,19 @@ public:
     GameEvents Events;
     std::unique_ptr<tessarin::Play> Play;
 
-    // Puzzle files. None of these tells whether it succeeded.
+    // Puzzle files. None of these returns whether it succeeded.
 
-    /// Writes the grid to a new file as CSV text; an existing file is left as it is. Without a name
-    /// the file lies beside the program and is called after it and the current time.
+    /// Writes the grid to a new file as CSV text; never changes an existing file. Without a name
+    /// the file is created beside the program and named after it and the current time.
     void FileExportCSV(const std::string& MyFileName = "");
     /// Loads the grid from a CSV file (an unreadable one counts as empty), then drops the history
-    /// and switches tracing off. Throws what Fields::SetTextCSV throws; then the player is as
-    /// before.
+    /// and switches tracing off. Throws what Fields::SetTextCSV throws; then the player is
+    /// unchanged.
     void FileImportCSV(const std::string& FileName);
     /// The same as FileExportCSV in the SDK format.
     void FileExportSDK(const std::string& MyFileName = "");
-    /// Loads the grid from an SDK file. The player stays as it is. Throws what Fields::SetTextSDK
-    /// throws.
+    /// Loads the grid from an SDK file, without touching the player. Throws what
+    /// Fields::SetTextSDK throws.
     void FileImportSDK(const std::string& FileName);
 
 private:

@@ -9,7 +9,7 @@ namespace tessarin {
 
 namespace {
 
-// Beside the program: its name, date and time, and the extension.
+// Beside the program: the program's name, date and time, and the extension.
 std::string DefaultFileName(const std::string& extension) {
     Platform& platform = Platform::Current();
     const std::string stamp = ReplaceAll(DateTimeStamp(platform.Now()), " ", "-");
@@ -17,7 +17,7 @@ std::string DefaultFileName(const std::string& extension) {
         JoinPath(platform.ProgramFolder(), platform.ProgramName() + "-" + stamp + extension));
 }
 
-// A failure is not reported to anyone.
+// Ignores failures.
 void Export(const std::string& fileName, const std::string& extension, const std::string& text) {
     WriteTextFile(fileName.empty() ? DefaultFileName(extension) : fileName, text, "", false);
 }

@@ -15,7 +15,7 @@ Fields& Grid() {
 } // namespace
 
 Play::Play()
-    // The player hears of every change and does nothing about it.
+    // Connected to every change, but no change needs an action here.
     : moFields_StatusChanged(Grid().Events.StatusChanged.Connect([](int) {})) {}
 
 void Play::Reset() {
@@ -59,7 +59,7 @@ bool Play::GoBackToFreedom(bool AutoValue) {
             break;
         }
         if (!History || History->Count() == 0) break;
-        // The newest entry is an empty field without freedom: there is no way further back.
+        // No progress: the newest entry is an empty field without free values.
         if (Grid().Index() == index && History->Count() >= entries) break;
     }
     if (Grid().Index() != start) return true;
@@ -102,7 +102,7 @@ void Play::Empty(Field& field) {
 void Play::GotoNewestEntry() {
     if (!mbTracing || !History || History->Count() == 0) return;
     const int newest = History->Item(History->Count());
-    if (newest <= Grid().Items.Count()) Grid().SetIndex(newest); // it may be of a larger grid
+    if (newest <= Grid().Items.Count()) Grid().SetIndex(newest); // else left from a larger grid
 }
 
 bool Play::Locked() const {

@@ -13,10 +13,10 @@ class Field;
 /// The player: moves the cursor of the game's grid, enters, changes and clears the value of the
 /// cursor field, keeps a history of the fields it filled, goes back along it, and solves by itself.
 ///
-/// It never consults a field's lock. What cannot be done (a value that is not free, no next free
-/// field, an empty history, no cursor) changes nothing and reports nothing. Every change raises the
-/// grid's events, in which any other command may run; each step looks at the cursor afresh, but
-/// SetValue stays with the field that it began with.
+/// It ignores locks. What cannot be done (a value that is not free, no next free field, an empty
+/// history, no cursor) changes nothing and reports nothing. Every change raises the grid's events,
+/// in which any other command may run and move the cursor: each step reads the cursor again, but
+/// SetValue keeps the field that it began with.
 class Play {
 public:
     /// Attaches itself to the grid of the current game. Tracing is off.
@@ -26,7 +26,7 @@ public:
 
     /// The indices of the fields filled while tracing, oldest first; none while tracing is off.
     std::optional<KeyedNumbers> History;
-    /// How many times GoBackToFreedom ran since Solve last started.
+    /// How often GoBackToFreedom has run since Solve last started.
     int Retries = 0;
 
     /// Drops the history and switches tracing off.
@@ -34,7 +34,7 @@ public:
 
     /// Whether filled fields are recorded.
     bool Tracing() const { return mbTracing; }
-    /// Switching on starts an empty history, switching off drops it; no switch changes nothing.
+    /// Switching on starts an empty history, switching off drops it.
     void SetTracing(bool MyTracing);
 
     /// Moves the cursor to the grid's next free field; with AutoValue fills in its smallest free
@@ -42,8 +42,8 @@ public:
     void GotoNextFreeField(bool AutoValue = false);
 
     /// Empties the cursor field and moves to the newest remaining history entry; from an empty
-    /// field only moves there. With AutoValue the field now under the cursor then takes its next
-    /// free value.
+    /// field only moves there. With AutoValue the field under the cursor then takes its next free
+    /// value.
     void GoBack(bool AutoValue = false);
 
     /// Goes back until the cursor field has another free value or the history is used up. Returns
@@ -53,8 +53,8 @@ public:
 
     /// The cursor field's value, 0 without a cursor.
     int Value(bool AutoValue = false) const;
-    /// Enters a free value into the cursor field and, while tracing, the field into the history. 0
-    /// empties the field, takes it out of the history and moves the cursor to the newest entry
+    /// Enters a free value into the cursor field and, while tracing, adds the field to the history.
+    /// 0 empties the field, removes it from the history and moves the cursor to the newest entry
     /// left; from an empty field it only moves there. With AutoValue the value is the next free
     /// one, if any.
     void SetValue(int MyValue, bool AutoValue = false);
@@ -63,14 +63,14 @@ public:
     bool Locked() const;
     void SetLocked(bool MyLocked);
 
-    /// The cursor field's next free value; with SetValue the field takes it, 0 included, and the
-    /// history stays as it is.
+    /// The cursor field's next free value; with SetValue it is also stored, even if it is 0, and
+    /// the history stays as it is.
     int NextFreeValue(bool SetValue = false);
 
-    /// Fills the grid by itself: in each cycle the next free field takes its smallest free value,
-    /// and a dead end after it is answered by one retreat along the history to a field that has a
+    /// Fills the grid by itself. In each cycle the next free field takes its smallest free value;
+    /// if that leads to a dead end, one retreat goes back along the history to a field with a
     /// larger free value. Ends when the grid is full, when a dead end remains after the retreat or
-    /// when a cancel is requested, which is asked once a cycle.
+    /// when a cancel is requested, which is checked once a cycle.
     void Solve();
 
 private:

@@ -20,13 +20,13 @@ void Play::Solve() {
 }
 
 // Goes back to the newest field that has a larger free value and gives it that value. A field
-// without one keeps its value when it is reached; the next step back empties it. Nothing is filled
-// when the cursor cannot move any more.
+// without one keeps its value until the next step back empties it. Fills nothing when the cursor
+// cannot move any more.
 void Play::Retreat() {
     do {
         if (!GoBackToFreedom()) return;
     } while (NextFreeValue() < 1);
-    // Not through SetValue: the field stays at its old place in the history.
+    // Not through Play::SetValue: a field that has left the history does not come back into it.
     if (const auto field = Board::Current().Fields->Cursor) field->SetValue(field->NextFreeValue());
 }
 

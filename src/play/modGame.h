@@ -7,13 +7,13 @@ namespace tessarin {
 
 class Game;
 
-/// The game of the run: set by its creation before anything else, cleared by its end.
+/// The one game: set first of all in its constructor, cleared last in its destructor.
 extern Game* goGame;
 
-/// The About text while ShowAbout puts it together.
+/// The text that ShowAbout builds.
 extern std::string gsAboutText;
 
-/// Shows what the program is, in a message box.
+/// Shows the About text in a message box.
 void ShowAbout();
 
 /// Appends a line to gsAboutText.

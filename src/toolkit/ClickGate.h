@@ -6,18 +6,18 @@ namespace tessarin {
 
 class Control;
 
-/// The way by which the user's clicks reach their handlers. Handlers pump window events, so clicks
-/// arrive while handlers of other clicks are running. The gate limits how many handlers are nested
-/// and keeps the other clicks waiting in order: a flood of clicks neither exhausts the stack nor
-/// gets lost. A click whose control is disabled or hidden when its turn comes is dropped. Controls
-/// whose handlers pump nothing (Control::Waits) pass at once.
+/// Passes the user's clicks to their handlers. Handlers pump window events, so clicks arrive while
+/// handlers of other clicks are running. The gate limits how deep handlers nest and queues the
+/// other clicks: a flood of clicks neither exhausts the stack nor gets lost. A click whose control
+/// is disabled or hidden when its turn comes is dropped. Controls whose handlers pump nothing
+/// (Control::Waits is false) skip the queue.
 class ClickGate {
 public:
     static constexpr int MaxDepth = 16;
 
-    /// Runs the Click of `control`, at once or when a handler that is running has ended.
+    /// Runs the Click of `control`, now or after a running handler has ended.
     void Raise(Control& control);
-    /// Drops all clicks, those waiting and those to come.
+    /// Drops all waiting and future clicks.
     void Close();
 
 private:

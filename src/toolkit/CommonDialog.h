@@ -22,7 +22,7 @@ public:
     /// The full path chosen last; a cancelled dialog leaves it as it is.
     std::string FileName;
 
-    /// Each returns whether a file was chosen; false means cancelled.
+    /// Both return whether a file was chosen; false means cancelled.
     bool ShowOpen() { return Show(false); }
     /// Does not ask before an existing file is chosen.
     bool ShowSave() { return Show(true); }

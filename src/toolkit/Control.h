@@ -23,12 +23,12 @@ struct FontStyle {
 
 enum class BorderStyle { None, FixedSingle };
 enum class Alignment { Left, Center };
-/// Whether the Tab key stops at a label: never, at this one, or at the current one of the form's
-/// grid of labels, in which the arrow keys go on from there.
+/// Whether the Tab key stops at a label: never; at this label; or, for the labels of the form's
+/// grid, at the current one alone, from which the arrow keys move on.
 enum class KeyStop { None, Own, Grid };
 
-/// The properties of a control as it is designed. Positions are in twips (1440 to the inch),
-/// relative to the inside of the container.
+/// The design of a control. Positions are in twips (1440 to the inch), relative to the inside of
+/// the container.
 struct Design {
     std::string Name = {};
     std::string Caption = {};
@@ -40,8 +40,7 @@ struct Design {
     bool Visible = true;
     BorderStyle Border = BorderStyle::None;
     Alignment Align = Alignment::Left;
-    /// What a label does with a text that is too long: wrapped, it goes on in the next line, else
-    /// its middle is left out.
+    /// Whether a label breaks a long text into lines; if not, it leaves out the middle.
     bool Wrap = false;
     KeyStop Keys = KeyStop::None;
     FontStyle Font = {};
@@ -49,15 +48,15 @@ struct Design {
     Color ForeColor = SystemColor(18);
 };
 
-/// One control of a window. Its properties are kept here; the toolkit is told of those that really
-/// change, so setting what is set already costs nothing.
+/// One control of a window. It keeps its properties and tells the toolkit only of those that really
+/// change, so setting an equal value costs nothing.
 class Control {
 public:
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
     virtual ~Control();
 
-    /// What the user's click runs, by way of the form's gate.
+    /// Runs when the user clicks, through the form's gate.
     std::function<void()> Click;
 
     const std::string& Name() const { return mProperties.Name; }
@@ -71,12 +70,10 @@ public:
     void SetTop(float top) { Assign(mProperties.Top, top, Property::Bounds); }
     void SetWidth(float width);
     void SetHeight(float height);
-    /// Left and Top of another control.
     void MoveTo(const Control& other);
-    /// Width and Height of another control.
     void SizeLike(const Control& other);
 
-    /// The control's own flag, whatever its containers say.
+    /// The control's own flag: a hidden container hides it all the same.
     bool Visible() const { return mProperties.Visible; }
     void SetVisible(bool visible) { Assign(mProperties.Visible, visible, Property::Visible); }
     bool Enabled() const { return mbEnabled; }
@@ -110,25 +107,25 @@ public:
         Assign(mProperties.Align, alignment, Property::Alignment);
     }
 
-    /// What the control lies in; nullptr for a form.
+    /// The control around this one; nullptr for a form.
     Control* Container() const { return mContainer; }
 
-    /// Whether a click may have to wait until handlers of other clicks have ended.
+    /// Whether the gate may queue a click on this control.
     virtual bool Waits() const { return true; }
 
     /// For the toolkit: the user has clicked the control.
     void RaiseClick();
 
 protected:
-    /// A form.
+    /// For a form.
     Control(Toolkit& toolkit, Form& form, Design design);
     Control(Control& container, Design design);
 
     Toolkit& Kit() { return mToolkit; }
-    /// The last step of every control's constructor.
+    /// To be called in the constructor of every kind of control.
     void Attach(std::unique_ptr<ControlPeer> peer) { mPeer = std::move(peer); }
 
-    /// The control has got another width or height.
+    /// Called when the width or height has changed.
     virtual void Resized() {}
 
     template <class T>
@@ -137,7 +134,6 @@ protected:
         member = value;
         Notify(property);
     }
-    /// Tells the toolkit that the property has a new value.
     void Notify(Property property) { mPeer->Changed(property); }
 
 private:

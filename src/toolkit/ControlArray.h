@@ -10,12 +10,12 @@
 
 namespace tessarin {
 
-/// Controls of one kind under one name, told apart by an index; `lblField(12)`. Member 0 is a
-/// template for the members made later. All share one Click, which gets the index.
+/// Controls of one kind that share a name and differ by index: `lblField(12)`. Member 0 is the
+/// template for those loaded later. All share one Click, which gets the index.
 template <class T>
 class ControlArray {
 public:
-    /// With member 0, designed as given.
+    /// Creates member 0 with `design`.
     ControlArray(Control& container, Design design) : mContainer(container), msName(design.Name) {
         Add(0, std::move(design));
     }
@@ -27,14 +27,14 @@ public:
     T& operator()(int index) { return *mMembers.at(index); }
     bool Has(int index) const { return mMembers.contains(index); }
 
-    /// Creates another member with the properties of member 0; it starts hidden.
+    /// Creates member `index`, hidden, with the properties of member 0.
     T& Load(int index) {
         Design design = mMembers.at(0)->Properties();
         design.Visible = false;
         return Add(index, std::move(design));
     }
 
-    /// Creates another member with a design of its own.
+    /// Creates member `index` with `design`.
     T& Add(int index, Design design) {
         design.Name = msName + "(" + std::to_string(index) + ")";
         auto& member = mMembers[index];

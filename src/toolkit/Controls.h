@@ -13,8 +13,8 @@ class Label : public Control {
 public:
     Label(Control& container, Design design);
 
-    /// The keyboard goes on from this label of the grid. If the focus is in the grid, it comes
-    /// here.
+    /// Lets the arrow keys move on from this label of the grid. If the focus is in the grid, it
+    /// moves here.
     void MakeCurrent() { Notify(Property::Current); }
 };
 
@@ -23,9 +23,9 @@ public:
     CommandButton(Control& container, Design design);
 };
 
-/// One of several options in the same container, of which one is selected. Clicking it runs Click
-/// every time, also when it is selected already. Click must not pump window events: so it need not
-/// wait for other handlers, and the choice counts as soon as it is seen.
+/// One of several options in the same container, of which one is selected. Every click runs Click,
+/// even if the option is selected already. Click must not pump window events: only then can the
+/// gate let it pass at once, so that the choice takes effect as soon as it is seen.
 class OptionButton : public Control {
 public:
     OptionButton(Control& container, Design design);
@@ -36,14 +36,14 @@ public:
     bool Waits() const override { return false; }
 };
 
-/// Holds other controls; disabling it disables all of them. Its BorderStyle gives it a border with
-/// the caption in its upper line.
+/// Holds other controls; disabling it disables all of them. BorderStyle adds a border with the
+/// caption in its upper line.
 class Frame : public Control {
 public:
     Frame(Control& container, Design design);
 };
 
-/// A control made of other controls, which may choose its own size (Resized).
+/// A control made of other controls. It may correct its size in Resized.
 class UserControl : public Control {
 public:
     UserControl(Control& container, Design design);
@@ -54,7 +54,7 @@ class Picture : public Control {
 public:
     Picture(Control& container, Design design);
 
-    /// The name of its file among the program's pictures.
+    /// The file's name among the program's pictures.
     const std::string& File() const { return msFile; }
     void SetFile(const std::string& file) { Assign(msFile, file, Property::PictureFile); }
 
@@ -70,8 +70,8 @@ public:
     MenuItem(MenuItem& menu, Design design);
 };
 
-/// Runs Tick every Interval milliseconds while enabled, whenever window events are handled; off
-/// when created.
+/// While enabled, runs Tick every Interval milliseconds as part of the window events. Starts
+/// disabled.
 class Timer : public Control {
 public:
     Timer(Control& container, Design design);
@@ -81,8 +81,8 @@ public:
     int Interval() const { return mlInterval; }
     void SetInterval(int milliseconds) { Assign(mlInterval, milliseconds, Property::Interval); }
 
-    /// For the toolkit: the interval has passed. A tick may come while another is handled, since
-    /// Tick may pump window events; nested too deep, it is left out.
+    /// For the toolkit: the interval has passed. Ticks nest, because Tick may pump window events;
+    /// those nested deeper than MaxDepth are dropped.
     void RaiseTick();
 
 private:

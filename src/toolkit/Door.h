@@ -4,9 +4,9 @@
 
 namespace tessarin {
 
-/// The door by which everything enters that the toolkit reports: clicks, timer ticks, activations,
-/// requests to close. Runs `handler`. An error that it ends with stops here, because the toolkit's
-/// event loop cannot be unwound, and goes to Platform::ReportError.
+/// Runs `handler` for something that the toolkit reports: a click, a timer tick, an activation or a
+/// request to close. All of them enter here, because an exception must not unwind the toolkit's
+/// event loop: it goes to Platform::ReportError instead.
 void Enter(const std::function<void()>& handler) noexcept;
 
 } // namespace tessarin

@@ -4,7 +4,7 @@
 
 namespace tessarin {
 
-/// Gives a variable another value for its own lifetime.
+/// Sets a variable while it lives, then restores the old value.
 template <class T>
 class ScopedValue {
 public:

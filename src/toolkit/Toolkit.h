@@ -1,4 +1,4 @@
-// What the controls of a window ask of the window toolkit that carries them.
+// What the controls of a window need from a window toolkit.
 #pragma once
 
 #include <memory>
@@ -18,7 +18,7 @@ class Picture;
 class Timer;
 class UserControl;
 
-/// The properties of a control that a toolkit is told of.
+/// The properties of a control whose changes a toolkit is told.
 enum class Property {
     Bounds,
     Caption,
@@ -41,7 +41,6 @@ enum class Property {
 class ControlPeer {
 public:
     virtual ~ControlPeer() = default;
-    /// The property of the control has a new value.
     virtual void Changed(Property property) = 0;
 };
 
@@ -50,11 +49,11 @@ class FormPeer : public ControlPeer {
 public:
     /// Asks the window to close, as its close box does.
     virtual void Close() = 0;
-    /// The native handle, as the window-style calls take it.
+    /// The native handle for the window-style calls of Platform.
     virtual int Handle() = 0;
 };
 
-/// A file dialog as it is to be shown.
+/// The properties of a file dialog that is to be shown.
 struct FileDialogRequest {
     std::string Title;
     std::string Filter; ///< pairs of description and pattern, separated by "|"
@@ -65,9 +64,9 @@ struct FileDialogRequest {
     std::string FileName; ///< the file chosen last; the dialog opens in its folder
 };
 
-/// Makes the toolkit's side of the controls. Each control asks for its peer in its own constructor,
-/// where it holds its design already; the peer takes the design over. `container` is the form,
-/// frame or composite control in which it lies.
+/// Creates the peers of controls. Each control asks for its peer in its constructor, when its
+/// design is set already; the peer applies the design. `container` is the form, frame or composite
+/// control around the control.
 class Toolkit {
 public:
     virtual ~Toolkit() = default;
