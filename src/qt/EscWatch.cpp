@@ -16,7 +16,7 @@ bool MenuOrBoxIsOpen() {
     const auto windows = QApplication::topLevelWidgets();
     return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
         const auto* menuBar = window->findChild<QMenuBar*>();
-        // A menu bar without the focus has an active title when the pointer rests on it.
+        // Without the focus, a title is active only because the pointer rests on it.
         return menuBar != nullptr && window->focusWidget() == menuBar &&
                menuBar->activeAction() != nullptr;
     });
@@ -26,7 +26,7 @@ bool MenuOrBoxIsOpen() {
 
 EscWatch::EscWatch() {
     qApp->installEventFilter(this);
-    // The release of a key that is down may go to another program.
+    // If ESC is down now, its release may go to another program.
     connect(qApp, &QApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state != Qt::ApplicationActive) mbHeld = mbDown = false;
     });
@@ -39,7 +39,7 @@ bool EscWatch::Query() {
 }
 
 bool EscWatch::eventFilter(QObject* receiver, QEvent* event) {
-    // At the window a key event shows up exactly once; at its widgets any number of times.
+    // A key event reaches the window exactly once, but its widgets any number of times.
     if (!receiver->isWindowType()) return false;
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
     const auto* key = static_cast<QKeyEvent*>(event);

@@ -4,9 +4,9 @@
 
 namespace tessarin::qt {
 
-/// Knows the state of the ESC key, whatever control has the focus. It swallows the key's repeats:
-/// while ESC is held down, it neither answers the question that it has opened nor counts twice. A
-/// press that closes a menu, a message box or a dialog does not count.
+/// Tracks the ESC key, whatever control has the focus. Swallows the key's repeats, so that holding
+/// ESC down neither counts twice nor answers the question that the press has opened. A press that
+/// closes a menu, a message box or a dialog does not count.
 class EscWatch : public QObject {
 public:
     /// Watches all windows of the application.

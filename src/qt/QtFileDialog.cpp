@@ -14,20 +14,20 @@ namespace tessarin::qt {
 
 namespace {
 
-// "CSV Dokumente (*.csv)|*.csv|..." in Qt's form: one filter for each pair, with the pattern in
-// brackets behind the description.
+// Converts "CSV Dokumente (*.csv)|*.csv|..." to Qt's form: one filter for each pair, with the
+// pattern in brackets after the description.
 QStringList NameFilters(const std::string& filter) {
     QStringList filters;
     const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        // Here *.* would leave out files without an extension.
+        // In Qt, *.* leaves out files without an extension.
         const QString pattern = parts[i + 1] == QLatin1String("*.*") ? "*" : parts[i + 1];
         filters << parts[i] + " (" + pattern + ")";
     }
     return filters;
 }
 
-// Name, size, type and date can be read without making the dialog wider.
+// Makes the dialog wide enough for name, size, type and date.
 void ShowColumnsWhole(QFileDialog& dialog) {
     constexpr int NameColumn = 0;
     dialog.resize(740, 460);
@@ -44,7 +44,7 @@ QtFileDialog::QtFileDialog(FileDialogRequest request, QWidget* parent)
     setOption(QFileDialog::DontUseNativeDialog);
     setOption(QFileDialog::DontConfirmOverwrite);
     setWindowTitle(ToQt(mRequest.Title));
-    setOption(QFileDialog::HideNameFilterDetails); // the descriptions name their patterns
+    setOption(QFileDialog::HideNameFilterDetails); // the descriptions contain them already
     setNameFilters(NameFilters(mRequest.Filter));
     setAcceptMode(mRequest.Saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     setFileMode(mRequest.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -78,14 +78,14 @@ void QtFileDialog::accept() {
     QFileDialog::accept();
 }
 
-// QFileDialog takes quotes for separators of several names. They may belong to the one name here.
+// QFileDialog reads quotes as separators of several names; here they belong to one name.
 void QtFileDialog::AcceptQuoted(const QString& name) {
     QString path = directory().absoluteFilePath(name);
     if ((mRequest.Saving || !QFileInfo::exists(path)) && QFileInfo(path).suffix().isEmpty())
         path += ToQt(mRequest.DefaultExt);
     const QFileInfo file(path);
     if (file.isDir() || !(mRequest.Saving ? file.dir().exists() : file.isFile()))
-        return QFileDialog::accept(); // which complains
+        return QFileDialog::accept(); // shows the error
     mQuoted = path;
     QDialog::accept();
 }

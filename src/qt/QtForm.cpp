@@ -60,7 +60,7 @@ void QtForm::Changed(Property property) {
     }
 }
 
-// Qt takes the size without the window frame. How thick that is depends on the desktop.
+// Qt's sizes are without the window frame, whose thickness depends on the desktop.
 void QtForm::ApplySize() {
     const int menuHeight = mMenuBar.sizeHint().height();
     const int least = menuHeight + Pixels(mForm.FormProperties().MinClientHeight);
@@ -73,9 +73,9 @@ void QtForm::ApplySize() {
         if (widget) PlaceWidget(*widget, *control);
 }
 
-// The frame is known only some milliseconds after the window is shown: on X11 with the first move,
-// elsewhere with the first paint. Margins of zero mean "not known yet" before the first paint, "no
-// frame" from then on.
+// Qt knows the frame only some milliseconds after the window is shown: on X11 with the first move,
+// elsewhere with the first paint. Margins of zero mean "not known yet" before the first paint and
+// "no frame" after it.
 void QtForm::CheckFrame(bool trustZero) {
     if (!isVisible() || windowHandle() == nullptr) return;
     const QMargins frame = windowHandle()->frameMargins();
@@ -93,10 +93,10 @@ void QtForm::PlaceWidget(QWidget& widget, const Control& control) {
     widget.setVisible(control.Visible() && !beyond);
 }
 
-// Qt takes the focus from a control that gets disabled or hidden, hands it to another one or to
-// none, and never gives it back. Here the first control that lost it in a row of such changes is
-// remembered, and so is the place where Qt moved the focus: if the focus is elsewhere by the time
-// the control is usable again, the user has moved it, and it stays there.
+// When the control with the focus is disabled or hidden, Qt moves the focus to another control or
+// to none, and never moves it back. So remember the first control that lost it in a row of such
+// changes (mLostFocus), and where Qt moved the focus (mFocusInstead). If the focus is elsewhere
+// when that control is usable again, the user has moved it, and it stays there.
 void QtForm::KeepFocus(const std::function<void()>& change) {
     const QPointer<QWidget> before = focusWidget();
     change();
@@ -115,7 +115,7 @@ void QtForm::KeepFocus(const std::function<void()>& change) {
 void QtForm::MakeCurrent(QtLabel& label) {
     QWidget* const before = mGrid.SetCurrent(label);
     if (mFocusInstead == before) mFocusInstead = &label;
-    // When the window opens, the grid has the focus.
+    // The first current label gets the focus, so that the window opens with it in the grid.
     if (before == nullptr || focusWidget() == before) label.setFocus();
 }
 
@@ -124,7 +124,7 @@ void QtForm::FocusGrid() {
     if (mGrid.Current() != nullptr) mGrid.Current()->setFocus();
 }
 
-// The bar remembers who had the focus, and gives it back when ESC is pressed there.
+// QMenuBar remembers which widget had the focus, and gives it back on ESC.
 void QtForm::LeaveMenuBar() {
     QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     QApplication::sendEvent(&mMenuBar, &escape);
@@ -212,7 +212,7 @@ void QtForm::keyPressEvent(QKeyEvent* event) {
         }
 }
 
-// The Tab key visits the containers from left to right, and the controls of each row by row.
+// Tab visits the containers from left to right, and the controls in each of them row by row.
 void QtForm::ArrangeTabOrder() {
     auto widgets = mClient.findChildren<QWidget*>();
     widgets.removeIf([](const QWidget* widget) { return widget->focusPolicy() == Qt::NoFocus; });

@@ -36,24 +36,24 @@ public:
     QtLabelGrid& Grid() { return mGrid; }
     QRect GridOnScreen() const { return mGrid.Bounds().translated(mClient.mapToGlobal(QPoint())); }
     const QMargins& Frame() const { return mFrame; }
-    /// The keyboard goes on from `label`, which is in the grid.
+    /// Makes `label` the grid's current label, from which the arrow keys move on.
     void MakeCurrent(QtLabel& label);
-    /// The user works in the grid: gives the focus to its current label for good.
+    /// Gives the focus to the grid's current label. A control that has lost it gets it no more.
     void FocusGrid();
-    /// Ends the keyboard's work in the menu bar: the focus goes back to where it was.
+    /// Leaves the menu bar: the focus goes back to where it was.
     void LeaveMenuBar();
 
-    /// The controls inside `container`, a frame or a composite control, become children of
-    /// `inside`.
+    /// Makes `inside` the parent widget of the controls in `container`, a frame or a composite
+    /// control.
     void AddContainer(const Control& container, QWidget& inside) { mInside[&container] = &inside; }
-    /// The widget for the controls inside `container`, which may be the form itself.
+    /// The parent widget of the controls in `container`, which may be the form itself.
     QWidget& Inside(const Control& container) { return *mInside.at(&container); }
     void AddMenu(const MenuItem& item, QtMenuPeer& peer) { mMenus[&item] = &peer; }
     QtMenuPeer& Menu(const MenuItem& item) { return *mMenus.at(&item); }
 
     /// Shows or hides a control's widget according to the control's Visible. A widget that lies
-    /// mostly beyond the right edge of the client stays hidden: with a thin window frame a rim of
-    /// it would show, and the Tab key would walk into it.
+    /// mostly beyond the right edge of the client stays hidden: with a thin window frame its edge
+    /// would show, and Tab would stop at it.
     void PlaceWidget(QWidget& widget, const Control& control);
 
     /// Runs `change`, which may hide or disable the control with the keyboard focus. That control
@@ -61,7 +61,7 @@ public:
     /// focus meanwhile. Until then the focus is at a control beside it or in the grid.
     void KeepFocus(const std::function<void()>& change);
 
-    /// The window-style calls. Between lock and unlock they only take effect at the unlock.
+    /// The window-style calls. While locked, hide and show are ignored and a style is deferred.
     void LockUpdate();
     void UnlockUpdate();
     void ShowCommand(int command);

@@ -6,8 +6,8 @@
 
 namespace tessarin::qt {
 
-/// Paints a frame's background and, with a border, a line around its edge that is interrupted by
-/// the caption. A group box for screen readers alone.
+/// Paints a frame's background and, with a border, a line around its edge that the caption
+/// interrupts. It is a QGroupBox only for screen readers.
 class QtFrame : public QGroupBox {
 public:
     QtFrame(const Frame& frame, QWidget& parent) : QGroupBox(&parent), mFrame(frame) {}

@@ -22,19 +22,19 @@ void QtLabel::paintEvent(QPaintEvent* /*event*/) {
     const Design& look = mControl.Properties();
     QPainter painter(this);
     QRect inside = rect();
-    // Nested fills: a drawn rectangle loses lines at fractional scales.
+    // Fills one inside the other, because drawn rectangles lose lines at fractional scales.
     const auto ring = [&](const QColor& color, int width) {
         painter.fillRect(inside, color);
         inside.adjust(width, width, -width, -width);
     };
     if (look.Border == BorderStyle::FixedSingle) ring(LineColor(), 1);
     const QRect space = inside; // for the text
-    if (hasFocus()) {           // on any background one of the two can be seen
+    if (hasFocus()) {           // one of the two shows on any background
         ring(Qt::white, 2);
         ring(Qt::black, 2);
     }
     painter.fillRect(inside, ToQt(look.BackColor));
-    if (look.Caption.empty()) return; // also saves the start from loading the font of the values
+    if (look.Caption.empty()) return; // also saves loading the font of the values at start
     painter.setFont(ToQt(look.Font));
     painter.setPen(TextColor(look.ForeColor, look.BackColor));
     const QString text = ToQt(look.Caption);

@@ -8,9 +8,9 @@ namespace tessarin::qt {
 
 class QtForm;
 
-/// Paints a label from its control's properties (background, border and text) and reports clicks:
-/// those of the mouse and, at a stop of the Tab key, those of the keyboard. In the form's grid of
-/// labels the arrow keys click the label they lead to.
+/// Paints a label from its control's properties (background, border and text) and reports clicks of
+/// the mouse and, if the Tab key stops at it, of the keyboard. In the form's grid of labels the
+/// arrow keys click the label that they lead to.
 class QtLabel : public QLabel {
 public:
     QtLabel(Label& label, QtForm& form, QWidget& parent);

@@ -10,8 +10,7 @@
 
 namespace tessarin::qt {
 
-// Labels that are not current keep a policy that lets the Tab order name them; the Tab key itself
-// passes them by.
+// With ClickFocus the other labels stay in the tab order, but the Tab key skips them.
 QtLabel* QtLabelGrid::SetCurrent(QtLabel& label) {
     if (mCurrent != nullptr) mCurrent->setFocusPolicy(Qt::ClickFocus);
     label.setFocusPolicy(Qt::StrongFocus);

@@ -15,15 +15,15 @@ class QtLabelGrid {
 public:
     void Add(QtLabel& label) { mLabels.append(&label); }
 
-    /// The current label; nullptr before the first one.
+    /// The current label; nullptr before the first SetCurrent.
     QtLabel* Current() const { return mCurrent; }
-    /// Returns the one that was current before.
+    /// Returns the label that was current before.
     QtLabel* SetCurrent(QtLabel& label);
-    /// Where the key leads from the current label: arrows to the one beside it, Home and End to the
-    /// ends of its row, with Ctrl to the first and the last of all. nullptr when it is another key
-    /// or leads out of the grid.
+    /// The label to which the key leads from the current one: an arrow to the label beside it, Home
+    /// and End to the ends of its row, with Ctrl to the first and last of all. nullptr for another
+    /// key or beyond the edge of the grid.
     QtLabel* Target(const QKeyEvent& key) const;
-    /// The rectangle around all visible labels, in their parent.
+    /// The rectangle around all visible labels, in coordinates of their parent.
     QRect Bounds() const;
 
 private:

@@ -7,8 +7,7 @@ namespace tessarin::qt {
 
 namespace {
 
-// This family is heavy by itself. Where it is missing, the families that replace it have to be told
-// the weight.
+// This family is heavy at any weight. The families that replace it where it is missing are not.
 constexpr auto HeavyFamily = "Arial Black";
 
 bool IsSystemColor(Color color) {

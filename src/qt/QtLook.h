@@ -14,14 +14,13 @@ namespace tessarin::qt {
 int Pixels(float twips);
 QRect PixelRect(const Design& design);
 
-/// System colours come from the application's palette as it is now.
+/// Looks system colours up in the application's present palette.
 QColor ToQt(Color color);
-/// The colour of a text: the system colour for button texts on a fixed background becomes black or
+/// The colour of a text. On a fixed background the system colour of button texts becomes black or
 /// white, so that it can be read in a dark theme too.
 QColor TextColor(Color fore, Color back);
 
-/// The colour of borders and lines, which can be told from every background in light and dark
-/// themes.
+/// The colour of borders and lines, visible on every background in light and dark themes.
 QColor LineColor();
 
 QFont ToQt(const FontStyle& font);
@@ -29,11 +28,11 @@ QFont ToQt(const FontStyle& font);
 inline QString ToQt(const std::string& text) {
     return QString::fromStdString(text);
 }
-/// Where the program carries the picture of that file name.
+/// The resource that holds the picture `file`.
 inline QString ResourcePath(const std::string& file) {
     return QLatin1String(":/") + ToQt(file);
 }
-/// A caption for a button or menu entry, in which "&" would mark a shortcut.
+/// A caption for a button or menu entry, with "&" escaped, which would mark a shortcut.
 QString Plain(const std::string& caption);
 
 } // namespace tessarin::qt

@@ -11,7 +11,7 @@ namespace tessarin::qt {
 
 class QtForm;
 
-/// The peer of a menu entry: an action, and the menu behind it as soon as that gets entries.
+/// The peer of a menu entry: an action, with a menu as soon as that gets entries.
 class QtMenuPeer : public ControlPeer {
 public:
     /// An entry of the form's menu bar.

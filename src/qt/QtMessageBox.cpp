@@ -34,14 +34,14 @@ QtMessageBox::QtMessageBox(const Message& message, QtForm* form) : QMessageBox(f
 }
 
 void QtMessageBox::showEvent(QShowEvent* event) {
-    QMessageBox::showEvent(event); // which moves it to the middle
+    QMessageBox::showEvent(event); // centres the box
     if (mForm == nullptr) return;
     const QRect grid = mForm->GridOnScreen();
     const QRect free = mForm->screen()->availableGeometry();
     const QMargins frame = mForm->Frame();
     QRect place = QRect(QPoint(), size()).marginsAdded(frame);
     place.moveCenter(grid.center());
-    // Some window managers put the box, not its frame, at the place asked for.
+    // With a margin: some window managers put the box there, and its frame around it.
     place.moveLeft(grid.right() + 1 + frame.left());
     if (!grid.isEmpty() && free.contains(place)) move(place.topLeft());
 }

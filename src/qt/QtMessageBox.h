@@ -8,11 +8,11 @@ namespace tessarin::qt {
 
 class QtForm;
 
-/// A message box beside the form's grid of labels, which it speaks of: over the controls on the
-/// right of it. Where the screen has no room for that, it opens in the middle of the window.
+/// A message box that opens on the right of the form's grid of labels, which its text is about and
+/// which it must not cover. If the screen has no room there, it opens in the middle of the window.
 class QtMessageBox : public QMessageBox {
 public:
-    /// Without a form the box has no window that it belongs to.
+    /// Without a form the box has no parent window.
     QtMessageBox(const Message& message, QtForm* form);
 
 protected:

@@ -19,7 +19,7 @@ protected:
 
     virtual void SetCaption() {}
     virtual void SetFont();
-    /// What the widget paints itself looks different now.
+    /// Repaints what the widget paints itself.
     virtual void LookChanged() { mWidget.update(); }
 
 private:

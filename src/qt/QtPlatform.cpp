@@ -47,8 +47,8 @@ void QtPlatform::PumpEvents(Pump pump) {
 }
 
 // Even if nothing is waiting, Qt's pump asks the kernel, which takes fifty times as long as the
-// puzzle logic works between two pumps. So half a millisecond passes between two real ones. A look
-// at the clock takes long enough, too: every eighth pump looks.
+// puzzle logic works between two pumps. So real pumps are at least half a millisecond apart.
+// Reading the clock is slow, too: only every eighth call does.
 bool QtPlatform::IsPumpDue() {
     constexpr qint64 Nanoseconds = 500'000;
     constexpr unsigned PumpsPerLook = 8;
@@ -141,8 +141,8 @@ int QtPlatform::RunModal(QDialog& dialog) {
     return dialog.exec();
 }
 
-// Qt keeps a stack of pointers: setting one twice would need restoring twice. While a dialog is
-// open the program waits for the user, so that the hourglass would be wrong.
+// Qt keeps a stack of pointers: one that is set twice would have to be restored twice. While a
+// dialog is open the program waits for the user, so the hourglass would be wrong.
 void QtPlatform::ApplyPointer() {
     const bool hourglass = mbHourglass && mlOpenDialogs == 0;
     if (hourglass == mbHourglassShown) return;

@@ -11,8 +11,8 @@ namespace tessarin::qt {
 
 class QtForm;
 
-/// The machine as Qt 6 Widgets shows it, with one form at a time. Needs a QApplication and is the
-/// current Platform while it lives.
+/// The platform on Qt 6 Widgets, with one form at a time. Needs a QApplication and is the current
+/// Platform while it lives.
 class QtPlatform : public Platform {
 public:
     /// Gives the application the same look on every desktop. `version` is the program's record.
@@ -45,7 +45,7 @@ public:
     void Close();
     bool Closed() const { return mbClosed; }
 
-    /// No timer ticks now; a tick that is due waits.
+    /// Whether timers must not tick now. A tick that is due waits.
     bool TicksHeld() const { return mbTicksHeld; }
 
     /// Runs a modal dialog with the normal mouse pointer. Returns the dialog's result.
@@ -63,7 +63,7 @@ private:
     QtForm* mForm = nullptr;
     bool mbClosed = false;
     bool mbTicksHeld = false;
-    QElapsedTimer mSincePump; // since the last real pump; invalid when the next one has to be real
+    QElapsedTimer mSincePump; // since the last real pump; invalid: the next one must be real
     unsigned mlPumpsAsked = 0;
     bool mbHourglass = false; // the pointer that SetMousePointer has asked for
     bool mbHourglassShown = false;

@@ -19,10 +19,10 @@ void QtTimerPeer::Changed(Property /*property*/) {
 }
 
 // A QTimer does not fire again before its handler has returned. But a tick pumps window events, and
-// a whole command may run in them: the rotor would stand still until that command ends. So the
-// timer is started anew before the tick is handled, and ticks nest.
+// a whole command may run in them: the rotor would stand still until that command ends. Restarting
+// the timer before the tick is handled makes it fire all the same, so ticks nest.
 void QtTimerPeer::Tick() {
-    if (mPlatform.TicksHeld()) return mTimer.start(0); // try again as soon as events are handled
+    if (mPlatform.TicksHeld()) return mTimer.start(0); // try again with the next events
     mTimer.start(mControl.Interval());
     mControl.RaiseTick();
 }

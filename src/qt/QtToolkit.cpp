@@ -49,7 +49,7 @@ private:
     QtForm& mForm;
 };
 
-// It answers over its whole rectangle, not only where circle and text are.
+// Can be clicked in its whole rectangle, not only on circle and text.
 class RadioButton : public QRadioButton {
 public:
     using QRadioButton::QRadioButton;
@@ -64,7 +64,7 @@ public:
     ButtonPeer(Control& control, QtForm& form, QWidget& parent)
         : Holder<Button>(&parent), QtPeer(control, this->Own, form), mControl(control) {
         ButtonPeer::SetCaption();
-        // "clicked" comes for every click of the user, also on an option that is selected already.
+        // "clicked" is emitted for every click, even on an option that is selected already.
         QObject::connect(&this->Own, &QAbstractButton::clicked,
                          [&control] { control.RaiseClick(); });
     }

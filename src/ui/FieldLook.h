@@ -8,10 +8,10 @@
 
 namespace tessarin {
 
-/// The font of a value, and of a label that shows no field yet.
+/// The font of values, and of the labels before they show a field.
 inline const FontStyle FieldFont{.Name = "Arial Black", .Size = 20};
 
-/// What the window knows of a field that it paints.
+/// What the look of a field depends on.
 struct FieldState {
     int Row = 0;
     int Column = 0;
@@ -30,18 +30,17 @@ struct FieldLook {
     bool operator==(const FieldLook&) const = default;
 };
 
-/// A field with its value: the colour of a mark wins over that of a dead field, and both win over
-/// the cursor's.
+/// The look of a field with its value. The colour of a mark wins over that of a dead field, and
+/// both win over the cursor's.
 FieldLook LookOf(const FieldState& field);
 
-/// What a screen reader says of the field: "row 2, column 3: 5, locked, current", with everything
-/// that the colours tell.
+/// What a screen reader says of the field, with everything that the colours tell: "row 2, column 3:
+/// 5, locked, current".
 std::string SpokenName(const FieldState& field);
 
-/// An empty field with the number of its free values.
+/// The look of an empty field that shows how many values are free for it.
 FieldLook LookOfFreedom(int freedom);
 
-/// Gives `label` the look.
 void Apply(const FieldLook& look, Control& label);
 
 } // namespace tessarin

@@ -1,4 +1,4 @@
-// The window's controls as designed, and its life cycle.
+// The design of the window's controls, and its life cycle.
 #include "ui/frmTessarin.h"
 
 #include "support/modKbd.h"
@@ -8,7 +8,7 @@ namespace tessarin {
 
 namespace {
 
-// The fields reach down to 6120 twips, and a rim stays free below them.
+// The fields reach down to 6120 twips; the rest is a rim below them.
 constexpr float SpaceForGrid = 6150;
 // Thirteen lines of this size fit into the information panel.
 const FontStyle PlainFont{.Size = 7.5F};
@@ -96,8 +96,9 @@ void frmTessarin::Form_Activate() {
 
 void frmTessarin::Form_Unload(bool& cancel) {
     cancel = Solving;
-    // The solve of a step may still be running: it has ended Solving and asked for its own cancel,
-    // but choosing a pace clears that, and then the solve would go on behind the closed window.
+    // At the pace Step a solve may still run although Solving is false: it has requested its own
+    // cancel. Choosing another pace clears that request, and then the solve would go on behind the
+    // closed window.
     if (!cancel) SetCancel();
 }
 

@@ -19,11 +19,11 @@ class Field;
 
 /// The window: 81 field labels, the number pad, the action panel, the menus and the side column
 /// with the field's data and the pace of the automatic solve. It owns the game, calls its player
-/// and grid, and repaints what their events tell of; it keeps no puzzle state of its own.
+/// and grid, and repaints fields on their events; it keeps no puzzle state of its own.
 ///
 /// Commands pump window events while they work, so any of them may run inside another one. Two
-/// guards limit that: Solving keeps the window open, while the panels are disabled; ViewRunning
-/// disables the menus and the clicks on fields.
+/// guards limit that: during a solve the panels are disabled, and Solving keeps the window open;
+/// while a view is shown, ViewRunning disables the menus and the clicks on fields.
 ///
 /// Sizes and positions are in twips; field indices count from 1.
 class frmTessarin : public Form {
@@ -38,19 +38,19 @@ public:
     // Display.
 
     /// Paints a field (0 or less: the current one) in its present state and shows its data in the
-    /// information panel. A mark draws it yellow. While a solve runs with a pause, waits that long
-    /// afterwards. Ignores a field that the window has no label for.
+    /// information panel. A mark makes it yellow. During a solve, waits for the pause that is
+    /// chosen. Ignores a field that has no label.
     void PaintField(int index, bool neighbourMark = false, bool groupMark = false);
     /// Shows the number of free values in every empty field.
     void PaintFreedoms();
-    /// Makes the number pad follow the current field; without one it stays as it is.
+    /// Updates the number pad for the current field; without one it stays unchanged.
     void RefreshNumPad();
     /// Paints everything, after putting the cursor on field 1 if there is none.
     void RefreshAll();
-    /// While a view is shown, all menus but the last one are disabled.
+    /// While a view is shown, all menus but the last are disabled.
     void SetViewRunning(bool running);
     bool ViewRunning() const { return mbViewRunning; }
-    /// The side column is shown; the window is wider for it.
+    /// Shows or hides the side column, for which the window gets wider.
     void SetInfoVisible(bool visible);
     bool InfoVisible() const { return mbInfoVisible; }
 
@@ -108,10 +108,10 @@ private:
 
     FieldState StateOf(const Field& field, int deadField) const;
     void ShowState(int index, const FieldState& state);
-    // The field is painted as the current one; another one that was before is so no longer.
+    // To be called when a field was painted as the current one: repaints the one before.
     void MoveCurrent(int index, int deadField);
     std::string InfoText(const Field& field, const FieldState& state) const;
-    // Shows whether the dead-end or the winner indicator is lit.
+    // Sets the dead-end or the winner indicator.
     static void Light(Label& indicator, Color color);
     // The labels of the fields that were dead at the last count.
     std::vector<Label*> DeadLabels();
@@ -141,19 +141,19 @@ private:
     void btnNumPad_Click(int Index);
     void optChill_Click(int Index);
 
-    // What the game tells.
+    // Events of the game.
     void moGame_BeforeIndexChanged(int Index);
     void moGame_IndexChanged(int Index);
     void moGame_StatusChanged(int Index);
     void moGame_IsWinner(int Index);
     void moGame_IsDeadEnd(int Index);
 
-    // Shows that a solve runs: the rotor turns and the panels are disabled, until it dies.
+    // While it lives, the rotor turns and the panels are disabled.
     class BusyPanels;
-    // Sets ViewRunning until it dies.
+    // Sets ViewRunning while it lives.
     class RunningView;
 
-    // Values of ChillDelay that are no pause.
+    // The values of ChillDelay that are not pauses.
     static constexpr int Quiet = -1;
     static constexpr int Step = -2;
 
@@ -162,7 +162,7 @@ private:
     bool Solving = false;
     int ChillDelay = 0;     // Quiet, Step, or the pause in milliseconds after each painted field
     int PreviousIndex = 0;  // the index of the last BeforeIndexChanged
-    int PaintedCurrent = 0; // the field whose label looks like the current one's; 0 for none
+    int PaintedCurrent = 0; // the field that is painted as the current one; 0 for none
     bool mbViewRunning = false;
     bool mbInfoVisible = false;
 };

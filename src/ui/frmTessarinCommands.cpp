@@ -1,4 +1,4 @@
-// What the menus, buttons, keys and options do, and what follows from the game's events.
+// The handlers of menus, buttons and options, and those of the game's events.
 #include "support/modKbd.h"
 #include "toolkit/ScopedValue.h"
 #include "ui/Colors.h"
@@ -13,7 +13,7 @@ namespace tessarin {
 
 namespace {
 
-// A step of an import or export, which go on after an error and do not report it.
+// Runs a step of an import or export. An error is not reported, and the next step follows.
 void Attempt(const std::function<void()>& step) {
     try {
         step();

@@ -9,8 +9,8 @@ namespace tessarin {
 
 void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
     Fields& grid = *moGame->Fields;
-    // This may count the status and pump events meanwhile; everything else is read after it, so
-    // that what is painted is what the field is now.
+    // May count the status and pump events: everything else is read after it, so that the field is
+    // painted as it is now.
     const int deadField = grid.DeadField();
     const int idx = index > 0 ? index : grid.Index();
     if (!grid.Items.Has(idx) || !lblField.Has(idx)) return;
@@ -23,7 +23,7 @@ void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
         MoveCurrent(idx, deadField);
     else if (idx == PaintedCurrent)
         PaintedCurrent = 0;
-    // What the wait handles may change the pace or end the solve.
+    // Commands that run in the wait may change the pace or end the solve.
     const auto pause = [this] { return Solving ? ChillDelay : 0; };
     if (pause() > 0) Wait(pause);
 }
@@ -44,8 +44,8 @@ void frmTessarin::ShowState(int index, const FieldState& state) {
     lblField(index).SetAccessibleName(SpokenName(state));
 }
 
-// A click that comes in the middle of another move of the cursor paints its field after that move
-// has begun, and nobody paints it again when the move ends elsewhere.
+// A click may move the cursor in the middle of another move, and paint its field as the current
+// one. The outer move then ends on its own field and would leave the field of the click green.
 void frmTessarin::MoveCurrent(int index, int deadField) {
     const int before = std::exchange(PaintedCurrent, index);
     if (before != index && moGame->Fields->Items.Has(before))
@@ -88,7 +88,7 @@ void frmTessarin::PaintFreedoms() {
         }
 }
 
-// Each key gets its final state once: hiding and showing keys is what costs.
+// Sets the final state of each key directly: hiding and showing keys is slow.
 void frmTessarin::RefreshNumPad() {
     const auto cursor = moGame->Fields->Cursor;
     if (!cursor) return;

@@ -1,4 +1,4 @@
-// Where everything lies, for the dimension that the grid has at start-up.
+// The layout of the window, for the dimension that the grid has at start-up.
 #include "ui/Colors.h"
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"
@@ -11,7 +11,7 @@ constexpr int FieldSide = 600;
 constexpr int BoxGap = FieldSide / 4;
 constexpr int PadPitch = FieldSide + BoxGap;
 
-// Where the row or column `position` (from 1) begins: the boxes are a gap apart.
+// The start of the row or column `position` (from 1), with gaps between the boxes.
 int GridOffset(int position, int dimension) {
     return position * FieldSide + ((position - 1) / dimension - 2) * FieldSide / 4;
 }
@@ -60,7 +60,7 @@ void frmTessarin::CreateFieldLabels() {
     lblFile.SetLeft(lblField(1).Left());
 }
 
-// Three by three digits and a fourth row, whatever the dimension.
+// Three rows of three digits and a fourth row, whatever the dimension.
 void frmTessarin::CreateNumPad() {
     const FontStyle font{.Name = "Arial", .Size = 20};
     const Label& lastOfRow = lblField(moGame->Fields->Numbers());
@@ -100,7 +100,7 @@ void frmTessarin::CreateNumPad() {
     clear.SetTop(zero.Top());
 }
 
-// Below the number pad, on the same grid, down to the bottom of the fields.
+// Below the number pad, with the same places for buttons, down to the bottom of the fields.
 void frmTessarin::ArrangeActionPanel() {
     const Label& last = lblField(moGame->Fields->Count());
     MakePanel(fraAction);

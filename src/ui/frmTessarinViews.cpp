@@ -34,7 +34,7 @@ std::vector<Label*> frmTessarin::DeadLabels() {
     return labels;
 }
 
-// Sets nothing but backgrounds: the fields keep the normal one until they are painted again.
+// Sets only backgrounds: the fields keep the normal one until they are painted again.
 void frmTessarin::lblDeadEnd_Click() {
     const RunningView view(*this);
     for (Label* const label : DeadLabels())
@@ -57,7 +57,7 @@ void frmTessarin::mnuViewNeighbours_Click() {
 
 void frmTessarin::mnuViewGroups_Click() {
     const RunningView view(*this);
-    const auto groups = moGame->Groups->Items; // an import in between replaces them
+    const auto groups = moGame->Groups->Items; // an import meanwhile replaces them
     for (const auto& group : groups) {
         for (const int index : group->Fields)
             PaintField(index, false, true);

@@ -8,16 +8,16 @@
 
 namespace tessarin {
 
-/// A turning rotor that shows that the program is busy: twelve pictures lie on top of each other,
-/// each turned 10 degrees counterclockwise from the one before, and a timer makes one visible at a
-/// time. While the rotor runs, the mouse pointer is the hourglass. The control always has the size
+/// A turning rotor that shows that the program is busy. Twelve pictures lie on top of each other,
+/// each turned 10 degrees counterclockwise from the one before; a timer shows one after the other.
+/// While the rotor runs, the mouse pointer is the hourglass. The control always has the size
 /// of one picture, 480 by 480 twips.
 class ctlRotor : public UserControl {
 public:
     ctlRotor(Control& container, Design design);
 
-    /// True starts the rotor, a running one from the beginning; the next tick shows a picture.
-    /// False stops it and hides all pictures.
+    /// True starts or restarts the rotor, which shows a picture from the next tick on. False stops
+    /// it and hides all pictures.
     void SetRunning(bool SetRunning);
     bool Running() const { return FrameIndex >= 0; }
 
