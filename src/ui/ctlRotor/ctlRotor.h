@@ -10,8 +10,8 @@ namespace tessarin {
 
 /// A turning rotor that shows that the program is busy. Twelve pictures lie on top of each other,
 /// each turned 10 degrees counterclockwise from the one before; a timer shows one after the other.
-/// While the rotor runs, the mouse pointer is the hourglass. The control always has the size
-/// of one picture, 480 by 480 twips.
+/// While the rotor runs, the mouse pointer is the hourglass. The control always has the size of one
+/// picture, 480 by 480 twips.
 class ctlRotor : public UserControl {
 public:
     ctlRotor(Control& container, Design design);
