@@ -1,5 +1,5 @@
-// What the puzzle logic costs without a window, beside the least it could cost. The name of each
-// case says which grid: compare the cases of one run with each other.
+// The cost of the puzzle logic without a window, and a yardstick for it. The names of the cases say
+// which grid they use. Compare only cases of one run.
 #include "Yardstick.h"
 
 #include "play/Game.h"
@@ -32,7 +32,7 @@ void Prepare(Fields& grid, benchmark::State& state) {
     if (state.range(1) == HalfFull) FillHalf(grid);
 }
 
-// A change of a lock makes the status dirty and changes no number that the pass depends on.
+// Reports a lock that has not changed: the status is dirty, the grid as before.
 void StatusPass(benchmark::State& state) {
     Game game;
     Fields& grid = *game.Fields;
@@ -90,7 +90,7 @@ void SolvePuzzle(benchmark::State& state, const char* name) {
 BENCHMARK_CAPTURE(SolvePuzzle, easy, "easy-1");
 BENCHMARK_CAPTURE(SolvePuzzle, hard, "hard-1");
 
-// An empty grid of any dimension fills up without a dead end for a while; so many moves are timed.
+// Times the first moves in an empty grid, which lead to no dead end in any dimension.
 void SolveMoves(benchmark::State& state) {
     Game game;
     int moves = 0;

@@ -9,7 +9,7 @@
 
 namespace tessarin {
 
-/// Makes random puzzles with one solution that lose it with any of their values.
+/// Makes random puzzles with one solution, for which every one of their values is needed.
 class MinimalPuzzles {
 public:
     explicit MinimalPuzzles(unsigned seed) : mRandom(seed) {}

@@ -1,4 +1,4 @@
-// What the real window costs on Qt's offscreen platform, from the click to the repainted grid, and
+// The cost of the real window on Qt's offscreen platform: from a click to the repainted grid, and
 // from the start of a process to its first painted window.
 #include "MinimalPuzzles.h"
 
@@ -52,7 +52,7 @@ struct Window {
     }
 };
 
-// By option of the side column: 0 is quiet, 1 paints every move without a pause.
+// `option` is the index in optChill: 0 is quiet, 1 paints every move without a pause.
 void SolveFromClick(benchmark::State& state, const char* puzzle, int option) {
     Window window;
     window.Form.optChill(option).Select();
@@ -86,7 +86,7 @@ double MillisecondsSince(std::chrono::steady_clock::time_point start) {
     return time.count();
 }
 
-// Quiet solves of a thousand random puzzles from click to repainted grid; hardest_ms is the
+// Quiet solves of a thousand random puzzles, from click to repainted grid. hardest_ms is the
 // longest.
 void SolveMinimalPuzzles(benchmark::State& state) {
     Window window;
@@ -113,8 +113,8 @@ void SolveMinimalPuzzles(benchmark::State& state) {
 }
 BENCHMARK(SolveMinimalPuzzles)->Unit(benchmark::kMillisecond)->Iterations(1);
 
-// Another thread clicks on fields every millisecond while puzzles are solved quietly. How late the
-// clicks are answered: latest_ms at worst, mean_ms on average.
+// Another thread clicks on a field every millisecond during quiet solves. The delays of the
+// answers: latest_ms is the longest, mean_ms the average.
 void ClicksWhileSolving(benchmark::State& state) {
     Window window;
     window.Form.optChill(0).Select();
@@ -160,7 +160,7 @@ void ClicksWhileSolving(benchmark::State& state) {
 }
 BENCHMARK(ClicksWhileSolving)->Unit(benchmark::kMillisecond);
 
-// One field painted and brought to the screen; its value changes, or nothing does.
+// Paints one field and brings it to the screen. Its mark changes each time, or nothing does.
 void PaintOneField(benchmark::State& state, bool changing) {
     Window window;
     int mark = 0;
@@ -197,7 +197,7 @@ class UntilFirstPaint : public QObject {
     }
 };
 
-// The same controls with the same texts and fonts, made of Qt's widgets alone.
+// Much the same controls, texts and fonts as in the program's window, made of Qt's widgets alone.
 class BareWindow : public QWidget {
 public:
     BareWindow() {
@@ -243,7 +243,7 @@ private:
     QMenuBar mMenuBar{this};
 };
 
-// Shows the program's window or a bare one until it has been painted.
+// Shows the program's window or a bare one until it is painted.
 int ShowOnce(bool bare) {
     UntilFirstPaint filter;
     qApp->installEventFilter(&filter);
@@ -259,7 +259,7 @@ int ShowOnce(bool bare) {
     return QApplication::exec();
 }
 
-// The whole life of a process that ends with its first painted window.
+// The run time of a process that ends when its window is first painted.
 void FirstPaint(benchmark::State& state, const char* which) {
     for (auto _ : state) {
         const auto start = std::chrono::steady_clock::now();

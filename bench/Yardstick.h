@@ -6,14 +6,14 @@
 
 namespace tessarin {
 
-/// What one pass over a grid of 81 fields finds.
+/// The result of one pass over a grid of 81 fields.
 struct Yardstick {
     int Free = 0, Set = 0, Locked = 0;
     int NextFreeField = 0, DeadField = 0, DeadCount = 0;
 };
 
-/// The least that a status pass can cost: the same counts from a flat array of values, in which bit
-/// 8 marks a locked field, with one mask of taken values for each row, column and box.
+/// A minimal status pass: the same counts from a flat array of values, in which bit 8 marks a
+/// locked field, with one mask of taken values for each row, column and box.
 [[gnu::noinline]] inline Yardstick CountFlat(const std::array<int, 81>& fields) {
     std::array<unsigned, 9> rows{};
     std::array<unsigned, 9> columns{};

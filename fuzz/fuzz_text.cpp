@@ -1,5 +1,5 @@
-// Loads any text into a grid in both formats. Only the errors of a bad text may come out, the
-// status can be read afterwards, and what is then written loads again into the same grid.
+// Loads any text into a grid in both formats. It may throw only the errors of a bad text.
+// Afterwards the status can be read, and the text that the grid writes loads into the same grid.
 #include "model/Errors.h"
 #include "play/Game.h"
 

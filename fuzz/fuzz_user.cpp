@@ -1,8 +1,8 @@
-// Works the window as the input says: each byte is what the user does next, or a number for it.
+// Works the window with a random user who takes every choice from a byte of the input.
 #include "RandomUser.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    constexpr std::size_t MaxBytes = 100; // more of them are slow and show nothing new
+    constexpr std::size_t MaxBytes = 100; // longer inputs are slow and find nothing new
     GTEST_FLAG_SET(break_on_failure, true);
     if (size == 0) return 0;
     size = std::min(size, MaxBytes);

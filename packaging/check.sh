@@ -1,8 +1,8 @@
 #!/bin/sh
-# Checks what gets installed and packaged, from a build folder that is built already.
+# Checks what is installed and packaged from a finished build.
 # Usage: check.sh install|start|desktop|metainfo|manual|package|lintian BUILD-FOLDER
-# Expects what the project says of itself in ID, VERSION, SUMMARY, HOMEPAGE and VENDOR. Ends with 0
-# when all is well, 77 when a tool is missing, else with 1.
+# Needs the project's data in ID, VERSION, SUMMARY, HOMEPAGE and VENDOR. Exit status: 0 passed, 77 a
+# tool is missing, 1 failed.
 set -eu
 export LC_ALL=C.UTF-8
 
@@ -21,11 +21,11 @@ fail() {
 
 need() {
     for tool; do
-        command -v "$tool" >/dev/null || { echo "SKIPPED: $tool is not at hand"; exit 77; }
+        command -v "$tool" >/dev/null || { echo "SKIPPED: $tool is not installed"; exit 77; }
     done
 }
 
-# Runs a command that has to succeed without a word.
+# Runs a command that must succeed without output.
 silent() {
     output=$("$@" 2>&1) || fail "$* ended with $?: $output"
     [ -z "$output" ] || fail "$* said: $output"
@@ -46,8 +46,8 @@ promised() {
     done
 }
 
-# compare_with_promise <folder> <file...>: the regular files below the folder are the promised ones
-# and the given ones, no more and no less, with their modes.
+# compare_with_promise <folder> <file...>: the folder must hold exactly the promised files and the
+# given ones, with the right modes.
 compare_with_promise() {
     { promised; printf '%s\n' "$@" | sed 1d; } |
         sed 's/$/ 644/; s/^\(usr\/bin\/.*\) 644$/\1 755/' | sort >"$scratch/promised"
@@ -79,7 +79,7 @@ check_install() {
     done
 }
 
-# The program, away from its build folder, waits for its user and has nothing to complain about.
+# The installed program must keep running and print nothing.
 check_start() {
     need timeout
     installed
@@ -88,7 +88,7 @@ check_start() {
     HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/home QT_QPA_PLATFORM=offscreen \
         timeout 2 "$root/usr/bin/Tessarin" >"$scratch/log" 2>&1 || ended=$?
     [ $ended -eq 124 ] || { cat "$scratch/log"; fail "the program ended by itself with $ended"; }
-    # The offscreen platform remarks on itself that it knows no size hints.
+    # Qt's offscreen platform prints one remark about itself.
     if grep -Fvx 'This plugin does not support propagateSizeHints()' "$scratch/log"; then
         fail "the program complained"
     fi
@@ -107,7 +107,7 @@ check_desktop() {
     [ -f "$root/usr/share/icons/hicolor/48x48/apps/$icon.png" ] || fail "no icon $icon"
 }
 
-# As strict as it gets, but for one hint: the validator does not know the domain ".example".
+# Allows only one hint: the validator does not know the domain ".example".
 check_metainfo() {
     need appstreamcli
     installed
@@ -153,7 +153,7 @@ check_package() {
 check_lintian() {
     need lintian
     packaged
-    # Superusers are asked to say so; everybody else need not.
+    # As root lintian needs --allow-root; for other users it changes nothing.
     lintian --allow-root --info --fail-on error,warning "$deb" || fail "lintian"
 }
 

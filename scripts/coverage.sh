@@ -1,6 +1,6 @@
 #!/bin/bash
-# The tests under AddressSanitizer and UndefinedBehaviorSanitizer, and which lines of src/ they
-# reach: a table of all files with the lines left out, and the sum.
+# Runs the tests under AddressSanitizer and UndefinedBehaviorSanitizer. Then lists the lines of src/
+# that they do not reach, by file, and the sums.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"

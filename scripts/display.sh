@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# A virtual X display for a program that is to be shown or driven without a screen. Whatever is
-# started with start_process ends with the script, however that ends.
+# A virtual X display, to show or drive a program without a screen. Every process started with
+# start_process ends with the script, however the script ends.
 
 scratch=$(mktemp -d "${TMPDIR:-/tmp}/tessarin.XXXXXX")
 started=()
@@ -22,7 +22,7 @@ trap end_started EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM HUP
 
-# wait_until <seconds> <what is waited for> <command...>: until the command succeeds.
+# wait_until <seconds> <name> <command...>: waits until the command succeeds; fails with "no <name>".
 wait_until() {
     local end=$((SECONDS + $1)) what=$2
     shift 2
@@ -32,7 +32,7 @@ wait_until() {
     done
 }
 
-# start_display <width>x<height>: an X server on a free number with a small window manager.
+# start_display <width>x<height>: starts an X server on a free number and a small window manager.
 start_display() {
     # shellcheck disable=SC2154 # lib.sh has been sourced before
     need "${display_packages[@]}"
@@ -43,7 +43,7 @@ start_display() {
     export DISPLAY
     unset WAYLAND_DISPLAY
     export XDG_RUNTIME_DIR=$scratch
-    export DBUS_SESSION_BUS_ADDRESS=disabled: # nobody has logged in here
+    export DBUS_SESSION_BUS_ADDRESS=disabled: # there is no session
     cat >"$scratch/jwmrc" <<'END'
 <JWM>
   <Desktops width="1"><Background type="solid">#5a6472</Background></Desktops>

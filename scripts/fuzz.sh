@@ -1,6 +1,6 @@
 #!/bin/bash
-# Fuzzes the puzzle files and the player: fuzz.sh [seconds for each target]
-# An input that fails stays in build/fuzz/found.
+# Fuzzes the puzzle formats and the window: fuzz.sh [seconds for each target]
+# Saves inputs that fail in build/fuzz/found.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"

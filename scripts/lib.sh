@@ -1,16 +1,16 @@
 # shellcheck shell=bash
-# shellcheck disable=SC2034 # the lists of packages are for the scripts that source this
+# shellcheck disable=SC2034 # the scripts that source this use the lists of packages
 
-# What the scripts share. Sourcing it makes the project's folder the current one.
+# Shared by the scripts. Sourcing it changes to the project's folder.
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 
 build_packages=(g++ cmake ninja-build)
 window_packages=(qt6-base-dev)
 test_packages=(libgtest-dev)
-# What the checks of the installation and the Debian package use.
+# For the checks of the installation and the Debian package.
 packaging_packages=(desktop-file-utils appstream man-db dpkg-dev file lintian)
-# An X server for programs that are to be shown without a screen, with a small window manager.
+# An X server that needs no screen, and a small window manager.
 display_packages=(xvfb jwm)
 
 fail() {
@@ -30,7 +30,7 @@ as_root() {
 
 # Installs those of the given Debian packages that are missing.
 need() {
-    command -v apt-get >/dev/null || return 0 # another system: the tools must be there already
+    command -v apt-get >/dev/null || return 0 # not Debian: the tools must be there
     local package missing=()
     for package in "$@"; do
         dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
@@ -51,7 +51,7 @@ configure_and_build() {
     cmake --build "$folder" --parallel "$(nproc)"
 }
 
-# run_tests <folder under build/> [ctest options...]: on the Qt platform $test_platform.
+# run_tests <folder under build/> [ctest options...]: runs them on the Qt platform $test_platform.
 test_platform=offscreen
 run_tests() {
     local folder=build/$1

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Builds the Debian package and says where it is.
+# Builds the Debian package and prints its path.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"

@@ -1,6 +1,6 @@
 #!/bin/bash
-# Builds the program and opens its window. On a machine without a display the window opens on a
-# virtual one that a VNC viewer can reach, and everything ends with the window.
+# Builds the program and opens its window. Without a display the window opens on a virtual one, which
+# a VNC viewer can show; closing the window ends everything.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"
@@ -29,16 +29,16 @@ wait_until 20 "VNC server" grep -qs PORT= "$scratch/port"
 port=$(sed -n 's/.*PORT=//p' "$scratch/port")
 cat <<END
 
-The window is on the virtual display $DISPLAY. To see it, open with a VNC viewer
+The window is on the virtual display $DISPLAY. To see it, open this address in a VNC viewer:
 
     localhost:$port
 
-or, from another machine, first open a tunnel to this one and leave it open
+On another machine, first open a tunnel to this one and keep it open:
 
     ssh -L $port:localhost:$port ${USER:-$(id -un)}@$(uname -n)
 
-and then open the same address there. Only this machine itself can reach the port, and there is no
-password. Closing the window or pressing Ctrl-C here ends everything that was started.
+Then open the same address there. The port can be reached only from this machine and has no password.
+Closing the window, or Ctrl-C here, ends everything that was started.
 
 END
 start_process "$program"

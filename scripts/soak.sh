@@ -1,6 +1,6 @@
 #!/bin/bash
-# A long run of a random user under the sanitizers: soak.sh [walks]
-# Each walk (300) makes 1400 steps, half of them in the middle of other ones.
+# A long run of random users under the sanitizers: soak.sh [walks, 300 by default]
+# Each walk makes 1400 steps; in the second half more steps start inside of others.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"

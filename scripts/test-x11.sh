@@ -1,7 +1,6 @@
 #!/bin/bash
-# Runs the tests of the real window on an X server with a window manager, both started for them, and
-# one with a screen reader's ears:
-# test-x11.sh [folder under build/ [ctest options...]]
+# Starts an X server and a window manager, and runs the tests of the real window on them, then a test
+# of what a screen reader hears: test-x11.sh [folder under build/ [ctest options...]]
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"

@@ -1,6 +1,5 @@
 #!/bin/bash
-# Walks through the real program with mouse and keys on a virtual display and leaves a picture of
-# every station in build/tour/.
+# Drives the real program with mouse and keys on a virtual display and saves pictures in build/tour/.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"
@@ -20,21 +19,22 @@ rotor=(707 357)
 pace_0=(616 284)
 pace_100=(616 308)
 
-# pixel <x> <y>: its colour, for a point of the window below the menu bar.
+# pixel <x> <y>: prints the colour at a point of the window below the menu bar.
 pixel() {
     import -window "$main" -crop "1x1+$1+$(($2 + menu_height))" -depth 8 rgb:- |
         od -An -tx1 | tr -d ' \n' | tr a-f A-F
 }
 has_color() { [[ $(pixel "$1" "$2") == "$3" ]]; }
 
-# While a puzzle is being solved the rotor turns, and the indicators may come and go.
+# A solve is over when the rotor has stopped. Before that an indicator may go out again.
 solved_to() { has_color "$@" && ! has_color "${rotor[@]}" $steel; }
 
 click() {
     xdotool mousemove --sync --window "$main" "$1" "$(($2 + menu_height))" click 1
 }
 
-# choose <menu from the left> <entry, separators left out>: by keyboard, whatever the fonts.
+# choose <menu> <entry>: counts menus from the left, entries without separators. Uses the keyboard,
+# because places depend on fonts.
 choose() {
     local keys=(Alt_L) i
     for ((i = 1; i < $1; ++i)); do keys+=(Right); done
@@ -42,7 +42,7 @@ choose() {
     xdotool key --delay 30 "${keys[@]}" Return
 }
 
-# The visible window of the given title besides the main one.
+# Sets box to the visible window with the given title that is not the main one.
 find_box() {
     box=$(xdotool search --onlyvisible --name "^$1\$" | grep -vxF "${main:-none}" | head -n 1) &&
         [[ $box ]]
@@ -54,9 +54,9 @@ answer_box() {
     wait_until 10 "end of window \"$1\"" box_gone "$1"
 }
 
-# take <name>: everything on the screen, without the empty desktop around it.
+# take <name>: saves a picture of the screen without the empty desktop around the windows.
 take() {
-    sleep 0.3 # the last change is painted
+    sleep 0.3 # until the last change is painted
     import -window root png:- | convert - -trim +repage "build/tour/$1.png"
     echo "build/tour/$1.png"
 }
