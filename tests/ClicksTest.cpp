@@ -8,8 +8,8 @@ namespace tessarin {
 
 using ClicksTest = WindowFixture;
 
-// Every pump brings another click, far more than the stack could hold nested in one another.
-TEST_F(ClicksTest, FloodDuringASolveIsAnsweredToTheLastClick) {
+// Every pump brings another click: far more than the stack could hold if they nested.
+TEST_F(ClicksTest, EveryClickOfAFloodDuringASolveIsAnswered) {
     constexpr int Clicks = 20'000;
     constexpr std::uintptr_t StackBytes = 1 << 20;
     std::vector<int> answered;
@@ -38,7 +38,7 @@ TEST_F(ClicksTest, FloodDuringASolveIsAnsweredToTheLastClick) {
     Script("click lblField(40) & cursor > 40");
 }
 
-TEST_F(ClicksTest, PastTheBoundTheyAreJudgedWhenTheirTurnComes) {
+TEST_F(ClicksTest, QueuedClicksAreCheckedWhenTheirTurnComes) {
     int clicks = 0, depth = 0;
     platform.ErrorsExpected = true;
     window.btnInfo.Click = [&] {
@@ -46,7 +46,7 @@ TEST_F(ClicksTest, PastTheBoundTheyAreJudgedWhenTheirTurnComes) {
         throw std::out_of_range("a command that fails");
     };
     for (const bool closes : {false, true}) {
-        window.lblWinner.Click = [&] { // until no further click is let in
+        window.lblWinner.Click = [&] { // nests until the gate queues clicks
             if (++depth < 16) return window.lblWinner.RaiseClick();
             for (int i = 0; i < 4; ++i)
                 window.btnInfo.RaiseClick();

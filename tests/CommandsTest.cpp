@@ -1,4 +1,4 @@
-// Every command through the control that the user has for it.
+// Every command, through the control that starts it.
 #include "WindowScript.h"
 
 #include "support/modKbd.h"

@@ -7,7 +7,7 @@ using DisplayTest = WindowFixture;
 
 TEST_F(DisplayTest, MarkWinsOverDeadAndDeadOverCursor) {
     Do("fill .12345678.9");
-    // C: the cursor is on it, L: it is locked, N, G: it is marked as neighbour or group member.
+    // C: cursor, L: locked, N: marked as a neighbour, G: marked as a member of a group.
     using Row = std::tuple<int, std::string, const char*>;
     for (const auto& [index, state, look] :
          {Row{1, "", ":red/text"}, Row{1, "C", ":red/text"}, Row{1, "L", ":red/red"},
@@ -48,7 +48,7 @@ TEST_F(DisplayTest, InfoPanelDescribesTheFieldPaintedLast) {
 }
 
 TEST_F(DisplayTest, NumberPadFollowsTheCurrentField) {
-    const std::string before(36, '.'); // row 5, with the current field in its middle
+    const std::string before(36, '.'); // the values go into row 5, around the current field
     Script("index 41 & pad > 0123456789XC 0123456789C normal");
     Do("fill " + before + "1346.78");
     Script("pad > 0259XC 0123456789C normal & lock 41 1 & pad > 0259XC X red & lock 41 0");
@@ -82,12 +82,12 @@ TEST_F(DisplayTest, ScreenReadersHearWhatTheColoursTell) {
 }
 
 TEST_F(DisplayTest, AtMostOneFieldIsGreen) {
-    Do("set 60 7"); // a click in the middle of another cursor move paints its field as the current
+    Do("set 60 7"); // a click in the middle of a cursor move paints its field as current
     platform.AtPump(1, [&] { Click("lblField(60)"); });
     Script("index 50 & cursor > 50 & fields 50 60 > :green/text 7:normal/text");
 }
 
-TEST_F(DisplayTest, FieldsOfALargerGridAreLeftOut) {
+TEST_F(DisplayTest, FieldsWithoutALabelAreNotPainted) {
     grid.Init(5);
     window.RefreshAll();
     Script("index 625 & set 625 25 & set 81 24 & fields 81 > 24:normal/text");

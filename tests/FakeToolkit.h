@@ -13,11 +13,11 @@
 
 namespace tessarin {
 
-/// A window toolkit that shows nothing. Its peers do nothing; it finds the controls by their names.
+/// A window toolkit that shows nothing. Its peers do nothing; Find looks controls up by name.
 class FakeToolkit : public Toolkit {
 public:
-    std::deque<std::string> Files;          ///< chosen in the next file dialogs; none: cancelled
-    std::vector<FileDialogRequest> Dialogs; ///< those shown so far
+    std::deque<std::string> Files; ///< the next file dialogs choose these, then they are cancelled
+    std::vector<FileDialogRequest> Dialogs; ///< shown so far
     std::function<void()> OnClosed = [] {}; ///< runs when the form has closed
 
     Control& Find(const std::string& name) {

@@ -4,7 +4,7 @@ namespace tessarin {
 
 using FieldTest = GameFixture;
 
-TEST_F(FieldTest, NeighboursComeRowColumnBox) {
+TEST_F(FieldTest, NeighboursAreListedByRowColumnBox) {
     EXPECT_EQ(Text(At(1).Neighbours), "1 2 3 4 5 6 7 8 9 10 19 28 37 46 55 64 73 11 12 20 21");
     const auto neighbours = At(1).Neighbours;
     EXPECT_EQ(ErrorOf([&] { At(1).GroupAdd(*game.Groups->Items.Item(1)); }), "duplicate key ");
@@ -15,7 +15,7 @@ TEST_F(FieldTest, NeighboursComeRowColumnBox) {
     EXPECT_EQ(alone.NextFreeValue(), 4);
 }
 
-TEST_F(FieldTest, FreeValuesAndTheNextOfThem) {
+TEST_F(FieldTest, FreeValuesAndTheNextFreeValue) {
     Script(R"(
         fill 5.......1.2................9 & free 1 > 3;4;6;7;8; & raise 1 > StatusChanged(1) 6
         fill 8.125....67.......9 & free 1 > 3;4; & raise 1 > StatusChanged(1) 0

@@ -4,7 +4,7 @@ namespace tessarin {
 
 using FieldsTest = GameFixture;
 
-TEST_F(FieldsTest, StatusIsCountedAtTheFirstReadWhicheverItIs) {
+TEST_F(FieldsTest, EveryStatusPropertyCountsAtItsFirstRead) {
     EXPECT_EQ(Text(std::vector{grid.Dimension(), grid.Count(), grid.Index()}), "3 81 0");
     EXPECT_EQ(grid.DeadCount(), 0);
     EXPECT_EQ(platform.Pumps, 0);
@@ -17,7 +17,7 @@ TEST_F(FieldsTest, StatusIsCountedAtTheFirstReadWhicheverItIs) {
     for (const auto& read : reads) {
         Script("fill .234567891 & lock 2 1");
         const int before = read();
-        grid.Clear(); // which tells nobody
+        grid.Clear(); // raises no StatusChanged
         EXPECT_NE(read(), before) << &read - reads;
     }
     Do("fill " + FullCells);
@@ -86,12 +86,12 @@ TEST_F(FieldsTest, StatusComparesWithTheLastCountEvenOfAnotherGrid) {
     Script("set 10 1 > StatusChanged(10) IsDeadEnd(1) & set 10 0 > StatusChanged(10) IsDeadEnd(0)");
 }
 
-TEST_F(FieldsTest, LocksOfAllAndClear) {
+TEST_F(FieldsTest, LockAllAndClear) {
     Script(R"(
         fill 12 & index 4 & lock 81 1 & lockall 1 > StatusChanged(4) StatusChanged(4)
         set 3 3 & clear 1 > BeforeIndexChanged(4) IndexChanged(1) & is > |1;1;1|2;2;1
     )");
-    EXPECT_EQ(grid.LockedCount(), 3); // an empty one too
+    EXPECT_EQ(grid.LockedCount(), 3); // one of them is empty
     Script("lockall 0 > StatusChanged(1) StatusChanged(1) & clear 0 > & is >");
     EXPECT_EQ(grid.LockedCount(), 0);
     Script("set 2 1 > StatusChanged(2)");

@@ -16,7 +16,7 @@
 
 namespace tessarin {
 
-/// A full grid of dimension 3 that keeps the rules.
+/// A correctly filled grid of dimension 3.
 inline const std::string FullCells =
     "123456789456789123789123456234567891567891234891234567345678912678912345912345678";
 
@@ -29,7 +29,7 @@ std::string Text(const Numbers& numbers) {
     return text.substr(0, text.size() - (text.empty() ? 0 : 1));
 }
 
-/// The kind of error that `action` ends with, "" for none.
+/// The kind of error that `action` throws, "" for none.
 template <class Action>
 std::string ErrorOf(Action action) try {
     action();
@@ -44,7 +44,7 @@ std::string ErrorOf(Action action) try {
     return "overflow ";
 }
 
-/// A game that is worked by lines of text.
+/// A game that executes commands given as text.
 class GameScript {
 public:
     Game& game;
@@ -55,7 +55,7 @@ public:
 
     Field& At(int index) { return *grid.Items.Item(index); }
 
-    /// Lets what the events of a grid or game tell be told, each name after the prefix.
+    /// Records the events of a grid or game, each as `prefix` and its name.
     void Listen(auto& events, const std::string& prefix) {
         for (const auto& [name, event] :
              {std::pair{"BeforeIndexChanged", &events.BeforeIndexChanged},
@@ -68,13 +68,13 @@ public:
             }));
     }
 
-    /// Executes one of mCommands and returns what it tells: its error, the events in order, its
-    /// result, beeps and boxes, and the history in brackets when it has changed.
+    /// Executes one of mCommands and returns a record of it: its error, the events in order, its
+    /// result, the platform's calls, and the history in brackets if it has changed.
     std::string Do(const std::string& line) {
         std::istringstream words(line);
         std::string command, text;
         std::getline(words >> command >> std::ws, text);
-        // A script may run inside another one's step.
+        // A script may run inside a step of another one.
         const std::string outerTold = std::exchange(mTold, ""), outerCalls = mLog.TakeCalls();
         const std::string before = History();
         const auto found = mCommands.find(command);
@@ -88,8 +88,8 @@ public:
         return told.substr(0, told.size() - (told.empty() ? 0 : 1));
     }
 
-    /// Executes each step of the script, one a line or separated by " & ", up to its " > " and
-    /// compares what it tells with the rest. A step without " > " may tell anything.
+    /// Executes the steps of a script: "command > record", on separate lines or separated by " & ".
+    /// Compares what Do returns with the record; without " >" anything is right.
     void Script(const std::string& script) {
         std::istringstream steps(ReplaceAll(script, " & ", "\n"));
         for (std::string step; std::getline(steps >> std::ws, step);) {
@@ -100,9 +100,9 @@ public:
         }
     }
 
-    /// Compares what the grid says of itself with a count of its fields.
+    /// Compares the grid's status with a count of its fields.
     void ExpectRightStatus() {
-        grid.Status(); // pumps: only now the fields are what is compared
+        grid.Status(); // pumps, which may change the fields
         int free = 0, locked = 0, set = 0, next = 0, least = grid.Numbers() + 1;
         std::vector<int> dead;
         std::vector<std::uint8_t> values(1);
@@ -135,7 +135,7 @@ protected:
     std::string History() const { return play.History ? Text(*play.History) : "none"; }
     void Tell(const std::string& result) { mTold += result.empty() ? "" : result + " "; }
 
-    // The values of `cells`, "." for none and none after its end, without telling.
+    // Sets the fields to `cells` ("." and all after its end: empty) and records nothing.
     void Fill(const std::string& cells) {
         for (const auto& field : grid.Items) {
             const auto i = static_cast<std::size_t>(field->Index) - 1;
@@ -154,7 +154,7 @@ protected:
     // The second number of `text`.
     static int Second(const std::string& text) { return std::atoi(text.c_str() + text.find(' ')); }
 
-    // Each with the first number and the whole text of its arguments.
+    // They get the first number and the whole text of their arguments.
     std::map<std::string, std::function<void(int, const std::string&)>> mCommands = {
         {"fill", [&](int, auto& cells) { Fill(cells); }},
         {"index", [&](int i, auto&) { grid.SetIndex(i); }},
@@ -194,7 +194,7 @@ struct GameParts {
     Game OwnGame;
 };
 
-/// A game without a window, which also tells the events of its grid.
+/// A game without a window that records the events of its grid.
 class TestGame : GameParts, public GameScript {
 public:
     ScriptedPlatform& platform = OwnPlatform;

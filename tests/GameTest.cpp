@@ -10,7 +10,7 @@ namespace tessarin {
 
 using GameTest = GameFixture;
 
-TEST_F(GameTest, RelayPassesOnWhatTheGridTells) {
+TEST_F(GameTest, GameRelaysTheEventsOfTheGrid) {
     EXPECT_EQ(goGame, &game);
     EXPECT_EQ(game.Groups->Items.Count(), 27);
     Listen(game.Events, "-");
@@ -53,7 +53,7 @@ TEST_F(GameFilesTest, ExportsCreateAFileOrTouchNothing) {
     std::filesystem::create_symlink(Path("nowhere"), Path("dangling"));
     std::filesystem::create_symlink(Path("mine"), Path("link"));
     folder.Write("mine", "mine");
-    for (int value = 5; value <= 6; ++value) { // the second time within the same second
+    for (int value = 5; value <= 6; ++value) { // twice within the same second
         At(1).SetValue(value);
         game.FileExportCSV();
         game.FileExportSDK();
@@ -75,7 +75,7 @@ TEST_F(GameFilesTest, ExportsCreateAFileOrTouchNothing) {
     EXPECT_EQ(found, files);
 }
 
-TEST_F(GameFilesTest, OneOfTwoProgramsWritesTheFile) {
+TEST_F(GameFilesTest, OnlyOneOfTwoWritersCreatesTheFile) {
     for (int round = 0; round < 50; ++round) {
         const std::string file = Path(std::to_string(round));
         std::string results[2];
@@ -87,7 +87,7 @@ TEST_F(GameFilesTest, OneOfTwoProgramsWritesTheFile) {
     }
 }
 
-TEST_F(GameFilesTest, WhatIsNoTextFileIsAnEmptyOne) {
+TEST_F(GameFilesTest, UnusableFilesCountAsEmpty) {
     ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
     WriteTextFile(Path("wide"), grid.TextCSV(), "unicode", false);
     folder.Write("marked", BomUtf8() + grid.TextCSV());
@@ -103,7 +103,7 @@ TEST_F(GameFilesTest, WhatIsNoTextFileIsAnEmptyOne) {
     }
 }
 
-TEST_F(GameFilesTest, OnlyImportsOfCSVResetThePlayer) {
+TEST_F(GameFilesTest, OnlyACSVImportResetsThePlayer) {
     game.FileExportSDK(Path("rows"));
     folder.Write("grid", "Index;Value;Locked\r\n2;9;1");
     folder.Write("bad", "Index;Value;Locked\r\n1;9;1\r\nx");

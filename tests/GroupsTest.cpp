@@ -28,7 +28,7 @@ TEST_F(GroupsTest, RowsThenColumnsThenBoxes) {
     EXPECT_EQ(other.FlavorText(), "diagonal");
 }
 
-TEST_F(GroupsTest, BuiltTwiceOnTheSameFields) {
+TEST_F(GroupsTest, BuildingTwiceOnTheSameFieldsFails) {
     EXPECT_EQ(ErrorOf([&] { game.Groups->Init(); }), "duplicate key ");
     EXPECT_EQ(game.Groups->Items.Count(), 1);
 }

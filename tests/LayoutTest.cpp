@@ -13,7 +13,7 @@ protected:
     }
 };
 
-TEST_F(LayoutTest, FieldsStandInBoxesAGapApart) {
+TEST_F(LayoutTest, BoxesOfFieldsAreAGapApart) {
     int k = 0;
     for (const int top : {420, 1020, 1620, 2370, 2970, 3570, 4320, 4920, 5520})
         for (const int left : {300, 900, 1500, 2250, 2850, 3450, 4200, 4800, 5400}) {

@@ -1,4 +1,4 @@
-// Commands that arrive while others are under way, as the pumping of window events lets them.
+// Commands that run inside the pumps of others.
 #include "GameFixture.h"
 
 namespace tessarin {
@@ -13,7 +13,7 @@ TEST(NestedTest, ChangeAtEveryPumpOfAStatusPass) {
     }
 }
 
-// A change that raises no event, so that nobody reads the status before the pass has ended.
+// These changes raise no event, so that nothing reads the status before the pass has ended.
 TEST(NestedTest, SilentChangeAtEveryPumpOfAStatusPass) {
     TestGame test;
     for (const std::string command : {"clear", "init"})
@@ -25,11 +25,11 @@ TEST(NestedTest, SilentChangeAtEveryPumpOfAStatusPass) {
         }
 }
 
-TEST(NestedTest, WhatOvertakesAMoveOrAnEntry) {
+TEST(NestedTest, CursorMovesInsideAMoveOrAnEntry) {
     TestGame test;
     test.Do("index 1");
     test.platform.AtPump(1, [&] { test.grid.SetIndex(2); });
-    // The relay pumps before this record hears of the event.
+    // The relay pumps before the event reaches this record.
     test.Script("index 2 > BeforeIndexChanged(1) IndexChanged(2) BeforeIndexChanged(1)");
     test.Do("trace");
     for (const std::string step :

@@ -4,8 +4,8 @@ namespace tessarin {
 
 using PlayTest = GameFixture;
 
-TEST_F(PlayTest, ValuesEntered) {
-    // Field 1 can hold 3, 4 and 8; its lock is not asked for.
+TEST_F(PlayTest, OnlyFreeValuesAreEntered) {
+    // 3, 4 and 8 are free for field 1; its lock is ignored.
     Script(R"(
         fill ..125....67.......9 & index 1 & value 3 > StatusChanged(1) & trace & lock 1 1
         value 3 > & value 5 > & value 12 > & value -1 > & value 8 > StatusChanged(1) [1] & auto 4 >
@@ -35,7 +35,7 @@ TEST_F(PlayTest, ClearingWalksBackAlongTheHistory) {
 }
 
 TEST_F(PlayTest, NextFreeFieldIsTheMostConstrained) {
-    // Fields 41 and 76 can hold nothing but the 9.
+    // Only 9 is free for the fields 41 and 76.
     Script(
         "fill ....................................1234.5678...........................876.54321");
     Script("trace & goto 0 > IndexChanged(41)");
@@ -53,7 +53,7 @@ TEST_F(PlayTest, GoingBackToFreedom) {
         trace & retreat 1 > StatusChanged(5) StatusChanged(5) F Beep [5]
     )");
     EXPECT_EQ(play.Retries, 2);
-    // Fields 5 and 12 are used up on the way to 3, whose own value is free again.
+    // Going back passes field 12 and ends at field 3: once it is empty, its value is free again.
     Do("trace 3 12 5");
     EXPECT_EQ(Do("retreat 0"), "StatusChanged(5) BeforeIndexChanged(5) IndexChanged(12) "
                                "StatusChanged(12) BeforeIndexChanged(12) IndexChanged(3) "
@@ -66,7 +66,7 @@ TEST_F(PlayTest, GoingBackToFreedom) {
     )");
 }
 
-TEST_F(PlayTest, WithoutCursorNothingChangesButSwitches) {
+TEST_F(PlayTest, WithoutACursorOnlyTracingChanges) {
     Script(
         "trace & value 1 > & auto 0 > & next 1 > 0 & playlock > & back 1 > & retreat 1 > F Beep");
     EXPECT_EQ(play.Retries, 1);

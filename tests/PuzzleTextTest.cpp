@@ -4,8 +4,8 @@ namespace tessarin {
 
 class PuzzleTextTest : public GameFixture {
 protected:
-    // Runs a script whose "load" loads the frame with its text in the place of the "@", and tells
-    // what the grid has then.
+    // Runs a script whose "load" replaces "@" in `frame` by its argument, loads the result and
+    // records the values in the grid.
     void Loads(const std::string& format, const std::string& frame, const std::string& script) {
         mCommands["load"] = [&](int, auto& text) {
             Fill(FullCells);
@@ -15,7 +15,7 @@ protected:
             mCommands.at("is")(0, "");
             const std::string told = mTold;
             At(2).SetLocked(!At(2).Locked());
-            EXPECT_NE(std::exchange(mTold, told), told) << "changes are not told any more";
+            EXPECT_NE(std::exchange(mTold, told), told) << "changes are no longer reported";
         };
         Script(script);
     }

@@ -6,11 +6,11 @@
 
 namespace tessarin {
 
-/// A user who does anything with game and window; an impatient one also while something else is
-/// under way, as the pumping of window events lets commands in.
+/// A user who does random things with game and window. An impatient one also does them inside the
+/// pumps of commands that are running.
 class RandomUser : public WindowScript {
 public:
-    /// `below` tells what happens next: a number from 0 to below its argument.
+    /// `below` makes the choices: it returns a number from 0 to its argument minus 1.
     RandomUser(bool impatient, std::function<int(int)> below)
         : mbImpatient(impatient), mBelow(std::move(below)) {
         mCommands["reload"] = [this](int, auto&) {
@@ -20,9 +20,9 @@ public:
 
     bool IsOpen() const { return !platform.Closed; }
 
-    /// Does something and checks what always holds.
+    /// Does one thing and checks the invariants.
     void Step() {
-        // Each with the least number for its "#" and how many there are.
+        // Each with the least number for "#" and the count of numbers.
         static const std::tuple<std::string, int, int> moves[] = {
             {"index #", -1, 84},
             {"value #", -1, 12},
@@ -65,13 +65,13 @@ public:
     }
 
 private:
-    // What holds when nothing runs.
+    // The invariants while no command runs.
     void ExpectInOrder() {
         EXPECT_TRUE(window.mnuFile.Enabled() && window.mnuEdit.Enabled() &&
                     window.mnuView.Enabled() && window.fraAction.Enabled() &&
                     window.fraNumPad.Enabled());
         EXPECT_FALSE(window.ViewRunning() || window.ctlRotor1.Running() || platform.Hourglass);
-        // Neither a change without an event nor one in a quiet solve is painted at once.
+        // Changes without events, and those of a quiet solve, are not painted at once.
         if (std::exchange(mbStale, false)) window.RefreshAll();
         int green = 0;
         for (const auto& field : grid.Items) {
@@ -80,7 +80,7 @@ private:
             const int value = field->Value();
             EXPECT_EQ(label.Caption(), value == 0 ? "" : std::to_string(value)) << field->Index;
             green += label.BackColor() == Green ? 1 : 0;
-            int alike = 0; // only free values are entered, unless something interferes
+            int alike = 0; // only free values are entered, unless a nested command interferes
             for (const int i : field->Neighbours)
                 alike += At(i).Value() == value ? 1 : 0;
             EXPECT_TRUE(mbImpatient || value == 0 || alike == 1) << field->Index;

@@ -6,7 +6,7 @@
 
 namespace tessarin {
 
-TEST(RandomWalkTest, WhatAlwaysHolds) {
+TEST(RandomWalkTest, InvariantsHoldAfterEveryStep) {
     const int seed = testing::UnitTest::GetInstance()->random_seed();
     std::cout << "To walk again: --gtest_random_seed=" << seed << '\n';
     std::mt19937 random(static_cast<unsigned>(seed));
@@ -17,7 +17,7 @@ TEST(RandomWalkTest, WhatAlwaysHolds) {
         std::unique_ptr<RandomUser> user;
         for (int step = 0; step < 700 && !testing::Test::HasFailure(); ++step) {
             if (!user || !user->IsOpen()) {
-                user.reset(); // one lives at a time
+                user.reset(); // only one may live at a time
                 user = std::make_unique<RandomUser>(impatient, below);
             }
             user->Step();

@@ -7,7 +7,7 @@
 
 namespace tessarin {
 
-/// A folder for a test, removed with everything in it.
+/// A temporary folder, removed at the end with everything in it.
 class ScratchFolder {
 public:
     ScratchFolder() { std::filesystem::create_directory(mPath); }

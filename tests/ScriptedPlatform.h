@@ -12,10 +12,10 @@
 
 namespace tessarin {
 
-/// The calls that a machine has got, in order, as text.
+/// Records the calls of a platform as text, in order.
 class CallLog {
 public:
-    /// Those since the last call of this; `instead` counts as called.
+    /// Returns the calls since the last TakeCalls. The new record begins with `instead`.
     std::string TakeCalls(const std::string& instead = "") {
         return std::exchange(mCalls, instead);
     }
@@ -31,26 +31,26 @@ protected:
     std::string mCalls;
 };
 
-/// A machine that does what a test tells it and remembers what was asked of it. It is the current
-/// platform for its lifetime.
+/// A platform that follows a test's script and records the calls. It is the current platform while
+/// it lives.
 class ScriptedPlatform : public NullPlatform, public CallLog {
 public:
     ScriptedPlatform() : mPrevious(Platform::SetCurrent(this)) {}
     ~ScriptedPlatform() override { Platform::SetCurrent(mPrevious); }
 
     int Pumps = 0;
-    Pump LastPump = Pump::WhenDue; ///< how the last pump was meant
+    Pump LastPump = Pump::WhenDue; ///< the argument of the last pump
     bool Hourglass = false;        ///< the mouse pointer
     std::deque<bool> Esc;          ///< the next answers to EscPressed; not pressed after them
-    std::deque<bool> Answers;      ///< to the next questions, Yes or No; No after them
+    std::deque<bool> Answers;      ///< the next answers to questions, true for Yes; No after them
     DateTime Time;
     std::string Folder;
     VersionRecord Program;
     int WindowStyle = 0;
     std::function<void()> AtBox;   ///< runs while a box is open
     std::function<void()> AtSleep; ///< runs during a sleep
-    bool Closed = false;           ///< the window has: nothing is pumped, slept or asked
-    bool ErrorsExpected = false;   ///< a handler that ends with an error is no failure
+    bool Closed = false;           ///< the window is closed: no pumps, sleeps and questions
+    bool ErrorsExpected = false;   ///< an error in a handler does not fail the test
 
     /// Runs `action` inside the n-th pump from now, once.
     void AtPump(int n, std::function<void()> action) {

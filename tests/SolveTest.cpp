@@ -5,8 +5,8 @@ namespace tessarin {
 
 class SolveTest : public GameFixture {
 protected:
-    // The changes that a solve makes, the history after it, its retreats, how it ends, and the
-    // boxes and beeps.
+    // Records the changes that a solve makes, the history after it, the number of retreats, how it
+    // ends, and the boxes and beeps.
     std::string Solve() {
         std::string told;
         const auto recorder = game.Events.StatusChanged.Connect([&](int index) {
@@ -18,7 +18,7 @@ protected:
         const std::string calls = platform.TakeCalls();
         return told + (calls.empty() ? "" : " ") + calls;
     }
-    // In its first cycle field 2 leaves a dead end, and the retreat raises the given of field 28.
+    // In the first cycle field 2 leads to a dead end, and the retreat raises the value of field 28.
     const std::string OneRetreat =
         "4..815.2992734685..58.9..643152.9648.92...5178465712936394..1.2271963485584127936";
 };
@@ -56,7 +56,7 @@ TEST_F(SolveTest, EscAsksOnceForEachPress) {
     EXPECT_EQ(Solve(), "1=1 2=2 [1 2] 0 open " + question + question);
     platform.Esc = {false, true};
     platform.Answers = {true};
-    // The answer before is forgotten.
+    // The last answer is forgotten.
     EXPECT_EQ(Solve(), "3=3 [1 2 3] 0 open " + question);
 }
 

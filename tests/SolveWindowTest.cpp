@@ -1,4 +1,4 @@
-// The automatic solve as the window shows it: pace, disabled panels, cancel and the busy indicator.
+// The automatic solve in the window: pace, disabled panels, cancel and the busy indicator.
 #include "WindowScript.h"
 
 #include <stdexcept>
@@ -8,20 +8,20 @@ namespace tessarin {
 class SolveWindowTest : public WindowFixture {
 protected:
     SolveWindowTest() {
-        // A grid in which the fields 1, 11, 21 and 31 are empty.
+        // Only the fields 1, 11, 21 and 31 are empty.
         mCommands["load"] = [this](int, auto&) {
             std::string cells = FullCells;
             cells[0] = cells[10] = cells[20] = cells[30] = '.';
             Fill(cells);
             play.Reset();
         };
-        // How many fields are empty, and whether a solve has left its traces in the window.
+        // The number of empty fields, and whether the window looks as without a solve.
         mCommands["left"] = [this](int, auto&) {
             const bool idle = window.fraAction.Enabled() && window.fraNumPad.Enabled() &&
                               !window.ctlRotor1.Running() && !platform.Hourglass;
             Tell(std::to_string(grid.FreeCount()) + (idle ? " idle" : " busy"));
         };
-        // What is done at the next change of a field: steps with "=>" for ">".
+        // Sets the steps for the next change of a field, with "=>" for ">" and "; " between steps.
         mCommands["during"] = [this](int, auto& steps) { mDuring = steps; };
         Do("load");
     }
@@ -33,8 +33,8 @@ protected:
 };
 
 TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
-    // A pause for each of the two fields of a cursor move and for the value. The first field is the
-    // current one already.
+    // One pause for each of the two fields of a cursor move and one for the value. The first field
+    // needs no move.
     for (const auto& [option, pause] :
          {std::pair{0, 0}, {1, 0}, {2, 100}, {3, 200}, {4, 400}, {5, 800}}) {
         SCOPED_TRACE(option);
@@ -57,7 +57,7 @@ TEST_F(SolveWindowTest, StepMakesOneCycleForEachClick) {
     )");
 }
 
-TEST_F(SolveWindowTest, WhileItRunsThePanelsAreDeadAndAllElseAnswers) {
+TEST_F(SolveWindowTest, PanelsAreDisabledDuringASolveAndAllElseAnswers) {
     Script(R"(
         during click btnInfo; click btnGoBack; click lblDeadEnd; click btnNumPad(11); click mnuFileQuit; left => 3 busy; click lblField(5); cursor => 5; click optChill(0)
         click optChill(1) & click btnSolve > [1 11 21 31] & left > 0 idle
@@ -68,12 +68,12 @@ TEST_F(SolveWindowTest, WhileItRunsThePanelsAreDeadAndAllElseAnswers) {
     EXPECT_TRUE(platform.Closed);
 }
 
-TEST_F(SolveWindowTest, APaceCountsAtOnceHoweverManyClicksWait) {
+TEST_F(SolveWindowTest, ANewPaceTakesEffectBeforeQueuedClicks) {
     Do("click optChill(5)");
     int sent = 0;
     std::function<void()> user = [&] {
         platform.AtPump(1, user);
-        if (platform.LastPump != Pump::Now) return; // until a pause begins
+        if (platform.LastPump != Pump::Now) return; // not yet in a pause
         while (sent < 500)
             window.lblField(++sent % 81 + 1).RaiseClick();
         if (sent++ == 500) Click("optChill(1)");
@@ -82,15 +82,14 @@ TEST_F(SolveWindowTest, APaceCountsAtOnceHoweverManyClicksWait) {
     Script("click btnSolve > [1 11 21 31] & left > 0 idle"); // without any pause
 }
 
-TEST_F(SolveWindowTest, OnlyAConfirmedEscEndsIt) {
+TEST_F(SolveWindowTest, OnlyAConfirmedEscEndsTheSolve) {
     platform.Esc = {true, true};
     const std::string box = "Box(Abbrechen?|ESC gedrückt|YesNo|-)";
     Script("answer 0 & answer 1 & click btnSolve > " + box + " " + box + " [1] & left > 3 idle");
-    Script("click btnSolve & left > 0 idle"); // the cancel before is forgotten
+    Script("click btnSolve & left > 0 idle"); // the last cancel is forgotten
 }
 
-TEST_F(SolveWindowTest, ItsEndLeavesNoTrace) {
-    // The solve of a step has still to return when the window closes.
+TEST_F(SolveWindowTest, ClosedBeforeTheSolveOfAStepReturns) {
     Script(
         "click optChill(6) & during click optChill(1); click mnuFileQuit & click btnSolve > [1]");
     Script("left > 3 idle");
@@ -102,7 +101,7 @@ TEST_F(SolveWindowTest, AFailingSolveLeavesAUsableWindow) {
     const auto failing =
         game.Events.StatusChanged.Connect([](int) -> void { throw std::runtime_error("no more"); });
     Script("click btnSolve & left > 3 idle & click mnuFileQuit");
-    EXPECT_TRUE(platform.Closed) << "no solve runs any more";
+    EXPECT_TRUE(platform.Closed) << "the solve has ended";
 }
 
 TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {

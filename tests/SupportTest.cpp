@@ -58,7 +58,7 @@ TEST(SupportTest, WaitPumpsBeforeAndAfterSleeping) {
     EXPECT_EQ(platform.Pumps, 6);
 }
 
-TEST(SupportTest, EscAsksUntilItIsAnsweredYes) {
+TEST(SupportTest, EscAsksUntilTheAnswerIsYes) {
     ScriptedPlatform platform;
     ClearCancel();
     const std::string question = "Box(Abbrechen?|ESC gedrückt|YesNo|-) ";

@@ -1,4 +1,4 @@
-// The views: what they show, and what they keep the user from.
+// The views: what they show, and which commands they block.
 #include "WindowScript.h"
 
 #include <stdexcept>
@@ -7,7 +7,7 @@ namespace tessarin {
 
 using ViewsTest = WindowFixture;
 
-// Row 1 holds 1 to 8 and field 11 the 9, so that field 1 has no free value.
+// Row 1 holds 1 to 8 and field 11 holds 9: no value is free for field 1.
 const std::string DeadFieldOne = ".12345678.9";
 
 TEST_F(ViewsTest, DeadCells) {
@@ -53,7 +53,7 @@ TEST_F(ViewsTest, Freedoms) {
     Script("fields 1 10 9 > :normal/text :normal/text 8:green/text");
 }
 
-TEST_F(ViewsTest, EachShutsTheMenusAndTheFieldsEvenIfItFails) {
+TEST_F(ViewsTest, MenusAndFieldsAreBlockedUntilAViewEndsOrFails) {
     int views = 0;
     bool fails = false;
     const auto whileShown = [&] {

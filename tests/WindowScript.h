@@ -19,7 +19,7 @@ struct WindowParts {
     frmTessarin window{OwnToolkit};
 };
 
-/// The window on a toolkit that shows nothing, shown and active, worked by lines of text.
+/// The window, active, on a toolkit that shows nothing. Executes commands given as text.
 class WindowScript : protected WindowParts, public GameScript {
 public:
     WindowScript() : GameScript(OwnPlatform, *goGame) {
@@ -53,8 +53,8 @@ public:
 
     void Click(const std::string& name) { toolkit.Find(name).RaiseClick(); }
 
-    /// What a field's label shows: caption, background and text colour, and the font when it is not
-    /// the one for values: "7:green/text", ":yellow/red:Arial:12:italic".
+    /// The look of a field's label: caption, background and text colour, and the font if it is not
+    /// that of values: "7:green/text", ":yellow/red:Arial:12:italic".
     std::string Shows(int index) {
         const Label& label = window.lblField(index);
         const auto& [name, size, italic] = label.Font();
@@ -86,7 +86,7 @@ private:
         return names.contains(color) ? names.at(color) : "?";
     }
 
-    // The keys that are visible, those that are enabled, and the colour behind them.
+    // The visible keys, the enabled keys and the background colour.
     std::string Pad() {
         std::string visible, enabled;
         for (int key = 0; key <= 11; ++key) {

@@ -43,7 +43,7 @@ TEST_F(DialogsTest, BoxesHaveTheirTitlesIconsAndButtons) {
     Script("answer Yes & menu mnuEditClearAll & is >");
 }
 
-TEST_F(DialogsTest, BoxesLeaveTheGridFreeWhereTheScreenHasRoom) {
+TEST_F(DialogsTest, BoxesDoNotCoverTheGridIfTheScreenHasRoom) {
     const QRect fields = Widget("lblField(1)").geometry() | Widget("lblField(81)").geometry();
     for (const bool room : {true, false}) {
         const QRect screen = form->screen()->availableGeometry();
@@ -60,7 +60,7 @@ TEST_F(DialogsTest, BoxesLeaveTheGridFreeWhereTheScreenHasRoom) {
     }
 }
 
-TEST_F(DialogsTest, FileDialogShowsItsFiltersAndColumnsWhole) {
+TEST_F(DialogsTest, FileDialogShowsItsFiltersAndWholeColumns) {
     folder.Write("plain", "");
     folder.Write("puzzle.csv", "");
     WhileOpen = [this](QDialog& dialog) {

@@ -10,7 +10,7 @@ namespace {
 
 using KeyboardTest = QtFixture;
 
-TEST_F(KeyboardTest, ArrowsGoOnFromTheCurrentField) {
+TEST_F(KeyboardTest, ArrowsMoveFromTheCurrentField) {
     Script(R"(
         focus > lblField(1) & index 41 & key Left & cursor > 40 & focus > lblField(40)
         index 41 & key Right & cursor > 42 & key Num+Down & cursor > 51 & key Up & cursor > 42
@@ -25,7 +25,7 @@ TEST_F(KeyboardTest, ArrowsGoOnFromTheCurrentField) {
     EXPECT_EQ(clicked, 81 + 81 + 72);
 }
 
-TEST_F(KeyboardTest, ACharacterClicksTheButtonThatItIsTheCaptionOf) {
+TEST_F(KeyboardTest, ACharacterClicksTheButtonWithThisCaption) {
     Script(R"(
         click btnInfo & key 5 & is > |1;5;0 & to btnSolve & key 4 & is > |1;4;0
         to optChill(1) & key Num+7 & is > |1;7;0 & to lblField(1)
@@ -40,7 +40,7 @@ TEST_F(KeyboardTest, ACharacterClicksTheButtonThatItIsTheCaptionOf) {
     Script("answer OK & click lblDeadEnd > Box(Dead cells = 0) & is > |2;6;0");
 }
 
-TEST_F(KeyboardTest, TabReadsThePanelsAndStopsOnceInTheGrid) {
+TEST_F(KeyboardTest, TabVisitsThePanelsAndStopsOnceInTheGrid) {
     Script("click btnInfo & index 12 & to lblField(12)");
     std::string stops;
     for (int i = 0; i < 23; ++i, Key("Tab"))

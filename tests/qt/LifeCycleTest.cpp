@@ -11,7 +11,7 @@ namespace {
 
 class LifeCycleTest : public QtFixture, public testing::WithParamInterface<const char*> {};
 
-TEST_F(LifeCycleTest, ReturnFromElsewhereIsAnActivationButNotFromAnOwnBox) {
+TEST_F(LifeCycleTest, ReturningFromAnotherWindowActivatesButNotFromAnOwnBox) {
     EXPECT_EQ(platform.Activations, 1);
     Script("answer OK & menu mnuAbout & activate");
     EXPECT_EQ(platform.Activations, 1);
@@ -30,7 +30,7 @@ TEST_F(LifeCycleTest, ReturnFromElsewhereIsAnActivationButNotFromAnOwnBox) {
 INSTANTIATE_TEST_SUITE_P(Commands, LifeCycleTest,
                          testing::Values("mnuViewGroups", "mnuEditClearAll", "mnuFileImportCSV"));
 
-TEST_P(LifeCycleTest, ClosedInACommandTheProgramEndsSoon) {
+TEST_P(LifeCycleTest, TheProgramEndsSoonWhenClosedInACommand) {
     At(1).SetValue(5);
     platform.ReallySleeps = true;
     Unexpected = [](QDialog&) {};
@@ -64,7 +64,7 @@ TEST_F(LifeCycleTest, ThePlatformOutlivesItsForm) {
         machine.LockWindowUpdate(1);
         EXPECT_EQ(machine.GetWindowLongA(1, -20), 0);
     }
-    EXPECT_EQ(Platform::Current().ProgramFolder(), ".") << "no machine is current";
+    EXPECT_EQ(Platform::Current().ProgramFolder(), ".") << "no platform is current";
 }
 
 } // namespace

@@ -37,7 +37,7 @@ TEST_F(MouseTest, ButtonsAndOptionsAnswerOnceForEachClick) {
     EXPECT_TRUE(dynamic_cast<QAbstractButton&>(Widget("optChill(1)")).isChecked());
 }
 
-TEST_F(MouseTest, AViewShutsEvenAnOpenMenu) {
+TEST_F(MouseTest, AViewDisablesEvenAnOpenMenu) {
     int clicks = 0;
     window.mnuFileQuit.Click = [&] { ++clicks; };
     for (const bool running : {true, false}) {

@@ -1,4 +1,4 @@
-// What can be seen on the screen: pixels.
+// The pixels on the screen.
 #include "QtFixture.h"
 #include "qt/QtLook.h"
 #include "ui/Colors.h"
@@ -13,7 +13,7 @@
 namespace tessarin {
 namespace {
 
-// The argument: in a dark theme.
+// The parameter is true for a dark theme.
 class PaintingTest : public QtFixture, public testing::WithParamInterface<bool> {
 protected:
     PaintingTest() {
@@ -24,7 +24,7 @@ protected:
     }
     ~PaintingTest() override { QApplication::setPalette(mBefore); }
 
-    // A control on the screen, after a short sleep, in which it is painted.
+    // A picture of a control on the screen. Sleeps first, so that the control is painted.
     QImage Picture(const std::string& name) {
         platform.QtPlatform::Sleep(5);
         const QRect place(Widget(name).mapTo(form, QPoint()), Widget(name).size());
@@ -32,7 +32,7 @@ protected:
             ->grabWindow(form->winId(), place.x(), place.y(), place.width(), place.height())
             .toImage();
     }
-    // The greatest difference in brightness between a pixel of the part and the one at `where`.
+    // The greatest difference in brightness between a pixel of `part` and the one at `where`.
     static int Contrast(const QImage& image, QRect part, QPoint where) {
         int greatest = 0;
         for (int y = part.top(); y <= part.bottom(); ++y)
@@ -75,7 +75,7 @@ TEST_P(PaintingTest, BackgroundsBordersDigitsAndTheFocusCanBeSeen) {
     EXPECT_GT(Contrast(Picture("fraInfo"), {8, 2, 60, 10}, {4, 2}), 60) << "caption";
 }
 
-// The field with the longest text: all its lines are seen, and nothing is cut off at the edges.
+// All lines of the longest field data show, and none is cut off; a long path loses only its middle.
 TEST_P(PaintingTest, LongTextsFitIntoTheirPlaces) {
     window.PaintField(41);
     const QImage image = Picture("lblInfo");
@@ -88,7 +88,7 @@ TEST_P(PaintingTest, LongTextsFitIntoTheirPlaces) {
     EXPECT_TRUE(isEmpty({image.width() - 1, 0, 1, image.height()}));
     QImage path;
     const std::string folders(150, '/');
-    for (const char* const middle : {"here", "there"}) { // which is left out
+    for (const char* const middle : {"here", "there"}) { // left out
         window.lblFile.SetCaption("/home" + folders + middle + folders + "puzzle.csv");
         const QImage before = std::exchange(path, Picture("lblFile"));
         EXPECT_TRUE(before.isNull() || before == path);

@@ -71,7 +71,7 @@ void QtFixture::Click(QWidget& widget, QPoint where, Qt::MouseButton button) {
 }
 
 void QtFixture::Key(const std::string& keys) {
-    // As between two strokes of a hand; without the pause the second one counts as a repeat.
+    // Without a pause a second press would count as a repeat.
     QTest::qWait(LookMilliseconds);
     QWidget* top = QApplication::activePopupWidget();
     if (top == nullptr) top = QApplication::activeModalWidget();
@@ -102,10 +102,10 @@ void QtFixture::Menu(const QString& entry) {
 void QtFixture::LookForBox() {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || dialog == mSeen) return;
-    // Only an active box can be answered; a window manager sees to it that it becomes active.
+    // Only an active box can be answered. A window manager would activate it.
     if (!dialog->isActiveWindow()) return dialog->activateWindow();
     mSeen = dialog;
-    mEyes.start(); // or it would not look again before the answer has ended
+    mEyes.start(); // fires again although this handler has not ended
     if (const auto meanwhile = std::exchange(WhileOpen, nullptr)) meanwhile(*dialog);
     if (mAnswers.empty()) return Unexpected(*dialog);
     const auto answer = QString::fromStdString(mAnswers.front());

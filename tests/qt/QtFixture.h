@@ -19,13 +19,13 @@
 
 namespace tessarin {
 
-/// The real machine, which notes what passes.
+/// The real platform, which records some calls.
 class SpyPlatform final : public qt::QtPlatform, public CallLog {
 public:
     SpyPlatform() : QtPlatform(ProgramVersion) {}
 
     bool ReallySleeps = false;    ///< off: a sleep takes no time
-    int Activations = 0;          ///< of the window: each makes sure of the taskbar entry
+    int Activations = 0;          ///< counted by the taskbar entry that each sets
     std::function<void()> AtPump; ///< runs before each pump handles its events
 
     void PumpEvents(Pump pump) override;
@@ -43,24 +43,24 @@ struct QtParts {
     QWidget* const form = &platform.CurrentForm();
 };
 
-/// The window, shown and active, worked by lines of text. Whatever the user does is handled before
-/// a step ends: the command that it started has ended then, its boxes answered as told before.
+/// The window, shown and active, which executes commands given as text. A step that the user does
+/// returns when its command has ended and its boxes are answered, in the way set before.
 class QtFixture : public testing::Test, protected QtParts, public GameScript {
 protected:
     QtFixture();
 
-    // Events go to the window that is seen, so that modal boxes, open menus and disabled panels
-    // keep them from the controls as they do on a screen.
+    // Events are sent to the top window, so that modal boxes, open menus and disabled panels keep
+    // them from the controls as they do for a user.
     void Click(QWidget& widget, QPoint where, Qt::MouseButton button = Qt::LeftButton);
     void Key(const std::string& keys);
     /// Opens the menus on the way to the entry and clicks it; tells "shut" if one does not open.
     void Menu(const QString& entry);
-    /// As a window manager does when a box is gone.
+    /// Activates the window, as a window manager does after a box.
     void Activate();
 
-    /// What else is done while the next box is open.
+    /// Called when the next box is open, before its answer.
     std::function<void(QDialog&)> WhileOpen;
-    /// What happens to a box that nobody expects: it is a failure.
+    /// Handles a box without an answer: by default a failure.
     std::function<void(QDialog&)> Unexpected;
 
     QWidget& Widget(const std::string& name);

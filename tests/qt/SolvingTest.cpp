@@ -14,10 +14,10 @@ namespace {
 
 class SolvingTest : public QtFixture {
 protected:
-    // Four fields are empty.
+    // A puzzle with four empty fields.
     SolvingTest() { Do("import nearly-complete.csv"); }
 
-    // What the system tells of the key, with its time in milliseconds.
+    // Sends an event of the ESC key with its time in milliseconds.
     void Esc(QWidget& top, QEvent::Type type, quint64 time, bool repeat = false) {
         QKeyEvent event(type, Qt::Key_Escape, {}, {}, repeat);
         event.setTimestamp(time);
@@ -25,7 +25,7 @@ protected:
     }
 };
 
-TEST_F(SolvingTest, WhileItRunsThePanelsAreDeadAndTheWindowStaysOpen) {
+TEST_F(SolvingTest, PanelsAreDisabledDuringASolveAndTheWindowStaysOpen) {
     int changes = 0;
     const auto connection = goGame->Events.StatusChanged.Connect([&](int) {
         if (++changes > 1) return;
@@ -71,7 +71,7 @@ TEST_F(SolvingTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
     Esc(*form, QEvent::KeyPress, 1000);
     bool staysOpen = false;
     WhileOpen = [&](QDialog& box) {
-        // The first repeat after the focus has changed is not marked as one.
+        // The first repeat after the focus has changed is not marked as a repeat.
         for (const quint64 time : {1600U, 1630U, 1660U}) {
             Esc(box, QEvent::KeyRelease, time, time > 1600);
             Esc(box, QEvent::KeyPress, time, time > 1600);
@@ -83,7 +83,7 @@ TEST_F(SolvingTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
     EXPECT_TRUE(staysOpen);
 }
 
-TEST_F(SolvingTest, RotorTurnsAfterEachPauseAndInACommandThatItsTickLetsIn) {
+TEST_F(SolvingTest, RotorTurnsAfterEachPauseAndDuringACommandInsideItsTick) {
     platform.ReallySleeps = true;
     int seen = -1, turns = 0;
     const auto look = [&] {

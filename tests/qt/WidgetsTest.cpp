@@ -11,7 +11,7 @@ namespace {
 
 class WidgetsTest : public QtFixture {
 protected:
-    // All entries; what lies below one stands in brackets.
+    // All entries, with submenus in brackets.
     QString Text(const QList<QAction*>& actions) {
         QString text;
         for (const QAction* const action : actions) {
@@ -22,7 +22,7 @@ protected:
     }
 };
 
-TEST_F(WidgetsTest, TwipsBecomePixelsAndContainersParents) {
+TEST_F(WidgetsTest, TwipsBecomePixelsAndContainersBecomeParents) {
     const Control* const controls[] = {&window.lblField(1), &window.lblField(81),
                                        &window.fraNumPad,   &window.btnSolve,
                                        &window.lblInfo,     &window.ctlRotor1};
@@ -41,7 +41,7 @@ TEST_F(WidgetsTest, TwipsBecomePixelsAndContainersParents) {
 
 TEST_F(WidgetsTest, WindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
     const int narrow = form->frameGeometry().width();
-    EXPECT_NEAR(narrow, 8850 / 15, 2); // a thin frame leaves a strip beside the controls unused
+    EXPECT_NEAR(narrow, 8850 / 15, 2); // a thin frame leaves an empty strip
     EXPECT_EQ(form->frameGeometry().height(), 7170 / 15);
     for (const bool wide : {false, true, false}) {
         window.SetInfoVisible(wide);

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Works the program by keyboard and listens as a screen reader does, on the bus for assistive
-technologies: screen_reader.py <program>. Needs a display and a session bus."""
+"""Works the program by keyboard and listens on the accessibility bus as a screen reader does:
+screen_reader.py <program>. Needs a display and a session bus."""
 
 import os
 import subprocess
@@ -12,7 +12,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
-# Each key with what is said of the control that has the focus afterwards.
+# Each key with the name of the control that has the focus afterwards.
 STEPS = [
     (None, "row 1, column 1: empty, current"),
     ("Right", "row 1, column 2: empty, current"),
@@ -52,7 +52,7 @@ try:
         if key:
             subprocess.run(["xdotool", "key", key], check=True)
         say_until(text)
-        desktop = Atspi.get_desktop(0)  # a program speaks to those who look at it
+        desktop = Atspi.get_desktop(0)  # a program sends events to clients that read its tree
         for i in range(desktop.get_child_count()):
             desktop.get_child_at_index(i).get_name()
 finally:
