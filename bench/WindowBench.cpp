@@ -197,7 +197,7 @@ class UntilFirstPaint : public QObject {
     }
 };
 
-// Much the same controls, texts and fonts as in the program's window, made of Qt's widgets alone.
+// The same kinds and numbers of controls in the same fonts, made of Qt's widgets alone.
 class BareWindow : public QWidget {
 public:
     BareWindow() {
@@ -212,6 +212,7 @@ public:
                 menu->addAction(entry);
         }
         mMenuBar.resize(588, 19);
+        Add<QLabel>(*this, "", "", 10, 20, 8, 569, 17);
         for (int k = 0; k < 81; ++k)
             Add<QLabel>(*this, "", "Arial Black", 27, 20 + k % 9 * 40, 30 + k / 9 * 40);
         auto& pad = Add<QFrame>(*this, {}, "Arial", 27, 410, 28, 160, 420);
@@ -219,6 +220,8 @@ public:
             Add<QPushButton>(pad, QString::number(k), "Arial", 27, k % 3 * 50, k / 3 * 50);
         for (const char* const caption : {">", ">I", "S", "<", "<<", "F", "I"})
             Add<QPushButton>(pad, caption, "Arial", 19, 10, 220);
+        for (int k = 0; k < 2; ++k)
+            Add<QLabel>(pad, "", "Arial", 19, 10 + 100 * k, 320);
         auto& side = Add<QGroupBox>(*this, "Chillout", "", 10, 590, 28, 169, 420);
         for (const char* const caption : {"0", "100", "200", "400", "800", "Quiet", "Step"})
             Add<QRadioButton>(side, caption, "", 10, 10, 20);

@@ -108,7 +108,7 @@ TEST_F(CommandsTest, EditMenuLocksAndClears) {
         answer 1 & click mnuEditClearFree > Box(Clear Free?||YesNo|?)
         fields 1 2 > 5:green/red :normal/text & file > a.csv
         answer 1 & click mnuEditClearAll > Box(Clear All?||YesNo|?)
-        fields 1 2 > :green/text :normal/text & file >
+        fields 1 2 > :green/text :normal/text & file > & pad > 0123456789XC 0123456789C normal
     )");
 }
 

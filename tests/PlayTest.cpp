@@ -63,6 +63,8 @@ TEST_F(PlayTest, GoingBackToFreedom) {
         retreat 0 > StatusChanged(81) BeforeIndexChanged(81) IndexChanged(1) T [1]
         index 80 & retreat 1 > BeforeIndexChanged(80) IndexChanged(1) StatusChanged(1) T
         next 0 > 0 & fill .234567891 & trace 2 1 & retreat 1 > F Beep
+        fill 12345678. & set 81 2 & index 81 & trace 9 81
+        retreat 0 > StatusChanged(81) BeforeIndexChanged(81) IndexChanged(9) T [9]
     )");
 }
 

@@ -91,6 +91,19 @@ TEST_F(PuzzleTextTest, RefusedSDKLeavesTheGrid) {
     }
 }
 
+TEST_F(PuzzleTextTest, AnErrorQuotesTheItem) {
+    for (const auto& [size, end] : {std::pair{40U, "\""}, {41U, "...\""}}) {
+        const std::string item(size, 'x');
+        std::string told;
+        try {
+            grid.SetTextCSV("Index;Value;Locked\r\n" + item + ";1;1");
+        } catch (const TypeMismatchError& error) {
+            told = error.what();
+        }
+        EXPECT_EQ(told, "\"" + item.substr(0, 40) + end + " is not a whole number");
+    }
+}
+
 TEST_F(PuzzleTextTest, SDKOfDimension5) {
     std::string text = "\"Sudoku\"\r\n";
     for (int i = 0; i < 625; ++i)

@@ -94,8 +94,7 @@ void Play::Enter(Field& field, int value) {
 
 void Play::Empty(Field& field) {
     field.SetValue(0);
-    if (!mbTracing || !History || History->Count() == 0) return;
-    History->Remove(field.Index);
+    if (mbTracing && History) History->Remove(field.Index);
     GotoNewestEntry();
 }
 

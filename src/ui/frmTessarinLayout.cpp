@@ -74,7 +74,6 @@ void frmTessarin::CreateNumPad() {
     zero.SetWidth(FieldSide);
     zero.SetHeight(FieldSide);
     zero.SetFont(font);
-    zero.SetCaption("0");
     const auto create = [this](int key, const std::string& caption,
                                const std::string& toolTip) -> CommandButton& {
         CommandButton& button = btnNumPad.Load(key);

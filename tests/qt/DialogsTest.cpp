@@ -26,6 +26,7 @@ TEST_F(DialogsTest, BoxesHaveTheirTitlesIconsAndButtons) {
         for (auto* const button : box.buttons())
             seen += (button == box.defaultButton() ? " [" : " ") + button->text().toStdString();
         seen += "\n";
+        EXPECT_GE(box.width(), 280) << "wide enough for its title";
     };
     for (const char* const step :
          {"answer No & menu mnuEditClearAll", "answer Esc & menu mnuEditClearAll",

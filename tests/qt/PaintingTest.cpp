@@ -68,9 +68,13 @@ TEST_P(PaintingTest, BackgroundsBordersDigitsAndTheFocusCanBeSeen) {
     const int around = qGray(QApplication::palette().color(QPalette::Window).rgb());
     for (const char* const name : {"lblField(40)", "lblDeadEnd", "lblWinner", "fraInfo"}) {
         const QImage image = Picture(name);
-        const QPoint edge(0, image.height() / 2);
-        EXPECT_GT(Contrast(image, {edge, edge}, edge + QPoint(1, 0)), 60) << name;
-        EXPECT_GT(std::abs(qGray(image.pixel(edge)) - around), 60) << name;
+        const int right = image.width() - 1, bottom = image.height() - 1;
+        for (const auto& [edge, inside] : {std::pair{QPoint(0, 20), QPoint(1, 20)},
+                                           {{right, 20}, {right - 1, 20}},
+                                           {{20, bottom}, {20, bottom - 1}}}) {
+            EXPECT_GT(Contrast(image, {edge, edge}, inside), 60) << name;
+            EXPECT_GT(std::abs(qGray(image.pixel(edge)) - around), 60) << name;
+        }
     }
     EXPECT_GT(Contrast(Picture("fraInfo"), {8, 2, 60, 10}, {4, 2}), 60) << "caption";
 }
