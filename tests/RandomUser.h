@@ -59,8 +59,8 @@ public:
         platform.Answers.assign(2, true);
         Do(line);
         ExpectRightStatus();
-        const auto is = [&](const char* name) { return move.find(name) != std::string::npos; };
-        mbStale |= is("#;4") || is("init") || is("reload") || is("Clear") || is("Chill");
+        const auto is = [&line](const char* name) { return line.find(name) != std::string::npos; };
+        mbStale |= is("import") || is("init") || is("reload") || is("Clear") || is("Chill");
         if (--mlDepth == 0 && IsOpen()) ExpectInOrder();
     }
 

@@ -87,7 +87,7 @@ void QtFileDialog::AcceptQuoted(const QString& name) {
     if (file.isDir() || !(mRequest.Saving ? file.dir().exists() : file.isFile()))
         return QFileDialog::accept(); // shows the error
     mQuoted = path;
-    QDialog::accept();
+    done(Accepted);
 }
 
 } // namespace tessarin::qt

@@ -199,10 +199,10 @@ void QtForm::closeEvent(QCloseEvent* event) {
 }
 
 void QtForm::keyPressEvent(QKeyEvent* event) {
-    constexpr auto Shortcuts = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const bool shortcut =
+        event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     event->ignore();
-    if ((event->modifiers() & Shortcuts) || event->isAutoRepeat() || focusWidget() == &mMenuBar)
-        return;
+    if (shortcut || event->isAutoRepeat() || focusWidget() == &mMenuBar) return;
     const auto buttons = mClient.findChildren<QPushButton*>();
     for (QPushButton* const button : buttons)
         if (button->isVisible() && button->text().size() == 1 &&
