@@ -1,9 +1,11 @@
 #pragma once
 
+#include "ScratchFolder.h"
 #include "ScriptedPlatform.h"
 #include "model/Errors.h"
 #include "play/Game.h"
 #include "support/modStringLibrary.h"
+#include "support/modTextStream.h"
 
 #include <gtest/gtest.h>
 
@@ -49,6 +51,7 @@ public:
     Game& game;
     Fields& grid = *game.Fields;
     Play& play = *game.Play;
+    ScratchFolder folder;
 
     GameScript(CallLog& log, Game& played) : game(played), mLog(log) {}
 
@@ -149,6 +152,15 @@ protected:
         for (int index = 0; words >> index;)
             play.History->Add(index);
     }
+    // Writes a file: its name, a blank, and its lines, separated by "|".
+    void Write(const std::string& text) {
+        const auto name = text.substr(0, text.find(' '));
+        folder.Write(name,
+                     ReplaceAll(text.substr(std::min(name.size() + 1, text.size())), "|", "\r\n"));
+    }
+    std::string Content(const std::string& name) const {
+        return ReplaceAll(ReadTextFile(folder.File(name)), "\r\n", "|");
+    }
     // The second number of `text`.
     static int Second(const std::string& text) { return std::atoi(text.c_str() + text.find(' ')); }
 
@@ -168,6 +180,8 @@ protected:
         {"csv", [&](int, auto& text) { grid.SetTextCSV(ReplaceAll(text, "|", "\r\n")); }},
         {"sdk", [&](int, auto& text) { grid.SetTextSDK(ReplaceAll(text, "|", "\r\n")); }},
         {"is", [&](int, auto&) { Tell(ReplaceAll(grid.TextCSV(), "\r\n", "|").substr(18)); }},
+        {"write", [&](int, auto& text) { Write(text); }},
+        {"read", [&](int, auto& name) { Tell(Content(name)); }},
         {"trace", [&](int, auto& history) { Trace(history); }},
         {"tracing", [&](int on, auto&) { play.SetTracing(on == 1); }},
         {"reset", [&](int, auto&) { play.Reset(); }},
@@ -199,6 +213,9 @@ public:
     ScriptedPlatform& platform = OwnPlatform;
 
     TestGame() : GameScript(OwnPlatform, OwnGame) {
+        mCommands["pumps"] = [this](int, auto&) {
+            Tell(std::to_string(std::exchange(platform.Pumps, 0)));
+        };
         Listen(grid.Events, "");
         mConnections.push_back(grid.Events.Init.Connect([this] { mTold += "Init "; }));
     }

@@ -10,39 +10,33 @@
 
 namespace tessarin {
 
-std::string Joined(std::initializer_list<std::string> texts) {
-    std::string joined;
-    for (const auto& text : texts)
-        joined += text + "|";
-    return joined;
-}
-
 TEST(SupportTest, TextsAndDates) {
-    EXPECT_EQ(Joined({PadLeft(" 12 ", 4, "0"), PadLeft(" 12 ", 1, "0"), PadLeft(" 12 "),
-                      PadLeft("12", 0, "0"), PadLeft("12", 4, "xy"), PadLeft("12", 4, "")}),
-              "0012|2|  12||xx12|  12|");
-    EXPECT_EQ(Joined({PadNumber(7, 4, ""), PadNumber(12345, 4, ""), PadNumber(-5, 4, ""),
-                      PadInteger(48, 3, " ")}),
-              "0007|2345|00-5| 48|");
-    EXPECT_EQ(Joined({ReplaceAll("a a", " ", "-"), ReplaceAll("aaa", "a", "aa"),
-                      ReplaceAll("aaa", "aa", "b"), ReplaceAll("aXax", "ax", ""),
-                      ReplaceAll("abc", "", "x")}),
-              "a-a|aaaaaa|ba|aX|abc|");
-    EXPECT_EQ(
-        Joined({DeleteChars("abcde", 2, 2), DeleteChars("abcde", 2), DeleteChars("abcde", 4, 32767),
-                DeleteChars("abcde", 6, 1), DeleteChars("abcde", 3, 0), DeleteChars("abcde", -1, 3),
-                DeleteChars("abcde", 0, 1)}),
-        "ade|a|abc|abcde|abcde|bcde|abcde|");
-    EXPECT_EQ(
-        Joined({InsertText("abc", "X", 1), InsertText("abc", "XY", 3), InsertText("abc", "X", 4),
-                InsertText("abc", "X", 5), InsertText("abc", "X", 0)}),
-        "Xabc|abXYc|abcX|abc|abc|");
-    EXPECT_EQ(
-        Joined({JoinPath("C:\\a\\", "\\b"), JoinPath(" C:\\a b ", " b "), JoinPath("", "\\\\b")}),
-        "C:\\a\\b|C:\\a b\\b|\\\\b|");
-    EXPECT_EQ(Joined({DateTimeStamp({2000, 1, 1, 0, 0, 0}),
-                      DateTimeStamp({2022, 4, 29, 16, 49, 52}), DateTimeStamp({})}),
-              "20000101 000000|20220429 164952|               |");
+    const std::pair<std::string, std::string> cases[] = {
+        {PadLeft(" 12 ", 4, "0"), "0012"},
+        {PadLeft(" 12 ", 1, "0"), "2"},
+        {PadLeft(" 12 "), "  12"},
+        {PadLeft("12", 0, "0"), ""},
+        {PadLeft("12", 4, "xy"), "xx12"},
+        {PadLeft("12", 4, ""), "  12"},
+        {PadNumber(7, 4, "") + PadNumber(12345, 4, "") + PadNumber(-5, 4, ""), "0007234500-5"},
+        {PadInteger(48, 3, " "), " 48"},
+        {ReplaceAll("a a", " ", "-") + ReplaceAll("aaa", "a", "aa"), "a-aaaaaaa"},
+        {ReplaceAll("aaa", "aa", "b") + ReplaceAll("aXax", "ax", ""), "baaX"},
+        {ReplaceAll("abc", "", "x"), "abc"},
+        {DeleteChars("abcde", 2, 2) + DeleteChars("abcde", 2), "adea"},
+        {DeleteChars("abcde", 4, 32767) + DeleteChars("abcde", 6, 1), "abcabcde"},
+        {DeleteChars("abcde", 3, 0) + DeleteChars("abcde", 0, 1), "abcdeabcde"},
+        {DeleteChars("abcde", -1, 3), "bcde"},
+        {InsertText("abc", "X", 1) + InsertText("abc", "XY", 3), "XabcabXYc"},
+        {InsertText("abc", "X", 4) + InsertText("abc", "X", 5), "abcXabc"},
+        {InsertText("abc", "X", 0), "abc"},
+        {JoinPath("C:\\a\\", "\\b") + JoinPath(" C:\\a b ", " b "), "C:\\a\\bC:\\a b\\b"},
+        {JoinPath("", "\\\\b"), "\\\\b"},
+        {DateTimeStamp({2000, 1, 1, 0, 0, 0}), "20000101 000000"},
+        {DateTimeStamp({2022, 4, 29, 16, 49, 52}), "20220429 164952"},
+        {DateTimeStamp({}), std::string(15, ' ')}};
+    for (const auto& [text, expected] : cases)
+        EXPECT_EQ(text, expected);
 }
 
 TEST(SupportTest, WaitPumpsBeforeAndAfterSleeping) {
@@ -74,19 +68,15 @@ TEST(SupportTest, EscAsksUntilTheAnswerIsYes) {
     ClearCancel();
 }
 
-TEST(SupportTest, AboutText) {
+TEST(SupportTest, AboutTextAndTaskbarEntry) {
     ScriptedPlatform platform;
     platform.Program = {"Solves", "by X", "https://x", 1, 6, 48};
+    ShowAbout();
+    ShowAbout();
     const std::string box = "Box(FileDescription: Solves\r\nCopyright: by X\r\nInternet: https://x"
                             "\r\nVersion: 01.06.048\r\nRelease: 29.04.2022 - 06:49:52"
                             "|About Tessarin|Ok|-) ";
-    ShowAbout();
-    ShowAbout();
     EXPECT_EQ(platform.TakeCalls(), box + box);
-}
-
-TEST(SupportTest, TaskbarEntry) {
-    ScriptedPlatform platform;
     for (const auto& [before, show, after] :
          {std::tuple{0x10, true, 0x40010}, {0x40010, true, 0x40010}, {0x40010, false, 0x10}}) {
         platform.WindowStyle = before;

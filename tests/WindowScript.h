@@ -2,7 +2,6 @@
 
 #include "FakeToolkit.h"
 #include "GameFixture.h"
-#include "ScratchFolder.h"
 #include "ui/Colors.h"
 #include "ui/frmTessarin.h"
 
@@ -74,7 +73,6 @@ public:
 
     ScriptedPlatform& platform = OwnPlatform;
     FakeToolkit& toolkit = OwnToolkit;
-    ScratchFolder folder;
 
 private:
     static std::string NameOf(Color color) {

@@ -3,7 +3,6 @@
 
 #include "GameFixture.h"
 #include "Program.h"
-#include "ScratchFolder.h"
 #include "qt/QtForm.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtToolkit.h"
@@ -65,8 +64,6 @@ protected:
 
     QWidget& Widget(const std::string& name);
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
-
-    ScratchFolder folder;
 
 private:
     void LookForBox();
