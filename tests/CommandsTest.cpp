@@ -2,7 +2,6 @@
 #include "WindowScript.h"
 
 #include "support/modKbd.h"
-#include "support/modTextStream.h"
 
 namespace tessarin {
 
@@ -33,67 +32,50 @@ TEST_F(CommandsTest, PadKeysEnterLockAndClear) {
     )");
 }
 
-TEST_F(CommandsTest, ImportReplacesTheGridWhateverTheFileHolds) {
-    const std::string header = "Index;Value;Locked\r\n";
-    using Row = std::tuple<const char*, std::string, int>;
-    for (const auto& [name, content, filled] :
-         {Row{"good.csv", header + "1;5;1\r\n12;3;0", 2}, Row{"plain", header + "1;5;1", 1},
-          Row{"empty.csv", "", 0}, Row{"other.csv", "index;value;locked\r\n1;5;1", 0},
-          Row{"halfway.csv", header + "1;5;1\r\n12;3;0\r\n13;x;0\r\n14;4;0", 2}}) {
-        SCOPED_TRACE(name);
-        play.Reset();
-        Do("set 81 7 & lock 81 1");
+TEST_F(CommandsTest, FilesAreImportedAndExported) {
+    mCommands["dirty"] = [this](int, auto&) {
+        Do("csv");
+        Do("set 81 7");
         window.lblFile.SetCaption("old");
         window.lblDeadEnd.SetBackColor(Red);
         window.lblWinner.SetBackColor(Green);
-        std::string whileLoading = "not loaded";
-        const auto connection =
-            grid.Events.Init.Connect([&] { whileLoading = window.lblFile.Caption(); });
-        toolkit.Files = {folder.Write(name, content)};
-        Script("click mnuFileImportCSV > [] & lights > normal normal");
-        EXPECT_EQ(81 - grid.FreeCount(), filled);
-        EXPECT_EQ(Shows(81) + Shows(1),
-                  filled > 0 ? ":normal/text5:green/red" : ":normal/text:green/text");
-        EXPECT_EQ(whileLoading, "");
-        EXPECT_EQ(window.lblFile.Caption(), folder.File(name));
-        EXPECT_TRUE(play.Tracing());
+        play.Reset();
+    };
+    mCommands["dialog"] = [this](int, auto&) {
+        const FileDialogRequest& dialog = toolkit.Dialog;
+        EXPECT_EQ(dialog.Filter, "CSV Dokumente (*.csv)|*.csv|Alle Dateien (*.*)|*.*");
+        Tell(dialog.Title + (dialog.Saving ? " saving " : " existing ") + dialog.DefaultExt);
+        EXPECT_EQ(dialog.FileMustExist, !dialog.Saving);
+        EXPECT_TRUE(dialog.PathMustExist);
+    };
+    // Both dialogs are cancelled, or answered with an empty name.
+    for (const std::size_t empty : {0U, 2U}) {
+        toolkit.Files.assign(empty, "");
+        Script(R"(
+            dirty & click mnuFileExportCSV > & dialog > Export File saving .csv
+            caption lblFile > old & lights > red green
+            dirty & click mnuFileImportCSV > & dialog > Import File existing .csv
+            caption lblFile > old & lights > normal normal & is > |81;7;0
+        )");
     }
-}
-
-TEST_F(CommandsTest, CancelledDialogs) {
-    window.lblFile.SetCaption("old");
-    for (const auto& [entry, title, mustExist, lights] :
-         {std::tuple{"mnuFileExportCSV", "Export File", false, "red green"},
-          {"mnuFileImportCSV", "Import File", true, "normal normal"}})
-        for (const bool emptyName : {false, true}) {
-            SCOPED_TRACE(entry);
-            Do("set 81 7");
-            window.lblDeadEnd.SetBackColor(Red);
-            window.lblWinner.SetBackColor(Green);
-            if (emptyName) toolkit.Files = {""};
-            Script(std::string("click ") + entry + " > & fields 81 > 7:normal/text & file > old");
-            Script(std::string("lights > ") + lights);
-            const FileDialogRequest& dialog = toolkit.Dialogs.back();
-            EXPECT_EQ(dialog.Title, title);
-            EXPECT_EQ(dialog.Filter, "CSV Dokumente (*.csv)|*.csv|Alle Dateien (*.*)|*.*");
-            EXPECT_EQ(dialog.DefaultExt, ".csv");
-            EXPECT_EQ(dialog.FileMustExist, mustExist);
-            EXPECT_EQ(dialog.Saving, !mustExist);
-            EXPECT_TRUE(dialog.PathMustExist);
-        }
-}
-
-TEST_F(CommandsTest, ExportWritesANewFileAndLeavesAnExistingOne) {
-    Do("set 1 5");
-    Do("lock 1 1");
-    const std::string old = folder.Write("old.csv", "mine");
+    const auto loading = grid.Events.Init.Connect([this] { mTold += window.lblFile.Caption(); });
     Script(R"(
-        choose new.csv & click mnuFileExportCSV > [] & file >
-        reset > [none] & choose old.csv & click mnuFileExportCSV > []
+        write good.csv Index;Value;Locked|1;5;1|12;3;0 & write plain Index;Value;Locked|1;5;1
+        dirty & choose good.csv & click mnuFileImportCSV > [] & is > |1;5;1|12;3;0
+        caption lblFile > good.csv & lights > normal normal & fields 1 81 > 5:green/red :normal/text
+        dirty & choose plain & click mnuFileImportCSV > [] & caption lblFile > plain & is > |1;5;1
+        write empty.csv & write other.csv index;value;locked|1;5;1
+        dirty & choose empty.csv & click mnuFileImportCSV > [] & is > & caption lblFile > empty.csv
+        dirty & choose other.csv & click mnuFileImportCSV > [] & is >
+        write bad.csv Index;Value;Locked|1;5;1|12;3;0|13;x;0|14;4;0
+        dirty & choose bad.csv & click mnuFileImportCSV > [] & is > |1;5;1|12;3;0
+        caption lblFile > bad.csv & fields 1 81 > 5:green/red :normal/text
+        choose new.csv & click mnuFileExportCSV > & caption lblFile > bad.csv
+        read new.csv > Index;Value;Locked|1;5;1|12;3;0 & reset > [none]
+        choose good.csv & click mnuFileExportCSV > [] & read good.csv > Index;Value;Locked|1;5;1|12;3;0
         choose gone/new.csv & click mnuFileExportCSV >
     )");
-    EXPECT_EQ(ReadTextFile(folder.File("new.csv")), "Index;Value;Locked\r\n1;5;1");
-    EXPECT_EQ(ReadTextFile(old), "mine");
+    EXPECT_TRUE(play.Tracing());
 }
 
 TEST_F(CommandsTest, EditMenuLocksAndClears) {
@@ -106,9 +88,10 @@ TEST_F(CommandsTest, EditMenuLocksAndClears) {
         answer 0 & click mnuEditClearAll > Box(Clear All?||YesNo|?)
         fields 1 2 > 5:green/red 3:normal/text
         answer 1 & click mnuEditClearFree > Box(Clear Free?||YesNo|?)
-        fields 1 2 > 5:green/red :normal/text & file > a.csv
+        fields 1 2 > 5:green/red :normal/text & caption lblFile > a.csv
         answer 1 & click mnuEditClearAll > Box(Clear All?||YesNo|?)
-        fields 1 2 > :green/text :normal/text & file > & pad > 0123456789XC 0123456789C normal
+        fields 1 2 > :green/text :normal/text & caption lblFile >
+        pad > 0123456789XC 0123456789C normal
     )");
 }
 

@@ -1,4 +1,4 @@
-// What fields, information panel and number pad show.
+// What fields, information panel and number pad show and say.
 #include "WindowScript.h"
 
 namespace tessarin {
@@ -6,42 +6,24 @@ namespace tessarin {
 using DisplayTest = WindowFixture;
 
 TEST_F(DisplayTest, MarkWinsOverDeadAndDeadOverCursor) {
-    Do("fill .12345678.9");
-    // C: cursor, L: locked, N: marked as a neighbour, G: marked as a member of a group.
-    using Row = std::tuple<int, std::string, const char*>;
-    for (const auto& [index, state, look] :
-         {Row{1, "", ":red/text"}, Row{1, "C", ":red/text"}, Row{1, "L", ":red/red"},
-          Row{1, "CN", ":yellow/text"}, Row{1, "G", ":yellow/text"}, Row{2, "", "1:normal/text"},
-          Row{2, "C", "1:green/text"}, Row{2, "L", "1:normal/red"}, Row{2, "CL", "1:green/red"},
-          Row{2, "CLG", "1:yellow/red"}, Row{10, "", ":normal/text"}}) {
-        SCOPED_TRACE(std::to_string(index) + state);
-        const auto is = [&state = state](char letter) {
-            return state.find(letter) != std::string::npos;
-        };
-        grid.SetIndex(is('C') ? index : 81);
-        At(index).SetLocked(is('L'));
-        window.lblField(index).SetFont({.Name = "Arial", .Size = 12, .Italic = true});
-        window.PaintField(index, is('N'), is('G'));
-        EXPECT_EQ(Shows(index), look);
-        At(index).SetLocked(false);
-    }
+    Script(R"(
+        fill .12345678.9 & index 81 & paint 1 & fields 1 2 10 > :red/text 1:normal/text :normal/text
+        lock 1 1 & lock 2 1 & paint 1 & paint 2 & fields 1 2 > :red/red 1:normal/red
+        index 1 & fields 1 > :red/red & paint 1 N & fields 1 > :yellow/red & paint 1
+        index 2 & fields 1 2 > :red/red 1:green/red & lock 2 0 & fields 2 > 1:green/text
+        paint 2 N & paint 10 G & fields 2 10 > 1:yellow/text :yellow/text
+    )");
 }
 
 TEST_F(DisplayTest, InfoPanelDescribesTheFieldPaintedLast) {
-    Do("fill .12345678.9");
-    At(11).SetLocked(true);
     play.Retries = 7;
-    grid.SetIndex(11);
-    window.PaintField(1);
-    EXPECT_EQ(window.lblInfo.Caption(),
-              "Index=1\r\nValue=0\r\n\r\nFreedom=0\r\nFreeValuesList=\r\n\r\nIsCursor=False\r\n"
-              "IsLocked=False\r\nIsEmpty=True\r\nIsDeadCell=True\r\n\r\nRetries=7\r\nDeadCount=1");
-    window.PaintField(0);
-    EXPECT_EQ(window.lblInfo.Caption(),
-              "Index=11\r\nValue=9\r\n\r\nFreedom=6\r\nFreeValuesList=3;4;5;6;7;8;\r\n\r\n"
-              "IsCursor=True\r\nIsLocked=True\r\nIsEmpty=False\r\nIsDeadCell=False\r\n\r\n"
-              "Retries=7\r\nDeadCount=1");
-    grid.SetIndex(0);
+    Script(R"(
+        fill .12345678.9 & lock 11 1 & index 11 & paint 1
+        caption lblInfo > Index=1|Value=0||Freedom=0|FreeValuesList=||IsCursor=False|IsLocked=False|IsEmpty=True|IsDeadCell=True||Retries=7|DeadCount=1
+        paint 0
+        caption lblInfo > Index=11|Value=9||Freedom=6|FreeValuesList=3;4;5;6;7;8;||IsCursor=True|IsLocked=True|IsEmpty=False|IsDeadCell=False||Retries=7|DeadCount=1
+        index 0
+    )");
     window.RefreshAll();
     Script("fields 1 > :red/text & cursor > 1");
     EXPECT_EQ(window.lblInfo.Caption().substr(0, 10), "Index=81\r\n");
@@ -73,12 +55,9 @@ TEST_F(DisplayTest, ScreenReadersHearWhatTheColoursTell) {
         hear btnGoBack > go back to previous field & hear btnNextFreeValue > next free value
         hear btnGoBackToFreedom > go back to last field with freedom
         hear btnInfo > show/hide fild info
+        during hear lblField(2) => row 1, column 2: 1, marked & click mnuViewNeighbours & clear
+        during hear lblField(2) => row 1, column 2: empty, freedom 9 & click mnuViewFreedom
     )");
-    std::string whileShown;
-    platform.AtBox = [&] { whileShown += Do("hear lblField(2)") + "; "; };
-    for (const char* const step : {"click mnuViewNeighbours", "clear", "click mnuViewFreedom"})
-        Do(step);
-    EXPECT_EQ(whileShown, "row 1, column 2: 1, marked; row 1, column 2: empty, freedom 9; ");
 }
 
 TEST_F(DisplayTest, AtMostOneFieldIsGreen) {

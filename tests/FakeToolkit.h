@@ -9,7 +9,6 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace tessarin {
 
@@ -17,7 +16,7 @@ namespace tessarin {
 class FakeToolkit : public Toolkit {
 public:
     std::deque<std::string> Files; ///< the next file dialogs choose these, then they are cancelled
-    std::vector<FileDialogRequest> Dialogs; ///< shown so far
+    FileDialogRequest Dialog;      ///< shown last
     std::function<void()> OnClosed = [] {}; ///< runs when the form has closed
 
     Control& Find(const std::string& name) {
@@ -42,7 +41,7 @@ public:
     std::unique_ptr<ControlPeer> Create(MenuItem& item, Form&) override { return Add(item); }
     std::unique_ptr<ControlPeer> Create(MenuItem& item, MenuItem&) override { return Add(item); }
     std::optional<std::string> RunFileDialog(const FileDialogRequest& request) override {
-        Dialogs.push_back(request);
+        Dialog = request;
         if (Files.empty()) return std::nullopt;
         std::string file = std::move(Files.front());
         Files.pop_front();

@@ -176,6 +176,8 @@ protected:
         {"clear", [&](int freeOnly, auto&) { grid.Clear(freeOnly == 1); }},
         {"lockall", [&](int state, auto&) { grid.SetLockAll(state == 1); }},
         {"status", [&](int, auto&) { Tell(std::to_string(grid.Status())); }},
+        {"cursor", [&](int, auto&) { Tell(std::to_string(grid.Index())); }},
+        {"left", [&](int, auto&) { Tell(std::to_string(grid.FreeCount())); }},
         {"counts", [&](int, auto&) { Tell(Counts()); }},
         {"csv", [&](int, auto& text) { grid.SetTextCSV(ReplaceAll(text, "|", "\r\n")); }},
         {"sdk", [&](int, auto& text) { grid.SetTextSDK(ReplaceAll(text, "|", "\r\n")); }},

@@ -5,8 +5,6 @@
 #include "ui/Colors.h"
 #include "ui/frmTessarin.h"
 
-#include <filesystem>
-
 namespace tessarin {
 
 struct WindowParts {
@@ -22,46 +20,58 @@ struct WindowParts {
 class WindowScript : protected WindowParts, public GameScript {
 public:
     WindowScript() : GameScript(OwnPlatform, *goGame) {
+        platform.AtBox = platform.AtSleep = [this] { Meanwhile(); };
         window.Show();
         window.RaiseActivate();
-        mCommands["click"] = [this](int, auto& name) { Click(name); };
-        mCommands["answer"] = [this](int yes, auto&) { platform.Answers.push_back(yes == 1); };
-        mCommands["choose"] = [this](int, auto& name) {
-            toolkit.Files.push_back(folder.File(name));
-        };
-        mCommands["import"] = [this](int, auto& lines) {
-            toolkit.Files.push_back(folder.Write("import.csv", "Index;Value;Locked\r\n" +
-                                                                   ReplaceAll(lines, "|", "\r\n")));
+        const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
+        add("click", [this](int, auto& name) { Click(name); });
+        add("answer", [this](int yes, auto&) { platform.Answers.push_back(yes == 1); });
+        add("choose", [this](int, auto& name) { toolkit.Files.push_back(folder.File(name)); });
+        add("import", [this](int, auto& lines) {
+            Write("import.csv Index;Value;Locked|" + lines);
+            toolkit.Files.push_back(folder.File("import.csv"));
             Click("mnuFileImportCSV");
-        };
-        mCommands["fields"] = [this](int, auto& indices) {
+        });
+        // Sets the steps for the next box, pause or change of a field, with "=>" for ">" and "; "
+        // between them.
+        add("during", [this](int, auto& steps) { mMeanwhile = steps; });
+        // Paints a field, N: marked as a neighbour, G: marked as a member of a group.
+        add("paint", [this](int index, auto& text) {
+            const auto has = [&](char mark) { return text.find(mark) != std::string::npos; };
+            window.PaintField(index, has('N'), has('G'));
+        });
+        add("fields", [this](int, auto& indices) {
             std::istringstream words(indices);
             for (int index = 0; words >> index;)
                 Tell(Shows(index));
-        };
-        mCommands["cursor"] = [this](int, auto&) { Tell(std::to_string(grid.Index())); };
-        mCommands["pad"] = [this](int, auto&) { Tell(Pad()); };
-        mCommands["lights"] = [this](int, auto&) {
+        });
+        add("yellow", [this](int, auto&) { Tell(YellowFields()); });
+        add("pad", [this](int, auto&) { Tell(Pad()); });
+        add("lights", [this](int, auto&) {
             Tell(NameOf(window.lblDeadEnd.BackColor()) + " " +
                  NameOf(window.lblWinner.BackColor()));
-        };
-        mCommands["file"] = [this](int, auto&) {
-            Tell(std::filesystem::path(window.lblFile.Caption()).filename().string());
-        };
+        });
+        add("caption", [this](int, auto& name) {
+            const auto& text = dynamic_cast<Label&>(toolkit.Find(name)).Caption();
+            Tell(ReplaceAll(ReplaceAll(text, "\r\n", "|"), folder.File(""), ""));
+        });
+        add("busy", [this](int, auto&) { Tell(Busy()); });
     }
 
     void Click(const std::string& name) { toolkit.Find(name).RaiseClick(); }
 
-    /// The look of a field's label: caption, background and text colour, and the font if it is not
-    /// that of values: "7:green/text", ":yellow/red:Arial:12:italic".
-    std::string Shows(int index) {
-        const Label& label = window.lblField(index);
-        const auto& [name, size, italic] = label.Font();
-        const std::string look =
-            label.Caption() + ":" + NameOf(label.BackColor()) + "/" + NameOf(label.ForeColor());
-        if (name == "Arial Black" && size == 20 && !italic) return look;
-        return look + ":" + name + ":" + std::to_string(static_cast<int>(size)) +
-               (italic ? ":italic" : "");
+    /// What is not as it is while no command runs.
+    std::string Busy() {
+        std::string busy;
+        for (Control* const control :
+             std::initializer_list<Control*>{&window.mnuFile, &window.mnuEdit, &window.mnuView,
+                                             &window.mnuHelp, &window.fraAction, &window.fraNumPad})
+            if (!control->Enabled()) busy += control->Name() + " ";
+        if (window.ViewRunning()) busy += "view ";
+        if (window.ctlRotor1.Running()) busy += "rotor ";
+        if (platform.Hourglass) busy += "hourglass ";
+        if (platform.Closed) busy += "closed ";
+        return busy.substr(0, busy.size() - (busy.empty() ? 0 : 1));
     }
 
     std::string YellowFields() {
@@ -75,6 +85,18 @@ public:
     FakeToolkit& toolkit = OwnToolkit;
 
 private:
+    // The look of a field's label: caption, background and text colour, and the font if it is not
+    // that of values: "7:green/text", ":yellow/red:Arial:12:italic".
+    std::string Shows(int index) {
+        const Label& label = window.lblField(index);
+        const auto& [name, size, italic] = label.Font();
+        const std::string look =
+            label.Caption() + ":" + NameOf(label.BackColor()) + "/" + NameOf(label.ForeColor());
+        if (name == "Arial Black" && size == 20 && !italic) return look;
+        return look + ":" + name + ":" + std::to_string(static_cast<int>(size)) +
+               (italic ? ":italic" : "");
+    }
+
     static std::string NameOf(Color color) {
         static const std::map<Color, std::string> names{{WindowBackground, "normal"},
                                                         {ButtonText, "text"},
@@ -94,6 +116,13 @@ private:
         }
         return visible + " " + enabled + " " + NameOf(window.fraNumPad.BackColor());
     }
+
+    void Meanwhile() {
+        Script(ReplaceAll(ReplaceAll(std::exchange(mMeanwhile, ""), "; ", "\n"), "=>", ">"));
+    }
+
+    std::string mMeanwhile;
+    Connection mChanges = game.Events.StatusChanged.Connect([this](int) { Meanwhile(); });
 };
 
 class WindowFixture : public testing::Test, protected WindowScript {};
