@@ -53,20 +53,6 @@ TEST_F(SolveWindowTest, PanelsAreDisabledDuringASolveAndAllElseAnswers) {
     Script("click mnuFileQuit & busy > closed");
 }
 
-TEST_F(SolveWindowTest, ANewPaceTakesEffectBeforeQueuedClicks) {
-    Do("click optChill(5)");
-    int sent = 0;
-    std::function<void()> user = [&] {
-        platform.AtPump(1, user);
-        if (platform.LastPump != Pump::Now) return; // not yet in a pause
-        while (sent < 500)
-            window.lblField(++sent % 81 + 1).RaiseClick();
-        if (sent++ == 500) Click("optChill(1)");
-    };
-    platform.AtPump(1, user);
-    Script("click btnSolve > [1 11 21 31] & left > 0 & busy >"); // without any pause
-}
-
 TEST_F(SolveWindowTest, OnlyAConfirmedEscEndsTheSolve) {
     platform.Esc = {true, true};
     const std::string box = "Box(Abbrechen?|ESC gedrückt|YesNo|-)";
