@@ -8,9 +8,15 @@
 #include "qt/QtToolkit.h"
 #include "ui/frmTessarin.h"
 
+#include <QApplication>
 #include <QDialog>
+#include <QKeySequence>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QPushButton>
+#include <QTest>
 #include <QTimer>
 
 #include <deque>
@@ -23,15 +29,26 @@ class SpyPlatform final : public qt::QtPlatform, public CallLog {
 public:
     SpyPlatform() : QtPlatform(ProgramVersion) {}
 
-    bool ReallySleeps = false;    ///< off: a sleep takes no time
-    int Activations = 0;          ///< counted by the taskbar entry that each sets
-    std::function<void()> AtPump; ///< runs before each pump handles its events
+    bool ReallySleeps = false;            ///< off: a sleep takes no time
+    int Activations = 0;                  ///< counted by the taskbar entry that each sets
+    std::function<void()> AtPump = [] {}; ///< runs before each pump handles its events
 
-    void PumpEvents(Pump pump) override;
-    void Sleep(int milliseconds) override;
-    Message::Answer ShowMessage(const Message& message) override;
+    void PumpEvents(Pump pump) override {
+        AtPump();
+        QtPlatform::PumpEvents(pump);
+    }
+    void Sleep(int milliseconds) override {
+        if (ReallySleeps) QtPlatform::Sleep(milliseconds);
+    }
+    Message::Answer ShowMessage(const Message& message) override {
+        Note("Box", message.Prompt);
+        return QtPlatform::ShowMessage(message);
+    }
     void Beep() override {}
-    void SetWindowLongA(int handle, int index, int value) override;
+    void SetWindowLongA(int handle, int index, int value) override {
+        ++Activations;
+        QtPlatform::SetWindowLongA(handle, index, value);
+    }
     void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
 };
 
@@ -46,27 +63,102 @@ struct QtParts {
 /// returns when its command has ended and its boxes are answered, in the way set before.
 class QtFixture : public testing::Test, protected QtParts, public GameScript {
 protected:
-    QtFixture();
+    QtFixture() : GameScript(platform, *goGame) {
+        const auto add = [this](const char* name, auto command) {
+            mCommands[name] = [command](int, auto& text) { command(text); };
+        };
+        add("click", [this](auto& name) { Click(Widget(name), Widget(name).rect().center()); });
+        add("key", [this](auto& keys) { Key(keys); });
+        add("menu", [this](auto& entry) { Menu(QString::fromStdString(entry)); });
+        add("answer", [this](auto& answer) { mAnswers.push_back(answer); });
+        add("choose", [this](auto& name) { mAnswers.push_back(folder.File(name)); });
+        add("import", [this](auto& puzzle) {
+            mAnswers.push_back(TESSARIN_PUZZLES + puzzle);
+            Menu("mnuFileImportCSV");
+        });
+        add("to", [this](auto& name) { Widget(name).setFocus(); });
+        add("focus", [this](auto&) { Tell(form->focusWidget()->objectName().toStdString()); });
+        add("activate", [this](auto&) { Activate(); });
+        QObject::connect(&mEyes, &QTimer::timeout, [this] { LookForBox(); });
+        mEyes.start(LookMilliseconds);
+        window.Show();
+        Activate();
+        mTold.clear();
+    }
 
     // Events are sent to the top window, so that modal boxes, open menus and disabled panels keep
     // them from the controls as they do for a user.
-    void Click(QWidget& widget, QPoint where, Qt::MouseButton button = Qt::LeftButton);
-    void Key(const std::string& keys);
-    /// Opens the menus on the way to the entry and clicks it; tells "shut" if one does not open.
-    void Menu(const QString& entry);
+    static void Click(QWidget& widget, QPoint where, Qt::MouseButton button = Qt::LeftButton) {
+        QWidget* const top = widget.window();
+        QTest::mouseClick(top->windowHandle(), button, {}, widget.mapTo(top, where));
+    }
+    void Key(const std::string& keys) {
+        // Without a pause a second press would count as a repeat.
+        QTest::qWait(LookMilliseconds);
+        QWidget* top = QApplication::activePopupWidget();
+        if (top == nullptr) top = QApplication::activeModalWidget();
+        const QKeyCombination key =
+            keys == "Alt" ? Qt::Key_Alt : QKeySequence(QString::fromStdString(keys))[0];
+        QTest::keyClick((top == nullptr ? form : top)->windowHandle(), key.key(),
+                        key.keyboardModifiers());
+    }
     /// Activates the window, as a window manager does after a box.
-    void Activate();
+    void Activate() {
+        form->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+    }
 
     /// Called when the next box is open, before its answer.
     std::function<void(QDialog&)> WhileOpen;
-    /// Handles a box without an answer: by default a failure.
-    std::function<void(QDialog&)> Unexpected;
+    /// Handles a box without an answer.
+    std::function<void(QDialog&)> Unexpected = [](QDialog& dialog) {
+        ADD_FAILURE() << "unexpected box " << dialog.windowTitle().toStdString();
+        dialog.reject();
+    };
 
-    QWidget& Widget(const std::string& name);
+    QWidget& Widget(const std::string& name) {
+        auto* const widget = form->findChild<QWidget*>(QString::fromStdString(name));
+        if (widget == nullptr) throw std::invalid_argument("no control " + name);
+        return *widget;
+    }
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
 
 private:
-    void LookForBox();
+    static constexpr int LookMilliseconds = 20;
+
+    // Opens the menus on the way to the entry and clicks it; tells "shut" if one does not open.
+    void Menu(const QString& entry) {
+        for (QAction* const action : MenuBar().actions())
+            if (action->objectName() == entry)
+                Click(MenuBar(), MenuBar().actionGeometry(action).center());
+        for (QMenu* const menu : MenuBar().findChildren<QMenu*>())
+            for (QAction* const action : menu->actions()) {
+                if (action->objectName() != entry) continue;
+                Menu(menu->menuAction()->objectName());
+                if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 500)) return Tell("shut");
+                Click(*menu, menu->actionGeometry(action).center());
+            }
+    }
+
+    void LookForBox() {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || dialog == mSeen) return;
+        // Only an active box can be answered. A window manager would activate it.
+        if (!dialog->isActiveWindow()) return dialog->activateWindow();
+        mSeen = dialog;
+        mEyes.start(); // fires again although this handler has not ended
+        if (const auto meanwhile = std::exchange(WhileOpen, nullptr)) meanwhile(*dialog);
+        if (mAnswers.empty()) return Unexpected(*dialog);
+        const auto answer = QString::fromStdString(mAnswers.front());
+        mAnswers.pop_front();
+        for (auto* const button : dialog->findChildren<QPushButton*>())
+            if (button->text().remove('&') == answer) return Click(*button, {5, 5});
+        auto* const name = dialog->findChild<QLineEdit*>("fileNameEdit");
+        if (answer == "Esc") return Key("Esc");
+        if (name == nullptr) return Unexpected(*dialog);
+        name->setText(answer);
+        QMetaObject::invokeMethod(dialog, "accept");
+    }
 
     QTimer mEyes;
     QPointer<QDialog> mSeen;
