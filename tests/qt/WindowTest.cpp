@@ -1,15 +1,15 @@
-// The widgets: places in pixels, the window's size, menus, texts and fonts, and what a screen
-// reader finds.
+// The window: places in pixels, size, menus, texts, what a screen reader finds, activation and
+// closing.
 #include "QtFixture.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
-#include <QMenu>
+#include <QElapsedTimer>
+#include <QWindow>
 
 namespace tessarin {
 namespace {
 
-class WidgetsTest : public QtFixture {
+class WindowTest : public QtFixture, public testing::WithParamInterface<const char*> {
 protected:
     // All entries, with submenus in brackets.
     QString Text(const QList<QAction*>& actions) {
@@ -22,11 +22,10 @@ protected:
     }
 };
 
-TEST_F(WidgetsTest, TwipsBecomePixelsAndContainersBecomeParents) {
-    const Control* const controls[] = {&window.lblField(1), &window.lblField(81),
-                                       &window.fraNumPad,   &window.btnSolve,
-                                       &window.lblInfo,     &window.ctlRotor1};
-    for (const Control* const control : controls) {
+TEST_F(WindowTest, TwipsBecomePixelsAndContainersBecomeParents) {
+    for (const Control* const control : std::initializer_list<const Control*>{
+             &window.lblField(1), &window.lblField(81), &window.fraNumPad, &window.btnSolve,
+             &window.lblInfo, &window.ctlRotor1}) {
         const QRectF place(control->Left(), control->Top(), control->Width(), control->Height());
         const QWidget& widget = Widget(control->Name());
         EXPECT_EQ(widget.geometry(), QRectF(place.topLeft() / 15, place.size() / 15).toRect());
@@ -39,7 +38,7 @@ TEST_F(WidgetsTest, TwipsBecomePixelsAndContainersBecomeParents) {
     EXPECT_FALSE(Widget("lblField(0)").isVisible());
 }
 
-TEST_F(WidgetsTest, WindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
+TEST_F(WindowTest, WindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
     const int narrow = form->frameGeometry().width();
     EXPECT_NEAR(narrow, 8850 / 15, 2); // a thin frame leaves an empty strip
     EXPECT_EQ(form->frameGeometry().height(), 7170 / 15);
@@ -58,7 +57,7 @@ TEST_F(WidgetsTest, WindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
     EXPECT_FALSE(form->windowIcon().isNull());
 }
 
-TEST_F(WidgetsTest, ControlsHaveTheirTextsAndFonts) {
+TEST_F(WindowTest, ControlsHaveTheirTextsAndFonts) {
     using Row = std::tuple<const char*, const char*, const char*, int, const char*>;
     for (const auto& [name, text, toolTip, pixels, spoken] :
          {Row{"btnNumPad(10)", "X", "locke", 27, "locke"},
@@ -83,6 +82,61 @@ TEST_F(WidgetsTest, ControlsHaveTheirTextsAndFonts) {
     EXPECT_EQ(Text(MenuBar().actions()).toStdString(),
               "File {Import Export | Quit } Edit {Clear {Free All } Lock All {Set Clear } } "
               "View {Freedom | Groups Neighbours } ? {About } ");
+}
+
+TEST_F(WindowTest, ReturningFromAnotherWindowActivatesButNotFromAnOwnBox) {
+    EXPECT_EQ(platform.Activations, 1);
+    Script("answer OK & menu mnuAbout & activate");
+    EXPECT_EQ(platform.Activations, 1);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+    Activate();
+    EXPECT_EQ(platform.Activations, 2);
+    EXPECT_EQ(form->windowHandle()->type(), Qt::Window);
+    EXPECT_TRUE(form->isVisible());
+}
+
+// A view that sleeps, a question and a file dialog.
+INSTANTIATE_TEST_SUITE_P(Commands, WindowTest,
+                         testing::Values("mnuViewGroups", "mnuEditClearAll", "mnuFileImportCSV"));
+
+TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
+    At(1).SetValue(5);
+    platform.ReallySleeps = true;
+    Unexpected = [](QDialog&) {};
+    bool ended = false;
+    QElapsedTimer sinceClose;
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [&] {
+        const bool isMoment = QApplication::activeModalWidget() != nullptr ||
+                              window.lblField(1).BackColor() == 0xFFFF;
+        if (isMoment && !sinceClose.isValid() && form->close()) sinceClose.start();
+    });
+    user.start(1);
+    QTimer::singleShot(1, form, [&] {
+        Do(std::string("menu ") + GetParam());
+        ended = true;
+    });
+    QApplication::exec();
+    EXPECT_TRUE(ended);
+    EXPECT_LT(sinceClose.elapsed(), 1000);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(At(1).Value(), 5) << "the question was not answered";
+    EXPECT_EQ(window.lblFile.Caption(), "");
+}
+
+TEST_F(WindowTest, ThePlatformOutlivesItsForm) {
+    {
+        qt::QtPlatform machine;
+        qt::QtToolkit kit(machine);
+        frmTessarin(kit).Show();
+        EXPECT_EQ(&Platform::Current(), &machine);
+        machine.LockWindowUpdate(1);
+        EXPECT_EQ(machine.GetWindowLongA(1, -20), 0);
+    }
+    EXPECT_EQ(Platform::Current().ProgramFolder(), ".") << "no platform is current";
 }
 
 } // namespace

@@ -1,16 +1,51 @@
-// The window by keyboard alone.
+// What mouse and keys do to the controls.
 #include "QtFixture.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QWindow>
 
 namespace tessarin {
 namespace {
 
-using KeyboardTest = QtFixture;
+using InputTest = QtFixture;
 
-TEST_F(KeyboardTest, ArrowsMoveFromTheCurrentField) {
+TEST_F(InputTest, OnlyALeftClickInsideAFieldMovesTheCursor) {
+    QWidget& field = Widget("lblField(40)");
+    Click(field, {9, 9}, Qt::RightButton);
+    QTest::mousePress(form->windowHandle(), Qt::LeftButton, {}, field.mapTo(form, QPoint(9, 9)));
+    QTest::mouseRelease(form->windowHandle(), Qt::LeftButton, {}, {9, 99});
+    EXPECT_EQ(grid.Index(), 1);
+    int clicks = 0;
+    window.lblField.Click = [&](int) { ++clicks; };
+    QTest::mouseDClick(form->windowHandle(), Qt::LeftButton, {}, field.mapTo(form, QPoint(9, 9)));
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(InputTest, ButtonsAndOptionsAnswerOnceForEachClick) {
+    // Once the field is locked, the other keys are disabled.
+    Script("click btnNumPad(5) & click btnNumPad(10) & click btnNumPad(3) & is > |1;5;1");
+    std::string clicks;
+    window.optChill.Click = [&](int index) { clicks += std::to_string(index); };
+    Script("click btnInfo & click optChill(3) & click optChill(3) & click optChill(0)");
+    Click(Widget("optChill(2)"), {56, 16}); // its whole rectangle answers
+    window.optChill(1).Select();
+    EXPECT_EQ(clicks, "33021");
+    EXPECT_TRUE(dynamic_cast<QAbstractButton&>(Widget("optChill(1)")).isChecked());
+}
+
+TEST_F(InputTest, AViewDisablesEvenAnOpenMenu) {
+    for (const bool running : {true, false}) {
+        Click(MenuBar(), {10, 5});
+        auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
+        window.SetViewRunning(running);
+        Click(menu, menu.actionGeometry(menu.actions().last()).center());
+        EXPECT_EQ(form->isVisible(), running);
+        menu.close();
+        window.SetViewRunning(false);
+    }
+}
+
+TEST_F(InputTest, ArrowsMoveFromTheCurrentField) {
     Script(R"(
         focus > lblField(1) & index 41 & key Left & cursor > 40 & focus > lblField(40)
         index 41 & key Right & cursor > 42 & key Num+Down & cursor > 51 & key Up & cursor > 42
@@ -25,7 +60,7 @@ TEST_F(KeyboardTest, ArrowsMoveFromTheCurrentField) {
     EXPECT_EQ(clicked, 81 + 81 + 72);
 }
 
-TEST_F(KeyboardTest, ACharacterClicksTheButtonWithThisCaption) {
+TEST_F(InputTest, ACharacterClicksTheButtonWithThisCaption) {
     Script(R"(
         click btnInfo & key 5 & is > |1;5;0 & to btnSolve & key 4 & is > |1;4;0
         to optChill(1) & key Num+7 & is > |1;7;0 & to lblField(1)
@@ -40,7 +75,7 @@ TEST_F(KeyboardTest, ACharacterClicksTheButtonWithThisCaption) {
     Script("answer OK & click lblDeadEnd > Box(Dead cells = 0) & is > |2;6;0");
 }
 
-TEST_F(KeyboardTest, TabVisitsThePanelsAndStopsOnceInTheGrid) {
+TEST_F(InputTest, TabVisitsThePanelsAndStopsOnceInTheGrid) {
     Script("click btnInfo & index 12 & to lblField(12)");
     std::string stops;
     for (int i = 0; i < 23; ++i, Key("Tab"))
@@ -61,7 +96,7 @@ TEST_F(KeyboardTest, TabVisitsThePanelsAndStopsOnceInTheGrid) {
     EXPECT_FALSE(window.InfoVisible());
 }
 
-TEST_F(KeyboardTest, TheFocusComesBack) {
+TEST_F(InputTest, TheFocusComesBack) {
     for (const std::string place : {"lblField(1)", "btnSolve", "btnInfo"}) {
         Script("to " + place + " & menu mnuFile & key Esc & focus > " + place);
         EXPECT_EQ(MenuBar().activeAction(), nullptr);
