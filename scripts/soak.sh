@@ -1,11 +1,17 @@
 #!/bin/bash
-# A long run of random users under the sanitizers: soak.sh [walks, 300 by default]
-# Each walk makes 1400 steps; in the second half more steps start inside of others.
+# A long run of random users under the sanitizers: soak.sh [users, 300 by default]
+# Each of them takes about 1400 steps and opens the window anew after closing it; every other one
+# also starts steps inside of others.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"
 
-need "${build_packages[@]}" "${test_packages[@]}"
-configure_and_build asan soak -DTESSARIN_WINDOW=OFF
-build/soak/tests/tessarin_window_tests --gtest_filter='RandomWalk*' --gtest_repeat="${1:-300}" \
-    --gtest_shuffle --gtest_break_on_failure --gtest_brief=1
+need "${build_packages[@]}" "${test_packages[@]}" clang libclang-rt-dev
+configure_and_build fuzz fuzz
+users=build/fuzz/users
+rm -rf $users
+mkdir $users
+for ((i = 0; i < ${1:-300}; ++i)); do
+    head -c 4000 /dev/urandom >$users/$i
+done
+build/fuzz/fuzz/fuzz_user -runs=0 -max_len=4000 -timeout=60 -artifact_prefix=build/fuzz/ $users
