@@ -9,14 +9,14 @@
 #include <stdexcept>
 #include <string>
 
-namespace tessarin {
+namespace {
 
 void CheckText(const std::string& text, auto load, auto write) {
-    Game game;
-    Fields& grid = *game.Fields;
+    tessarin::Game game;
+    tessarin::Fields& grid = *game.Fields;
     try {
         load(grid, text);
-    } catch (const TypeMismatchError&) {
+    } catch (const tessarin::TypeMismatchError&) {
     } catch (const std::overflow_error&) {
     } catch (const std::out_of_range&) {
     }
@@ -27,15 +27,15 @@ void CheckText(const std::string& text, auto load, auto write) {
         std::abort();
 }
 
-} // namespace tessarin
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string input(data, data + size);
-    tessarin::CheckText(
+    CheckText(
         input, [](auto& grid, auto& text) { grid.SetTextCSV(text); },
-        [](const auto& grid) { return grid.TextCSV(true); });
-    tessarin::CheckText(
+        [](auto& grid) { return grid.TextCSV(true); });
+    CheckText(
         input, [](auto& grid, auto& text) { grid.SetTextSDK(text); },
-        [](const auto& grid) { return grid.TextSDK(); });
+        [](auto& grid) { return grid.TextSDK(); });
     return 0;
 }

@@ -63,7 +63,7 @@ private:
     }
     // The invariants while no command runs.
     void ExpectInOrder() {
-        EXPECT_EQ(Busy(), "");
+        EXPECT_EQ(Do("busy"), "");
         // Changes without events, and those of a quiet solve, are not painted at once.
         if (std::exchange(mbStale, false)) window.RefreshAll();
         int green = 0;

@@ -26,8 +26,8 @@ template <class Numbers>
 std::string Text(const Numbers& numbers) {
     std::string text;
     for (const int number : numbers)
-        text += std::to_string(number) + " ";
-    return text.substr(0, text.size() - (text.empty() ? 0 : 1));
+        text.append(text.empty() ? "" : " ").append(std::to_string(number));
+    return text;
 }
 
 /// The kind of error that `action` throws, "" for none.

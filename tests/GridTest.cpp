@@ -151,18 +151,16 @@ TEST_F(GridTest, ChangeAtEveryPumpOfAStatusPass) {
 }
 
 TEST_F(GridTest, CursorMovesInsideAMoveOrAnEntry) {
-    Do("index 1");
-    platform.AtPump(1, [&] { grid.SetIndex(2); });
+    mCommands["moving"] = [this](int index, auto&) {
+        platform.AtPump(1, [this, index] { grid.SetIndex(index); });
+    };
     // The relay pumps before the event reaches this record.
-    Script("index 2 > BeforeIndexChanged(1) IndexChanged(2) BeforeIndexChanged(1)");
-    Do("trace");
-    for (const std::string step :
-         {"value 5 > BeforeIndexChanged(2) IndexChanged(9) StatusChanged(2) [2]",
-          "value 0 > BeforeIndexChanged(2) IndexChanged(9) StatusChanged(2) []"}) {
-        Do("index 2");
-        platform.AtPump(1, [&] { grid.SetIndex(9); });
-        Script(step);
-    }
+    Script(R"(
+        index 1 & moving 2 & index 2 > BeforeIndexChanged(1) IndexChanged(2) BeforeIndexChanged(1)
+        trace & moving 9
+        value 5 > BeforeIndexChanged(2) IndexChanged(9) StatusChanged(2) [2] & index 2 & moving 9
+        value 0 > BeforeIndexChanged(2) IndexChanged(9) StatusChanged(2) []
+    )");
 }
 
 TEST(EventTest, HandlersComeAndGoWhileAnEventIsRaised) {

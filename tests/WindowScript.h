@@ -55,24 +55,20 @@ public:
             const auto& text = dynamic_cast<Label&>(toolkit.Find(name)).Caption();
             Tell(ReplaceAll(ReplaceAll(text, "\r\n", "|"), folder.File(""), ""));
         });
-        add("busy", [this](int, auto&) { Tell(Busy()); });
+        // What is not as it is while no command runs.
+        add("busy", [this](int, auto&) {
+            for (const Control* const control : std::initializer_list<const Control*>{
+                     &window.mnuFile, &window.mnuEdit, &window.mnuView, &window.mnuHelp,
+                     &window.fraAction, &window.fraNumPad})
+                Tell(control->Enabled() ? "" : control->Name());
+            Tell(window.ViewRunning() ? "view" : "");
+            Tell(window.ctlRotor1.Running() ? "rotor" : "");
+            Tell(platform.Hourglass ? "hourglass" : "");
+            Tell(platform.Closed ? "closed" : "");
+        });
     }
 
     void Click(const std::string& name) { toolkit.Find(name).RaiseClick(); }
-
-    /// What is not as it is while no command runs.
-    std::string Busy() {
-        std::string busy;
-        for (Control* const control :
-             std::initializer_list<Control*>{&window.mnuFile, &window.mnuEdit, &window.mnuView,
-                                             &window.mnuHelp, &window.fraAction, &window.fraNumPad})
-            if (!control->Enabled()) busy += control->Name() + " ";
-        if (window.ViewRunning()) busy += "view ";
-        if (window.ctlRotor1.Running()) busy += "rotor ";
-        if (platform.Hourglass) busy += "hourglass ";
-        if (platform.Closed) busy += "closed ";
-        return busy.substr(0, busy.size() - (busy.empty() ? 0 : 1));
-    }
 
     std::string YellowFields() {
         std::vector<int> fields;

@@ -103,20 +103,18 @@ INSTANTIATE_TEST_SUITE_P(Commands, WindowTest,
                          testing::Values("mnuViewGroups", "mnuEditClearAll", "mnuFileImportCSV"));
 
 TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
-    At(1).SetValue(5);
     platform.ReallySleeps = true;
-    Unexpected = [](QDialog&) {};
-    bool ended = false;
     QElapsedTimer sinceClose;
-    QTimer user;
-    QObject::connect(&user, &QTimer::timeout, [&] {
-        const bool isMoment = QApplication::activeModalWidget() != nullptr ||
-                              window.lblField(1).BackColor() == 0xFFFF;
-        if (isMoment && !sinceClose.isValid() && form->close()) sinceClose.start();
-    });
-    user.start(1);
+    const auto close = [&] {
+        if (form->close() && !sinceClose.isValid()) sinceClose.start();
+    };
+    Unexpected = [&](QDialog&) { close(); };
+    platform.AtPump = [&] {
+        if (window.lblField(1).BackColor() == 0xFFFF) close();
+    };
+    bool ended = false;
     QTimer::singleShot(1, form, [&] {
-        Do(std::string("menu ") + GetParam());
+        Script(std::string("set 1 5 & menu ") + GetParam());
         ended = true;
     });
     QApplication::exec();
