@@ -35,8 +35,8 @@ protected:
 /// it lives.
 class ScriptedPlatform : public NullPlatform, public CallLog {
 public:
-    ScriptedPlatform() : mPrevious(Platform::SetCurrent(this)) {}
-    ~ScriptedPlatform() override { Platform::SetCurrent(mPrevious); }
+    ScriptedPlatform() { Platform::SetCurrent(this); }
+    ~ScriptedPlatform() override { Platform::SetCurrent(nullptr); }
 
     int Pumps = 0;
     Pump LastPump = Pump::WhenDue; ///< the argument of the last pump
@@ -104,7 +104,6 @@ private:
         if (!script.empty()) script.pop_front();
         return next;
     }
-    Platform* mPrevious;
     int mPumpOfAction = 0;
     std::function<void()> mAction;
 };

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 namespace tessarin {
 
 TEST(SupportTest, TextsAndDates) {
@@ -37,6 +39,14 @@ TEST(SupportTest, TextsAndDates) {
         {DateTimeStamp({}), std::string(15, ' ')}};
     for (const auto& [text, expected] : cases)
         EXPECT_EQ(text, expected);
+    const auto clock = [] {
+        const std::time_t now = std::time(nullptr);
+        std::string stamp(16, '\0');
+        stamp.resize(std::strftime(stamp.data(), 16, "%Y%m%d %H%M%S", std::localtime(&now)));
+        return stamp;
+    };
+    const std::string before = clock(), now = DateTimeStamp(NullPlatform().Now());
+    EXPECT_TRUE(before <= now && now <= clock()) << now;
 }
 
 TEST(SupportTest, WaitPumpsBeforeAndAfterSleeping) {

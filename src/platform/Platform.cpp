@@ -16,10 +16,8 @@ Platform& Platform::Current() {
     return *theCurrent;
 }
 
-Platform* Platform::SetCurrent(Platform* platform) {
-    Platform* const previous = theCurrent == &theNullPlatform ? nullptr : theCurrent;
+void Platform::SetCurrent(Platform* platform) {
     theCurrent = platform != nullptr ? platform : &theNullPlatform;
-    return previous;
 }
 
 DateTime Platform::Now() {

@@ -49,9 +49,9 @@ public:
     virtual ~Platform() = default;
 
     static Platform& Current();
-    /// Makes `platform` current and returns the one before; in both places nullptr stands for the
-    /// null platform. The caller keeps the ownership.
-    static Platform* SetCurrent(Platform* platform);
+    /// Makes `platform` current, or the null platform if it is nullptr. The caller keeps the
+    /// ownership.
+    static void SetCurrent(Platform* platform);
 
     /// Handles the waiting window events once. Any handler of the window may run inside. Long
     /// computations call it thousands of times a second with Pump::WhenDue; a platform may then

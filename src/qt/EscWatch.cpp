@@ -56,13 +56,10 @@ bool EscWatch::Press(quint64 time, bool repeat) {
     // When another window gets the focus while the key is down, X11 sends it a release and then a
     // press that is not marked as a repeat. Both come at the same time.
     const bool followsRelease = time != 0 && mReleased != 0 && time - mReleased <= 1;
-    if (repeat || mbHeld || followsRelease) {
-        mbHeld = true;
-        return true;
-    }
+    const bool repeated = repeat || mbHeld || followsRelease;
     mbHeld = true;
-    if (!MenuOrBoxIsOpen()) mbDown = mbPressed = true;
-    return false;
+    if (!repeated && !MenuOrBoxIsOpen()) mbDown = mbPressed = true;
+    return repeated;
 }
 
 } // namespace tessarin::qt

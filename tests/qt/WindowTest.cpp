@@ -70,6 +70,7 @@ TEST_F(WindowTest, ControlsHaveTheirTextsAndFonts) {
         EXPECT_EQ(button.accessibleName(), spoken);
     }
     EXPECT_EQ(Widget("btnSolve").font().family(), "Arial");
+    EXPECT_EQ(MenuBar().font().pixelSize(), 12);
     At(12).SetValue(5);
     for (const auto& [name, role, spoken] :
          {std::tuple{"lblWinner", QAccessible::StaticText, "winner: not lit"},
@@ -123,6 +124,26 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(At(1).Value(), 5) << "the question was not answered";
     EXPECT_EQ(window.lblFile.Caption(), "");
+}
+
+TEST_F(WindowTest, PumpsAreSkippedOnlyShortlyAfterOthers) {
+    int handled = 0, pumps = 0;
+    const auto pumped = [&](Pump pump) {
+        QMetaObject::invokeMethod(
+            form, [&] { ++handled; }, Qt::QueuedConnection);
+        platform.PumpEvents(pump);
+        return std::exchange(handled, 0) > 0 ? 1 : 0;
+    };
+    for (int i = 0; i < 20; ++i) {
+        EXPECT_TRUE(pumped(Pump::Now));
+        EXPECT_TRUE(pumped(Pump::WhenDue)) << "the first one after it";
+    }
+    for (int i = 0; i < 800; ++i)
+        pumps += pumped(Pump::WhenDue);
+    EXPECT_LE(pumps, 100);
+    QTest::qSleep(1);
+    while (pumped(Pump::WhenDue) == 0)
+        EXPECT_LE(++pumps, 110) << "due after a millisecond";
 }
 
 TEST_F(WindowTest, ThePlatformOutlivesItsForm) {
