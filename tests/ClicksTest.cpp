@@ -61,6 +61,8 @@ TEST_F(ClicksTest, QueuedClicksAreCheckedWhenTheirTurnComes) {
         window.btnInfo.SetEnabled(true);
         window.lblWinner.SetVisible(true);
     }
+    window.btnInfo.RaiseClick();
+    EXPECT_EQ(clicks, 2) << "the window is closed";
 }
 
 TEST_F(ClicksTest, EachActivationRepaintsAndKeepsTheTaskbarEntry) {

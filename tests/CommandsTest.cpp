@@ -58,7 +58,8 @@ TEST_F(CommandsTest, FilesAreImportedAndExported) {
             caption lblFile > old & lights > normal normal & is > |81;7;0
         )");
     }
-    const auto loading = grid.Events.Init.Connect([this] { mTold += window.lblFile.Caption(); });
+    const auto loading = grid.Events.Init.Connect(
+        [this] { mTold += window.lblFile.Caption() + window.lblField(81).Caption(); });
     Script(R"(
         write good.csv Index;Value;Locked|1;5;1|12;3;0 & write plain Index;Value;Locked|1;5;1
         dirty & choose good.csv & click mnuFileImportCSV > [] & is > |1;5;1|12;3;0

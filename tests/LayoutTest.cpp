@@ -65,4 +65,9 @@ TEST_F(LayoutTest, ControlsHaveTheirPlaces) {
         EXPECT_EQ(toolkit.Find(name).Font(), (FontStyle{.Name = "Arial", .Size = size})) << name;
 }
 
+TEST(LayoutPumpsTest, EventsArePumpedAfterEachStep) {
+    WindowParts parts;
+    EXPECT_EQ(parts.OwnPlatform.Pumps, 1 + 4) << "the new player pumps, too";
+}
+
 } // namespace tessarin
