@@ -1,7 +1,6 @@
 #include "ScriptedPlatform.h"
 #include "play/modGame.h"
 #include "support/modDateTime.h"
-#include "support/modKbd.h"
 #include "support/modStringLibrary.h"
 #include "support/modTaskBar.h"
 #include "support/modWait.h"
@@ -60,22 +59,6 @@ TEST(SupportTest, WaitPumpsBeforeAndAfterSleeping) {
     Wait(-1);
     EXPECT_EQ(platform.TakeCalls(), "");
     EXPECT_EQ(platform.Pumps, 6);
-}
-
-TEST(SupportTest, EscAsksUntilTheAnswerIsYes) {
-    ScriptedPlatform platform;
-    ClearCancel();
-    const std::string question = "Box(Abbrechen?|ESC gedrückt|YesNo|-) ";
-    platform.Esc = {true, false, true, true};
-    platform.Answers = {false, true};
-    for (const auto& [cancelled, calls] :
-         {std::pair{false, question}, {false, ""}, {true, question}, {true, ""}}) {
-        EXPECT_EQ(CancelRequested(), cancelled);
-        EXPECT_EQ(platform.TakeCalls(), calls);
-        EXPECT_EQ(gbCancel, cancelled);
-    }
-    EXPECT_EQ(platform.Esc.size(), 1U);
-    ClearCancel();
 }
 
 TEST(SupportTest, AboutTextAndTaskbarEntry) {
