@@ -27,7 +27,7 @@ TEST(SupportTest, TextsAndDates) {
         {DeleteChars("abcde", 2, 2) + DeleteChars("abcde", 2), "adea"},
         {DeleteChars("abcde", 4, 32767) + DeleteChars("abcde", 6, 1), "abcabcde"},
         {DeleteChars("abcde", 3, 0) + DeleteChars("abcde", 0, 1), "abcdeabcde"},
-        {DeleteChars("abcde", -1, 3), "bcde"},
+        {DeleteChars("abcde", -1, 3) + DeleteChars("abcde", 1, 1), "bcdebcde"},
         {InsertText("abc", "X", 1) + InsertText("abc", "XY", 3), "XabcabXYc"},
         {InsertText("abc", "X", 4) + InsertText("abc", "X", 5), "abcXabc"},
         {InsertText("abc", "X", 0), "abc"},

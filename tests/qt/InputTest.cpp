@@ -13,6 +13,7 @@ TEST_F(InputTest, OnlyALeftClickInsideAFieldMovesTheCursor) {
     QWidget& field = Widget("lblField(40)");
     Click(field, {9, 9}, Qt::RightButton);
     QTest::mousePress(form->windowHandle(), Qt::LeftButton, {}, field.mapTo(form, QPoint(9, 9)));
+    QTest::mouseRelease(form->windowHandle(), Qt::RightButton, {}, field.mapTo(form, QPoint(9, 9)));
     QTest::mouseRelease(form->windowHandle(), Qt::LeftButton, {}, {9, 99});
     EXPECT_EQ(grid.Index(), 1);
     int clicks = 0;
