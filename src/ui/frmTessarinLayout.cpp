@@ -16,11 +16,6 @@ int GridOffset(int position, int dimension) {
     return position * FieldSide + ((position - 1) / dimension - 2) * FieldSide / 4;
 }
 
-void MakePanel(Frame& frame) {
-    frame.SetBorderStyle(BorderStyle::None);
-    frame.SetBackColor(WindowBackground);
-}
-
 } // namespace
 
 void frmTessarin::LayoutWindow() {
@@ -64,7 +59,6 @@ void frmTessarin::CreateFieldLabels() {
 void frmTessarin::CreateNumPad() {
     const FontStyle font{.Name = "Arial", .Size = 20};
     const Label& lastOfRow = lblField(moGame->Fields->Numbers());
-    MakePanel(fraNumPad);
     fraNumPad.SetLeft(lastOfRow.Left() + 750);
     fraNumPad.SetTop(lastOfRow.Top());
     fraNumPad.SetWidth(2400);
@@ -102,7 +96,6 @@ void frmTessarin::CreateNumPad() {
 // Below the number pad, with the same places for buttons, down to the bottom of the fields.
 void frmTessarin::ArrangeActionPanel() {
     const Label& last = lblField(moGame->Fields->Count());
-    MakePanel(fraAction);
     fraAction.SetLeft(fraNumPad.Left());
     fraAction.SetTop(fraNumPad.Top() + fraNumPad.Height() + 120);
     fraAction.SetWidth(fraNumPad.Width());
