@@ -144,7 +144,7 @@ TEST_F(GridTest, ChangeAtEveryPumpOfAStatusPass) {
         for (int n = 1; n <= 81; ++n) {
             grid.Init();
             At(1).SetTextSDK("5");
-            platform.AtPump(n, [&] { Do(change); });
+            platform.AtPump(n, [this, step = change] { Do(step); });
             EXPECT_EQ(grid.FreeCount(), free) << change << " at " << n;
             ExpectRightStatus();
         }

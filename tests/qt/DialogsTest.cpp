@@ -103,6 +103,8 @@ TEST_F(DialogsTest, OnlyFilesThatExistAreOpenedAndOnlyNewOnesSaved) {
         choose old.csv & menu mnuFileExportCSV & read old.csv > mine
         choose plain & menu mnuFileExportCSV & read plain.csv > Index;Value;Locked|1;5;1
         read plain > Index;Value;Locked|2;5;1
+        choose "q" & menu mnuFileExportCSV & read "q".csv > Index;Value;Locked|1;5;1
+        choose gone/"q".csv & answer OK & answer Esc & menu mnuFileExportCSV >
     )");
     EXPECT_EQ(window.lblFile.Caption(), folder.File("good.csv"));
 }
