@@ -7,8 +7,9 @@ namespace tessarin {
 
 using CommandsTest = WindowFixture;
 
-TEST_F(CommandsTest, ActionButtonsWorkAPuzzleByHand) {
+TEST_F(CommandsTest, ButtonsAndTheEditMenu) {
     Script(R"(
+        // A puzzle by hand.
         import 2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1 > [] & click lblField(81)
         click btnNextFree & cursor > 1
         click btnNextFreeAuto > [1] & fields 1 8 > 7:green/text :normal/text
@@ -19,17 +20,37 @@ TEST_F(CommandsTest, ActionButtonsWorkAPuzzleByHand) {
         fields 1 8 > 8:normal/text 7:green/text
         click btnGoBackToFreedom > [1] & fields 1 8 > 8:green/text :normal/text
         click btnGoBackToFreedom > Beep [] & cursor > 1
-    )");
-}
 
-TEST_F(CommandsTest, PadKeysEnterLockAndClear) {
-    Script(R"(
-        click btnNumPad(5) & click btnNumPad(10) & click btnNumPad(3) & fields 1 > 5:green/red
-        click btnNumPad(10) & fields 1 > 5:green/text & click btnNumPad(9) & fields 1 > 9:green/text
-        click btnNumPad(0) & click btnNumPad(10) & fields 1 > :green/text
-        click btnNumPad(1) & fields 1 > 1:green/text & click btnNumPad(11) & fields 1 > :green/text
+        // The pad enters, locks and clears.
+        csv & refresh & click btnNumPad(5) & click btnNumPad(10) & click btnNumPad(3)
+        fields 1 > 5:green/red & click btnNumPad(10) & fields 1 > 5:green/text
+        click btnNumPad(9) & fields 1 > 9:green/text & click btnNumPad(0) & click btnNumPad(10)
+        fields 1 > :green/text & click btnNumPad(1) & fields 1 > 1:green/text & click btnNumPad(11) & fields 1 > :green/text
         click lblField(40) & cursor > 40 & fields 1 40 > :normal/text :green/text
+        click lblField(1)
+
+        // The menu locks and clears.
+        set 1 5 & set 2 3 & click mnuEditLockAllSet
+        fields 1 2 3 > 5:green/red 3:normal/red :normal/text & pad > 01246789XC X red
+        click mnuEditLockClear & fields 1 2 > 5:green/text 3:normal/text & lock 1 1
+        answer 0 & click mnuEditClearFree > Box(Clear Free?||YesNo|?)
+        answer 0 & click mnuEditClearAll > Box(Clear All?||YesNo|?)
+        fields 1 2 > 5:green/red 3:normal/text
+        answer 1 & click mnuEditClearFree > Box(Clear Free?||YesNo|?)
+        fields 1 2 > 5:green/red :normal/text & caption lblFile > import.csv
+        answer 1 & click mnuEditClearAll > Box(Clear All?||YesNo|?)
+        fields 1 2 > :green/text :normal/text & caption lblFile >
+        pad > 0123456789XC 0123456789C normal
+
+        click btnInfo & width > 11625 & click btnInfo & width > 8850
     )");
+    window.SetInfoVisible(false);
+    Script("width > 8850");
+    for (int option = 0; option <= 6; ++option) {
+        SetCancel();
+        Click(window.optChill(option).Name());
+        EXPECT_FALSE(gbCancel) << option;
+    }
 }
 
 TEST_F(CommandsTest, FilesAreImportedAndExported) {
@@ -77,37 +98,6 @@ TEST_F(CommandsTest, FilesAreImportedAndExported) {
         choose gone/new.csv & click mnuFileExportCSV >
     )");
     EXPECT_TRUE(play.Tracing());
-}
-
-TEST_F(CommandsTest, EditMenuLocksAndClears) {
-    window.lblFile.SetCaption("a.csv");
-    Script(R"(
-        set 1 5 & set 2 3 & click mnuEditLockAllSet & fields 1 2 3 > 5:green/red 3:normal/red :normal/text
-        pad > 01246789XC X red
-        click mnuEditLockClear & fields 1 2 > 5:green/text 3:normal/text & lock 1 1
-        answer 0 & click mnuEditClearFree > Box(Clear Free?||YesNo|?)
-        answer 0 & click mnuEditClearAll > Box(Clear All?||YesNo|?)
-        fields 1 2 > 5:green/red 3:normal/text
-        answer 1 & click mnuEditClearFree > Box(Clear Free?||YesNo|?)
-        fields 1 2 > 5:green/red :normal/text & caption lblFile > a.csv
-        answer 1 & click mnuEditClearAll > Box(Clear All?||YesNo|?)
-        fields 1 2 > :green/text :normal/text & caption lblFile >
-        pad > 0123456789XC 0123456789C normal
-    )");
-}
-
-TEST_F(CommandsTest, PacesClearAPendingCancelAndInfoShowsTheSideColumn) {
-    for (int option = 0; option <= 6; ++option) {
-        SetCancel();
-        Click(window.optChill(option).Name());
-        EXPECT_FALSE(gbCancel) << option;
-    }
-    for (const float width : {11625.F, 8850.F}) {
-        Click("btnInfo");
-        EXPECT_EQ(window.Width(), width);
-    }
-    window.SetInfoVisible(false);
-    EXPECT_EQ(window.Width(), 8850);
 }
 
 } // namespace tessarin

@@ -5,36 +5,39 @@ namespace tessarin {
 
 using DisplayTest = WindowFixture;
 
-TEST_F(DisplayTest, MarkWinsOverDeadAndDeadOverCursor) {
+TEST_F(DisplayTest, FieldsInformationAndPad) {
     Script(R"(
+        // A mark wins over dead, and dead over the cursor.
         fill .12345678.9 & index 81 & paint 1 & fields 1 2 10 > :red/text 1:normal/text :normal/text
         lock 1 1 & lock 2 1 & paint 1 & paint 2 & fields 1 2 > :red/red 1:normal/red
         index 1 & fields 1 > :red/red & paint 1 N & fields 1 > :yellow/red & paint 1
         index 2 & fields 1 2 > :red/red 1:green/red & lock 2 0 & fields 2 > 1:green/text
         paint 2 N & paint 10 G & fields 2 10 > 1:yellow/text :yellow/text
-    )");
-}
 
-TEST_F(DisplayTest, InfoPanelDescribesTheFieldPaintedLast) {
-    play.Retries = 7;
+        // The panel describes the field that was painted last.
+        lock 1 0 & lock 11 1 & index 11 & paint 1
+        caption lblInfo > Index=1|Value=0||Freedom=0|FreeValuesList=||IsCursor=False|IsLocked=False|IsEmpty=True|IsDeadCell=True||Retries=0|DeadCount=1
+        retreat & paint 0
+        caption lblInfo > Index=11|Value=9||Freedom=6|FreeValuesList=3;4;5;6;7;8;||IsCursor=True|IsLocked=True|IsEmpty=False|IsDeadCell=False||Retries=1|DeadCount=1
+        index 0 & refresh & fields 1 > :red/text & cursor > 1
+
+        // The pad follows the current field, here with the values of its row.
+        clear & index 41 & pad > 0123456789XC 0123456789C normal
+        fill ....................................1346.78 & pad > 0259XC 0123456789C normal
+        lock 41 1 & pad > 0259XC X red & lock 41 0 & set 41 5
+        pad > 029XC 0123456789XC normal & lock 41 1 & pad > 029XC X red
+
+        // At most one field is green. A click inside the cursor move paints its field as current.
+        clear & set 60 7
+    )");
+    platform.AtPump(1, [&] { Click("lblField(60)"); });
     Script(R"(
-        fill .12345678.9 & lock 11 1 & index 11 & paint 1
-        caption lblInfo > Index=1|Value=0||Freedom=0|FreeValuesList=||IsCursor=False|IsLocked=False|IsEmpty=True|IsDeadCell=True||Retries=7|DeadCount=1
-        paint 0
-        caption lblInfo > Index=11|Value=9||Freedom=6|FreeValuesList=3;4;5;6;7;8;||IsCursor=True|IsLocked=True|IsEmpty=False|IsDeadCell=False||Retries=7|DeadCount=1
-        index 0
-    )");
-    window.RefreshAll();
-    Script("fields 1 > :red/text & cursor > 1");
-    EXPECT_EQ(window.lblInfo.Caption().substr(0, 10), "Index=81\r\n");
-}
+        index 50 & cursor > 50 & fields 50 60 > :green/text 7:normal/text
 
-TEST_F(DisplayTest, NumberPadFollowsTheCurrentField) {
-    const std::string before(36, '.'); // the values go into row 5, around the current field
-    Script("index 41 & pad > 0123456789XC 0123456789C normal");
-    Do("fill " + before + "1346.78");
-    Script("pad > 0259XC 0123456789C normal & lock 41 1 & pad > 0259XC X red & lock 41 0");
-    Script("set 41 5 & pad > 029XC 0123456789XC normal & lock 41 1 & pad > 029XC X red");
+        // Fields of a larger grid have no labels.
+        init 5 & refresh & index 625 & set 625 25 & set 81 24 & fields 81 > 24:normal/text
+    )");
+    window.PaintFreedoms();
 }
 
 TEST_F(DisplayTest, ScreenReadersHearWhatTheColoursTell) {
@@ -58,19 +61,6 @@ TEST_F(DisplayTest, ScreenReadersHearWhatTheColoursTell) {
         during hear lblField(2) => row 1, column 2: 1, marked & click mnuViewNeighbours & clear
         during hear lblField(2) => row 1, column 2: empty, freedom 9 & click mnuViewFreedom
     )");
-}
-
-TEST_F(DisplayTest, AtMostOneFieldIsGreen) {
-    Do("set 60 7"); // a click in the middle of a cursor move paints its field as current
-    platform.AtPump(1, [&] { Click("lblField(60)"); });
-    Script("index 50 & cursor > 50 & fields 50 60 > :green/text 7:normal/text");
-}
-
-TEST_F(DisplayTest, FieldsWithoutALabelAreNotPainted) {
-    grid.Init(5);
-    window.RefreshAll();
-    Script("index 625 & set 625 25 & set 81 24 & fields 81 > 24:normal/text");
-    window.PaintFreedoms();
 }
 
 } // namespace tessarin

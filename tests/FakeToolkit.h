@@ -6,7 +6,6 @@
 #include <deque>
 #include <functional>
 #include <map>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -19,11 +18,7 @@ public:
     FileDialogRequest Dialog;      ///< shown last
     std::function<void()> OnClosed = [] {}; ///< runs when the form has closed
 
-    Control& Find(const std::string& name) {
-        const auto found = mControls.find(name);
-        if (found == mControls.end()) throw std::invalid_argument("no control " + name);
-        return *found->second;
-    }
+    Control& Find(const std::string& name) { return *mControls.at(name); }
 
     std::unique_ptr<FormPeer> Create(Form& form) override {
         mControls[form.Name()] = &form;

@@ -9,39 +9,36 @@ protected:
     PlayTest() {
         // Records each change, the number of retreats and how the solve ends.
         mCommands["run"] = [this](int, auto&) {
-            mTold.clear();
+            mMoves.clear();
             const auto recorder = game.Events.StatusChanged.Connect([&](int index) {
                 mMoves += std::to_string(index) + "=" + std::to_string(At(index).Value()) + " ";
             });
             play.Solve();
-            mTold = std::exchange(mMoves, "") + std::to_string(play.Retries) +
+            mTold = mMoves + std::to_string(play.Retries) +
                     (grid.IsWinner()    ? " won "
                      : grid.IsDeadEnd() ? " dead "
                                         : " open ");
         };
     }
     std::string mMoves;
-    // In the first cycle field 2 leads to a dead end, and the retreat raises the value of field 28.
-    const std::string OneRetreat =
-        "4..815.2992734685..58.9..643152.9648.92...5178465712936394..1.2271963485584127936";
 };
 
-TEST_F(PlayTest, OnlyFreeValuesAreEntered) {
-    // 3, 4 and 8 are free for field 1; its lock is ignored.
+TEST_F(PlayTest, ByHand) {
     Script(R"(
+        // Without a cursor only tracing changes.
+        trace & value 1 > & auto 0 > & next 1 > 0 & playlock > & back 1 > & retreat 1 > F Beep
+        trace 3 5 > [3 5] & tracing 1 > & tracing 0 > [none] & tracing 1 > [] & reset > [none]
+        tracing 1 > [] & reset & index 9 & playlock > StatusChanged(9) & counts > 81 1 0 1
+
+        // Only free values are entered: 3, 4 and 8 for field 1. Its lock is ignored.
         fill ..125....67.......9 & index 1 & value 3 > StatusChanged(1) & trace & lock 1 1
         value 3 > & value 5 > & value 12 > & value -1 > & value 8 > StatusChanged(1) [1] & auto 4 >
         trace 1 12 & value 3 > StatusChanged(1) & auto 8 > StatusChanged(1) & next 0 > 8
         next 1 > StatusChanged(1) 8 & next 0 > 0 & next 1 > StatusChanged(1) 0
-        reset > [none] & auto 0 > StatusChanged(1)
-        fill .234567891 & value 1 > & auto 0 >
-    )");
-}
+        reset > [none] & auto 0 > StatusChanged(1) & fill .234567891 & value 1 > & auto 0 >
 
-TEST_F(PlayTest, ClearingWalksBackAlongTheHistory) {
-    Do("fill " + FullCells.substr(0, 80));
-    Script(R"(
-        trace 3 12 2 5 & index 12
+        // Clearing walks back along the history.
+        full 80 & trace 3 12 2 5 & index 12
         value 0 > StatusChanged(12) BeforeIndexChanged(12) IndexChanged(5) [3 2 5]
         index 81 & value 0 > BeforeIndexChanged(81) IndexChanged(5)
         value 0 > StatusChanged(5) BeforeIndexChanged(5) IndexChanged(2) [3 2]
@@ -53,24 +50,19 @@ TEST_F(PlayTest, ClearingWalksBackAlongTheHistory) {
         fill 3.125....67.......9 & set 81 1 & index 81 & trace 1 81
         back 1 > StatusChanged(81) BeforeIndexChanged(81) IndexChanged(1) StatusChanged(1) [1]
         next 0 > 8
-    )");
-}
 
-TEST_F(PlayTest, NextFreeFieldIsTheMostConstrained) {
-    // Only 9 is free for the fields 41 and 76.
-    Script(R"(
-        fill ....................................1234.5678...........................876.54321
-        trace & goto 0 > IndexChanged(41) & pumps & goto 1 > StatusChanged(41) [41] & pumps > 85
+        // The next free field is the most constrained: only 9 is free for the fields 41 and 76.
+        init & fill ....................................1234.5678...........................876.54321
+        trace & pumps & goto 0 > IndexChanged(41) & pumps & goto 1 > StatusChanged(41) [41]
+        pumps > 85 & full 81 & goto 1 >
     )");
-    Do("fill " + FullCells);
-    Script("goto 1 >");
+    EXPECT_TRUE(play.Tracing());
 }
 
 TEST_F(PlayTest, GoingBackToFreedom) {
     // Going back passes field 12 and ends at field 3: once it is empty, its value is free again.
-    Do("fill " + FullCells.substr(0, 80));
     Script(R"(
-        index 5 & retreat 0 > StatusChanged(5) StatusChanged(5) F Beep
+        full 80 & index 5 & retreat 0 > StatusChanged(5) StatusChanged(5) F Beep
         trace & retreat 1 > StatusChanged(5) StatusChanged(5) F Beep [5]
         trace 3 12 5 & retreat 0 > StatusChanged(5) BeforeIndexChanged(5) IndexChanged(12) StatusChanged(12) BeforeIndexChanged(12) IndexChanged(3) StatusChanged(3) T []
         fill 4.125....67.......9 & set 81 1 & index 81 & trace 1 81
@@ -83,22 +75,11 @@ TEST_F(PlayTest, GoingBackToFreedom) {
     EXPECT_EQ(play.Retries, 7);
 }
 
-TEST_F(PlayTest, WithoutACursorOnlyTracingChanges) {
-    Script(R"(
-        trace & value 1 > & auto 0 > & next 1 > 0 & playlock > & back 1 > & retreat 1 > F Beep
-        trace 3 5 > [3 5] & tracing 1 > & tracing 0 > [none] & tracing 1 > [] & reset > [none]
-    )");
-    EXPECT_EQ(play.Value(), 0);
-    EXPECT_FALSE(play.Locked());
-    Script("index 9 & playlock > StatusChanged(9) & counts > 81 1 0 1");
-    EXPECT_TRUE(play.Locked());
-    EXPECT_FALSE(play.Tracing());
-}
-
 TEST_F(PlayTest, MovesOfASolveAreFixed) {
-    Do("fill " + OneRetreat);
     Script(R"(
-        reset & index 28 & run > 2=6 2=0 28=7 2=6 3=3 7=7 18=1 19=1 22=7 24=2 25=3 32=3 37=3 40=6 41=8 42=4 59=5 60=8 62=7 1 won [28 2 3 7 18 19 22 24 25 32 37 40 41 42 59 60 62]
+        // Field 2 leads to a dead end, and the retreat raises the value of field 28.
+        fill 4..815.2992734685..58.9..643152.9648.92...5178465712936394..1.2271963485584127936
+        index 28 & run > 2=6 2=0 28=7 2=6 3=3 7=7 18=1 19=1 22=7 24=2 25=3 32=3 37=3 40=6 41=8 42=4 59=5 60=8 62=7 1 won [28 2 3 7 18 19 22 24 25 32 37 40 41 42 59 60 62]
         fill 58961.23.723.956...6123789..4278..6..7.56.4.315.92.7..2143..956.37.5.1.2..51423.8
         reset & index 46
         run > 6=4 6=0 46=3 6=4 9=7 13=8 13=0 9=0 6=0 46=6 6=4 9=7 13=8 13=0 9=0 6=0 46=8 3 dead [46]
@@ -106,28 +87,24 @@ TEST_F(PlayTest, MovesOfASolveAreFixed) {
         fill 246957.1.81.264.7597.83124...812.4.9.6..8.1.21.24967.3.9751.3245813.2...3.467.581
         reset & index 55 & run > 7=8 7=0 55=6 7=8 7=0 55=0 55=6 7=8 7=0 7=8 3 dead Beep []
         run > 12=3 12=0 7=0 7=8 1 dead
+        full 81 & set 1 0 & set 2 1 & reset & index 50 & run > 50=0 50=3 1 dead Beep []
+        full 81 & reset & index 50 & run > 0 won [50]
     )");
-    Do("fill .1" + FullCells.substr(2));
-    Script("reset & index 50 & run > 50=0 50=3 1 dead Beep []");
-    Do("fill " + FullCells);
-    Script("reset & index 50 & run > 0 won [50]");
 }
 
-TEST_F(PlayTest, EscInASolveAsksOnceForEachPress) {
+TEST_F(PlayTest, EscInASolveAsksOnceForEachPressAndACancelEndsIt) {
     const std::string question = "Box(Abbrechen?|ESC gedrückt|YesNo|-) ";
-    platform.Esc = {false, true, true};
-    platform.Answers = {false, true};
-    // The run begins without a cursor.
-    Script("run > 1=1 2=2 0 open " + question + question + "[1 2]");
-    platform.Esc = {false, true};
-    platform.Answers = {true}; // the last answer is forgotten
-    Script("run > 3=3 0 open " + question + "[1 2 3]");
-}
-
-TEST_F(PlayTest, CancelAtTheFirstChangeOfASolveMakesOneCycle) {
-    Do("fill " + OneRetreat);
+    platform.Esc = {false, true, true, false, true};
+    platform.Answers = {false, true, true};
+    // The first run begins without a cursor; the last answer of it is forgotten in the second.
+    Script("run > 1=1 2=2 0 open " + question + question + "[1 2]\n" //
+           "run > 3=3 0 open " + question + "[1 2 3]");
+    // A cycle that has begun is completed, with its retreat.
     const auto step = game.Events.StatusChanged.Connect([](int) { SetCancel(); });
-    Script("index 28 & run > 2=6 2=0 28=7 1 open [28] & run > 2=6 0 open [28 2]");
+    Script(R"(
+        fill 4..815.2992734685..58.9..643152.9648.92...5178465712936394..1.2271963485584127936
+        index 28 & reset & run > 2=6 2=0 28=7 1 open [28] & run > 2=6 0 open [28 2]
+    )");
 }
 
 } // namespace tessarin

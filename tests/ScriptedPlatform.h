@@ -47,10 +47,9 @@ public:
     std::string Folder;
     VersionRecord Program;
     int WindowStyle = 0;
-    std::function<void()> AtBox;   ///< runs while a box is open
-    std::function<void()> AtSleep; ///< runs during a sleep
+    std::function<void()> Meanwhile = [] {}; ///< runs while a box is open and during a sleep
     bool Closed = false;           ///< the window is closed: no pumps, sleeps and questions
-    bool ErrorsExpected = false;   ///< an error in a handler does not fail the test
+    bool ErrorExpected = false;    ///< the next error in a handler does not fail the test
 
     /// Runs `action` inside the n-th pump from now, once.
     void AtPump(int n, std::function<void()> action) {
@@ -66,14 +65,14 @@ public:
     void Sleep(int milliseconds) override {
         if (Closed) return;
         Note("Sleep", milliseconds);
-        if (const auto meanwhile = AtSleep) meanwhile();
+        Meanwhile();
     }
     bool EscPressed() override { return Next(Esc); }
     Message::Answer ShowMessage(const Message& box) override {
         const bool yesNo = box.ButtonSet == Message::Buttons::YesNo;
         if (Closed) return yesNo ? Message::Answer::No : Message::Answer::Ok;
         Note("Box", box.Prompt, box.Title, yesNo ? "YesNo" : "Ok", box.QuestionIcon ? "?" : "-");
-        if (const auto meanwhile = AtBox) meanwhile();
+        Meanwhile();
         if (!yesNo) return Message::Answer::Ok;
         return Next(Answers) ? Message::Answer::Yes : Message::Answer::No;
     }
@@ -82,7 +81,7 @@ public:
         Hourglass = pointer == MousePointer::Hourglass;
     }
     void ReportError(const std::string& what) override {
-        if (!ErrorsExpected) ADD_FAILURE() << "a handler ended with an error: " << what;
+        if (!std::exchange(ErrorExpected, false)) ADD_FAILURE() << "a handler ended with an error: " << what;
     }
     std::string ProgramFolder() override { return Folder; }
     VersionRecord Version() override { return Program; }

@@ -1,8 +1,6 @@
 // The automatic solve in the window: pace, disabled panels, cancel and the busy indicator.
 #include "WindowScript.h"
 
-#include <stdexcept>
-
 namespace tessarin {
 
 class SolveWindowTest : public WindowFixture {
@@ -13,6 +11,7 @@ protected:
             std::string cells = FullCells;
             cells[0] = cells[10] = cells[20] = cells[30] = '.';
             Fill(cells);
+            grid.SetIndex(1);
             play.Reset();
         };
         Do("load");
@@ -25,7 +24,7 @@ TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
     for (const auto& [option, pause] :
          {std::pair{0, 0}, {1, 0}, {2, 100}, {3, 200}, {4, 400}, {5, 800}}) {
         SCOPED_TRACE(option);
-        Script("index 1 & load & click optChill(" + std::to_string(option) + ")");
+        Script("load & click optChill(" + std::to_string(option) + ")");
         std::string pauses;
         for (int i = 0; i < 10 && pause > 0; ++i)
             pauses += "Sleep(" + std::to_string(pause) + ") ";
@@ -37,40 +36,29 @@ TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
     Script("click btnGoBack > [1 11 21] & lights > normal normal");
 }
 
-TEST_F(SolveWindowTest, StepMakesOneCycleForEachClick) {
+TEST_F(SolveWindowTest, StepPanelsEscErrorsAndClosing) {
     Script(R"(
+        // "Step" makes one cycle for each click.
         click optChill(6) & click btnSolve > [1] & left > 3 & busy > & click btnSolve > [1 11]
         left > 2 & busy > & click btnSolve & click btnSolve & left > 0 & busy >
-    )");
-}
 
-TEST_F(SolveWindowTest, PanelsAreDisabledDuringASolveAndAllElseAnswers) {
-    Script(R"(
+        // During a solve the panels are disabled, and the window stays open. All else answers.
+        load & click optChill(1)
         during click btnInfo; click btnGoBack; click lblDeadEnd; click btnNumPad(11); click mnuFileQuit; left => 3; busy => fraAction fraNumPad rotor hourglass; click lblField(5); cursor => 5; click optChill(0)
-        click optChill(1) & click btnSolve > [1 11 21 31] & left > 0 & busy >
-    )");
-    EXPECT_EQ(window.Width(), 8850);
-    Script("click mnuFileQuit & busy > closed");
-}
+        click btnSolve > [1 11 21 31] & left > 0 & busy > & width > 8850
 
-TEST_F(SolveWindowTest, OnlyAConfirmedEscEndsTheSolve) {
-    platform.Esc = {true, true};
-    const std::string box = "Box(Abbrechen?|ESC gedrückt|YesNo|-)";
-    Script("answer 0 & answer 1 & click btnSolve > " + box + " " + box + " [1] & busy >");
-    Script("left > 3 & click btnSolve & left > 0 & busy >"); // the last cancel is forgotten
-}
+        // Only a confirmed ESC ends the solve. The next one runs to its end.
+        load & esc 1 & esc 1 & answer 0 & answer 1
+        click btnSolve > Box(Abbrechen?|ESC gedrückt|YesNo|-) Box(Abbrechen?|ESC gedrückt|YesNo|-) [1]
+        busy > & left > 3 & click btnSolve & left > 0 & busy >
 
-TEST_F(SolveWindowTest, ClosedBeforeTheSolveOfAStepReturns) {
-    Script(R"(
-        click optChill(6) & during click optChill(1); click mnuFileQuit & click btnSolve > [1]
+        // An error leaves a usable window.
+        load & during fail & click btnSolve & left > 3 & busy >
+
+        // Closed before the solve of a step returns.
+        load & click optChill(6) & during click optChill(1); click mnuFileQuit & click btnSolve > [1]
         left > 3 & busy > closed
     )");
-}
-
-TEST_F(SolveWindowTest, AFailingSolveLeavesAUsableWindow) {
-    platform.ErrorsExpected = true;
-    mCommands["fail"] = [](int, auto&) { throw std::runtime_error("no more"); };
-    Script("during fail & click btnSolve & left > 3 & busy > & click mnuFileQuit & busy > closed");
 }
 
 TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {

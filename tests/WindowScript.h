@@ -20,12 +20,13 @@ struct WindowParts {
 class WindowScript : protected WindowParts, public GameScript {
 public:
     WindowScript() : GameScript(OwnPlatform, *goGame) {
-        platform.AtBox = platform.AtSleep = [this] { Meanwhile(); };
+        platform.Meanwhile = [this] { Meanwhile(); };
         window.Show();
         window.RaiseActivate();
         const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
         add("click", [this](int, auto& name) { Click(name); });
         add("answer", [this](int yes, auto&) { platform.Answers.push_back(yes == 1); });
+        add("esc", [this](int pressed, auto&) { platform.Esc.push_back(pressed == 1); });
         add("choose", [this](int, auto& name) { toolkit.Files.push_back(folder.File(name)); });
         add("import", [this](int, auto& lines) {
             Write("import.csv Index;Value;Locked|" + lines);
@@ -35,6 +36,8 @@ public:
         // Sets the steps for the next box, pause or change of a field, with "=>" for ">" and "; "
         // between them.
         add("during", [this](int, auto& steps) { mMeanwhile = steps; });
+        // Makes the handler fail that runs the steps.
+        add("fail", [this](int, auto&) { platform.ErrorExpected = true; });
         // Paints a field, N: marked as a neighbour, G: marked as a member of a group.
         add("paint", [this](int index, auto& text) {
             const auto has = [&](char mark) { return text.find(mark) != std::string::npos; };
@@ -55,6 +58,8 @@ public:
             const auto& text = dynamic_cast<Label&>(toolkit.Find(name)).Caption();
             Tell(ReplaceAll(ReplaceAll(text, "\r\n", "|"), folder.File(""), ""));
         });
+        add("width", [this](int, auto&) { Tell(window.Width()); });
+        add("refresh", [this](int, auto&) { window.RefreshAll(); });
         // What is not as it is while no command runs.
         add("busy", [this](int, auto&) {
             for (const Control* const control : std::initializer_list<const Control*>{
@@ -115,6 +120,7 @@ private:
 
     void Meanwhile() {
         Script(ReplaceAll(ReplaceAll(std::exchange(mMeanwhile, ""), "; ", "\n"), "=>", ">"));
+        if (platform.ErrorExpected) throw std::runtime_error("fail");
     }
 
     std::string mMeanwhile;

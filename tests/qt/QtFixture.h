@@ -8,6 +8,7 @@
 #include "qt/QtToolkit.h"
 #include "ui/frmTessarin.h"
 
+
 #include <QApplication>
 #include <QDialog>
 #include <QKeySequence>
@@ -30,7 +31,6 @@ public:
     SpyPlatform() : QtPlatform(ProgramVersion) {}
 
     bool ReallySleeps = false;            ///< off: a sleep takes no time
-    int Activations = 0;                  ///< counted by the taskbar entry that each sets
     std::function<void()> AtPump = [] {}; ///< runs before each pump handles its events
 
     void PumpEvents(Pump pump) override {
@@ -46,7 +46,7 @@ public:
     }
     void Beep() override {}
     void SetWindowLongA(int handle, int index, int value) override {
-        ++Activations;
+        mCalls += "Taskbar "; // once for each activation
         QtPlatform::SetWindowLongA(handle, index, value);
     }
     void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
@@ -118,7 +118,7 @@ protected:
 
     QWidget& Widget(const std::string& name) {
         auto* const widget = form->findChild<QWidget*>(QString::fromStdString(name));
-        if (widget == nullptr) throw std::invalid_argument("no control " + name);
+        if (widget == nullptr) throw std::invalid_argument("no control");
         return *widget;
     }
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
