@@ -42,6 +42,8 @@ TEST_F(CommandsTest, ButtonsAndTheEditMenu) {
         fields 1 2 > :green/text :normal/text & caption lblFile >
         pad > 0123456789XC 0123456789C normal
 
+        // About and the information.
+        click mnuAbout & click mnuAbout > Box(FileDescription: Solves|Copyright: by X|Internet: https://x|Version: 01.06.048|Release: 29.04.2022 - 06:49:52|About Tessarin|Ok|-)
         click btnInfo & width > 11625 & click btnInfo & width > 8850
     )");
     window.SetInfoVisible(false);

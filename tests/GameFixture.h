@@ -66,7 +66,8 @@ public:
     }
 
     /// Executes one of mCommands and returns a record of it: the events in order, its error or its
-    /// result, the platform's calls, and the history in brackets if it has changed.
+    /// result, the platform's calls, and the history in brackets if it has changed. Line breaks are
+    /// "|", and files in the folder have no path.
     std::string Do(const std::string& line) {
         std::istringstream words(line);
         std::string command, text;
@@ -83,6 +84,7 @@ public:
         mError = failure;
         std::string told = std::exchange(mTold, outerTold) + mLog.TakeCalls(outerCalls);
         if (History() != before) told.append("[").append(History()).append("] ");
+        told = ReplaceAll(ReplaceAll(told, "\r\n", "|"), folder.File(""), "");
         return told.substr(0, told.size() - (told.empty() ? 0 : 1));
     }
 
@@ -160,12 +162,9 @@ protected:
         {"counts", [&](int, auto&) { Tell(Counts()); }},
         {"csv", [&](int, auto& text) { grid.SetTextCSV(ReplaceAll(text, "|", "\r\n")); }},
         {"sdk", [&](int, auto& text) { grid.SetTextSDK(ReplaceAll(text, "|", "\r\n")); }},
-        {"is", [&](int, auto&) { Tell(ReplaceAll(grid.TextCSV(), "\r\n", "|").substr(18)); }},
+        {"is", [&](int, auto&) { Tell(grid.TextCSV().substr(18)); }},
         {"write", [&](int, auto& text) { Write(text); }},
-        {"read",
-         [&](int, auto& name) {
-             Tell(ReplaceAll(ReadTextFile(folder.File(name)), "\r\n", "|"));
-         }},
+        {"read", [&](int, auto& name) { Tell(ReadTextFile(folder.File(name))); }},
         {"trace", [&](int, auto& history) { Trace(history); }},
         {"tracing", [&](int on, auto&) { play.SetTracing(on == 1); }},
         {"reset", [&](int, auto&) { play.Reset(); }},

@@ -9,7 +9,6 @@ class GameTest : public GameFixture {
 protected:
     GameTest() {
         platform.Folder = folder.Path;
-        platform.Time = {2022, 4, 29, 6, 49, 52};
         const auto add = [this](const char* name, auto command) {
             mCommands[name] = [this, command](int, auto& file) {
                 command(file.empty() ? "" : folder.File(file));

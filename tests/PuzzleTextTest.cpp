@@ -14,7 +14,7 @@ protected:
             Tell("has");
             Tell(Do("is"));
         };
-        mCommands["sdktext"] = [this](int, auto&) { Tell(ReplaceAll(grid.TextSDK(), "\r\n", "|")); };
+        mCommands["sdktext"] = [this](int, auto&) { Tell(grid.TextSDK()); };
     }
     std::string mFrame;
 };

@@ -55,8 +55,7 @@ public:
                  NameOf(window.lblWinner.BackColor()));
         });
         add("caption", [this](int, auto& name) {
-            const auto& text = dynamic_cast<Label&>(toolkit.Find(name)).Caption();
-            Tell(ReplaceAll(ReplaceAll(text, "\r\n", "|"), folder.File(""), ""));
+            Tell(dynamic_cast<Label&>(toolkit.Find(name)).Caption());
         });
         add("width", [this](int, auto&) { Tell(window.Width()); });
         add("refresh", [this](int, auto&) { window.RefreshAll(); });
