@@ -54,10 +54,10 @@ TEST_F(GridTest, EveryStatusPropertyCountsAtItsFirstRead) {
     EXPECT_EQ(grid.DeadCount(), 0);
     Script("index 1 & pumps");
     using Read = std::function<int(Fields&)>;
-    for (const auto& read : {Read(&Fields::FreeCount), Read(&Fields::LockedCount),
-                             Read(&Fields::SetCount), Read(&Fields::NextFreeField),
-                             Read(&Fields::IsWinner), Read(&Fields::IsDeadEnd),
-                             Read(&Fields::Status), Read(&Fields::DeadField)}) {
+    for (const auto& read :
+         {Read(&Fields::FreeCount), Read(&Fields::LockedCount), Read(&Fields::SetCount),
+          Read(&Fields::NextFreeField), Read(&Fields::IsWinner), Read(&Fields::IsDeadEnd),
+          Read(&Fields::Status), Read(&Fields::DeadField)}) {
         grid.Clear();
         read(grid);
         read(grid);

@@ -97,8 +97,10 @@ TEST_F(PlayTest, EscInASolveAsksOnceForEachPressAndACancelEndsIt) {
     platform.Esc = {false, true, true, false, true};
     platform.Answers = {false, true, true};
     // The first run begins without a cursor; the last answer of it is forgotten in the second.
-    Script("run > 1=1 2=2 0 open " + question + question + "[1 2]\n" //
-           "run > 3=3 0 open " + question + "[1 2 3]");
+    Script("run > 1=1 2=2 0 open " + question + question +
+           "[1 2]\n" //
+           "run > 3=3 0 open " +
+           question + "[1 2 3]");
     // A cycle that has begun is completed, with its retreat.
     const auto step = game.Events.StatusChanged.Connect([](int) { SetCancel(); });
     Script(R"(

@@ -46,8 +46,8 @@ public:
     std::string Folder;
     int WindowStyle = 0;
     std::function<void()> Meanwhile = [] {}; ///< runs while a box is open and during a sleep
-    bool Closed = false;           ///< the window is closed: no pumps, sleeps and questions
-    bool ErrorExpected = false;    ///< the next error in a handler does not fail the test
+    bool Closed = false;        ///< the window is closed: no pumps, sleeps and questions
+    bool ErrorExpected = false; ///< the next error in a handler does not fail the test
 
     /// Runs `action` inside the n-th pump from now, once.
     void AtPump(int n, std::function<void()> action) {
@@ -79,7 +79,8 @@ public:
         Hourglass = pointer == MousePointer::Hourglass;
     }
     void ReportError(const std::string& what) override {
-        if (!std::exchange(ErrorExpected, false)) ADD_FAILURE() << "a handler ended with an error: " << what;
+        if (!std::exchange(ErrorExpected, false))
+            ADD_FAILURE() << "a handler ended with an error: " << what;
     }
     std::string ProgramFolder() override { return Folder; }
     VersionRecord Version() override { return {"Solves", "by X", "https://x", 1, 6, 48}; }

@@ -8,11 +8,7 @@ protected:
     SolveWindowTest() {
         // Only the fields 1, 11, 21 and 31 are empty.
         mCommands["load"] = [this](int, auto&) {
-            std::string cells = FullCells;
-            cells[0] = cells[10] = cells[20] = cells[30] = '.';
-            Fill(cells);
-            grid.SetIndex(1);
-            play.Reset();
+            Script("full 81 & set 1 0 & set 11 0 & set 21 0 & set 31 0 & index 1 & reset");
         };
         Do("load");
     }

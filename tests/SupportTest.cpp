@@ -64,7 +64,8 @@ TEST(SupportTest, WindowLeavesTheTaskbar) {
     ScriptedPlatform platform;
     platform.WindowStyle = 0x40010;
     ShowInTaskBar(5, false);
-    EXPECT_EQ(platform.TakeCalls(), "Lock(77) Show(5|0) Get(5|-20) Set(5|-20|16) Show(5|5) Lock(0) ");
+    EXPECT_EQ(platform.TakeCalls(),
+              "Lock(77) Show(5|0) Get(5|-20) Set(5|-20|16) Show(5|5) Lock(0) ");
 }
 
 } // namespace tessarin

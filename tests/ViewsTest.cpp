@@ -43,7 +43,8 @@ TEST_F(ViewsTest, MenusAndFieldsAreBlockedUntilAViewEndsOrFails) {
                    "click mnuFileQuit; click mnuEditLockAllSet; click mnuViewFreedom; cursor => 1; "
                    "click btnNumPad(11); click btnNumPad(4); fields 1 => 4:green/text; set 2 5" +
                    ending);
-            Script("click " + view + " & busy > & counts > 79 0 2 3 & set 2 0 & click btnNumPad(11)");
+            Script("click " + view +
+                   " & busy > & counts > 79 0 2 3 & set 2 0 & click btnNumPad(11)");
         }
 }
 

@@ -54,9 +54,8 @@ public:
             Tell(NameOf(window.lblDeadEnd.BackColor()) + " " +
                  NameOf(window.lblWinner.BackColor()));
         });
-        add("caption", [this](int, auto& name) {
-            Tell(dynamic_cast<Label&>(toolkit.Find(name)).Caption());
-        });
+        add("caption",
+            [this](int, auto& name) { Tell(dynamic_cast<Label&>(toolkit.Find(name)).Caption()); });
         add("width", [this](int, auto&) { Tell(window.Width()); });
         add("refresh", [this](int, auto&) { window.RefreshAll(); });
         // What is not as it is while no command runs.

@@ -11,7 +11,6 @@
 #include <cstdlib>
 
 namespace tessarin {
-namespace {
 
 // The parameter is true for a dark theme.
 class PaintingTest : public QtFixture, public testing::WithParamInterface<bool> {
@@ -101,5 +100,4 @@ TEST_P(PaintingTest, LongTextsFitIntoTheirPlaces) {
     EXPECT_GT(Contrast(path, path.rect().adjusted(path.width() - 20, 0, 0, 0), {0, 0}), 60);
 }
 
-} // namespace
 } // namespace tessarin

@@ -8,13 +8,13 @@
 #include "qt/QtToolkit.h"
 #include "ui/frmTessarin.h"
 
-
 #include <QApplication>
 #include <QDialog>
 #include <QKeySequence>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -39,10 +39,6 @@ public:
     }
     void Sleep(int milliseconds) override {
         if (ReallySleeps) QtPlatform::Sleep(milliseconds);
-    }
-    Message::Answer ShowMessage(const Message& message) override {
-        Note("Box", message.Prompt);
-        return QtPlatform::ShowMessage(message);
     }
     void Beep() override {}
     void SetWindowLongA(int handle, int index, int value) override {
@@ -79,6 +75,11 @@ protected:
         add("to", [this](auto& name) { Widget(name).setFocus(); });
         add("focus", [this](auto&) { Tell(form->focusWidget()->objectName().toStdString()); });
         add("activate", [this](auto&) { Activate(); });
+        // From now on clicks on fields and options are only told.
+        add("record", [this](auto&) {
+            window.lblField.Click = [this](int index) { Tell("field " + std::to_string(index)); };
+            window.optChill.Click = [this](int index) { Tell("pace " + std::to_string(index)); };
+        });
         QObject::connect(&mEyes, &QTimer::timeout, [this] { LookForBox(); });
         mEyes.start(LookMilliseconds);
         window.Show();
@@ -133,7 +134,7 @@ private:
                 Click(MenuBar(), MenuBar().actionGeometry(action).center());
         for (QMenu* const menu : MenuBar().findChildren<QMenu*>())
             for (QAction* const action : menu->actions()) {
-                if (action->objectName() != entry) continue;
+                if (action->objectName() != entry || menu->title().isEmpty()) continue;
                 Menu(menu->menuAction()->objectName());
                 if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 500)) return Tell("shut");
                 Click(*menu, menu->actionGeometry(action).center());
@@ -147,6 +148,7 @@ private:
         if (!dialog->isActiveWindow()) return dialog->activateWindow();
         mSeen = dialog;
         mEyes.start(); // fires again although this handler has not ended
+        if (const auto* const box = qobject_cast<QMessageBox*>(dialog)) TellBox(*box);
         if (const auto meanwhile = std::exchange(WhileOpen, nullptr)) meanwhile(*dialog);
         if (mAnswers.empty()) return Unexpected(*dialog);
         const auto answer = QString::fromStdString(mAnswers.front());
@@ -158,6 +160,14 @@ private:
         if (name == nullptr) return Unexpected(*dialog);
         name->setText(answer);
         QMetaObject::invokeMethod(dialog, "accept");
+    }
+
+    // Title, text, icon and buttons, the default one in brackets.
+    void TellBox(const QMessageBox& box) {
+        QString buttons = box.icon() == QMessageBox::Question ? "?" : "-";
+        for (auto* const button : box.buttons())
+            buttons += (button == box.defaultButton() ? " [" : " ") + button->text();
+        Tell("Box(" + (box.windowTitle() + "|" + box.text() + "|" + buttons).toStdString() + ")");
     }
 
     QTimer mEyes;

@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 
 namespace tessarin {
-namespace {
 
 class SolvingTest : public QtFixture {
 protected:
@@ -74,7 +73,7 @@ TEST_F(SolvingTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
         staysOpen = box.isVisible();
         Esc(box, QEvent::KeyRelease, 1700);
     };
-    Script("answer Yes & click btnSolve > Box(Abbrechen?) [1] & left > 4");
+    Script("answer Yes & click btnSolve > Box(ESC gedrückt|Abbrechen?|- [&Yes &No) [1] & left > 4");
     EXPECT_TRUE(staysOpen);
 }
 
@@ -104,5 +103,4 @@ TEST_F(SolvingTest, RotorTurnsAfterEachPauseAndDuringACommandInsideItsTick) {
     EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#2f5d8c"));
 }
 
-} // namespace
 } // namespace tessarin
