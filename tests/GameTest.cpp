@@ -9,16 +9,14 @@ class GameTest : public GameFixture {
 protected:
     GameTest() {
         platform.Folder = folder.Path;
-        const auto add = [this](const char* name, auto command) {
-            mCommands[name] = [this, command](int, auto& file) {
-                command(file.empty() ? "" : folder.File(file));
-            };
-        };
-        add("tocsv", [this](const std::string& file) { game.FileExportCSV(file); });
-        add("tosdk", [this](const std::string& file) { game.FileExportSDK(file); });
-        add("fromcsv", [this](const std::string& file) { game.FileImportCSV(file); });
-        add("fromsdk", [this](const std::string& file) { game.FileImportSDK(file); });
-        add("charset", [this](const std::string& file) { Tell(DetectCharset(file)); });
+        mCommands["tocsv"] = [this](int, auto& name) { game.FileExportCSV(Path(name)); };
+        mCommands["tosdk"] = [this](int, auto& name) { game.FileExportSDK(Path(name)); };
+        mCommands["fromcsv"] = [this](int, auto& name) { game.FileImportCSV(Path(name)); };
+        mCommands["fromsdk"] = [this](int, auto& name) { game.FileImportSDK(Path(name)); };
+        mCommands["charset"] = [this](int, auto& name) { Tell(DetectCharset(Path(name))); };
+    }
+    std::string Path(const std::string& name) const {
+        return name.empty() ? "" : folder.File(name);
     }
 };
 
@@ -39,8 +37,8 @@ TEST_F(GameTest, GameRelaysTheEventsOfTheGrid) {
 }
 
 TEST_F(GameTest, ExportsCreateAFileOrTouchNothing) {
-    std::filesystem::create_symlink(folder.File("nowhere"), folder.File("dangling"));
-    std::filesystem::create_symlink(folder.File("mine"), folder.File("link"));
+    std::filesystem::create_symlink(Path("nowhere"), Path("dangling"));
+    std::filesystem::create_symlink(Path("mine"), Path("link"));
     Script("write mine mine");
     for (const char* const value : {"5", "6"}) // the second export within the same second
         Script(std::string("set 1 ") + value + R"(
@@ -54,18 +52,18 @@ TEST_F(GameTest, ExportsCreateAFileOrTouchNothing) {
     )");
     const auto files = std::filesystem::directory_iterator(folder.Path);
     EXPECT_EQ(std::distance(begin(files), end(files)), 7);
-    EXPECT_FALSE(std::filesystem::exists(folder.File("dangling")));
+    EXPECT_FALSE(std::filesystem::exists(Path("dangling")));
 }
 
 TEST_F(GameTest, UnusableFilesCountAsEmptyAndOnlyCSVResetsThePlayer) {
-    ASSERT_EQ(mkfifo(folder.File("pipe").c_str(), 0600), 0);
-    std::filesystem::create_symlink("/dev/zero", folder.File("endless"));
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/zero", Path("endless"));
     Script("fill 5");
     for (const auto& [name, text, charset] :
          {std::tuple{"wide", grid.TextCSV(), "unicode"},
           {"marked", BomUtf8() + grid.TextCSV(), ""},
           {"binary", std::string(100000, '\0') + "\xFF\xFE\r\n;;;", ""}})
-        WriteTextFile(folder.File(name), text, charset, false);
+        WriteTextFile(Path(name), text, charset, false);
     for (const std::string name : {"pipe", "endless", "wide", "marked", "binary", "missing", "."}) {
         Script("fill 5 & trace 4 & fromsdk " + name + " > & is > |1;5;0");
         Script("fromcsv " + name + " > Init [none] & is >");
@@ -83,7 +81,7 @@ TEST_F(GameTest, TextFilesKeepEveryByte) {
     std::string bytes = BomUtf8() + "a\r\nb\nc\r";
     for (int code = 0; code < 256; ++code)
         bytes += static_cast<char>(code);
-    const std::string all = folder.File("all"), wide = folder.File("wide"), full = "/dev/full";
+    const std::string all = Path("all"), wide = Path("wide"), full = "/dev/full";
     Script("write all old & write short \xEF\xBB & write empty");
     EXPECT_EQ(WriteTextFile(all, bytes, "utf-8", true), "");
     EXPECT_EQ(ReadTextFile(all), bytes);
@@ -92,7 +90,7 @@ TEST_F(GameTest, TextFilesKeepEveryByte) {
     EXPECT_EQ(WriteTextFile(wide, "", "", false), "File=" + wide + ", Err=File exists");
     EXPECT_EQ(WriteTextFile(full, "x", "", true), "File=/dev/full, Err=No space left on device");
     EXPECT_NE(WriteTextFile(full, std::string(1 << 20, 'x'), "", true), "");
-    WriteTextFile(folder.File("bom"), BomUnicode(), "", false);
+    WriteTextFile(Path("bom"), BomUnicode(), "", false);
     Script(R"(
         charset all > utf-8 & charset bom > unicode & charset wide > x-ansi
         charset short > x-ansi & charset empty > & charset missing > & charset . >

@@ -11,6 +11,7 @@ TEST_F(GridTest, GroupsAreRowsThenColumnsThenBoxes) {
         Tell(group.FlavorText() + " " + Text(group.Fields));
     };
     mCommands["around"] = [this](int i, auto&) { Tell(Text(At(i).Neighbours)); };
+    mCommands["nth"] = [this](int n, auto&) { Tell(At(1).Neighbours.Item(n)); };
     mCommands["in"] = [this](int i, auto&) { Tell(Text(At(i).InGroups)); };
     mCommands["join"] = [this](int i, auto&) { At(1).GroupAdd(*game.Groups->Items.Item(i)); };
     Script(R"(
@@ -19,7 +20,8 @@ TEST_F(GridTest, GroupsAreRowsThenColumnsThenBoxes) {
         group 28 > no item at position 28 of 27 & join 1 > the number 1 is already there
         around 1 > 1 2 3 4 5 6 7 8 9 10 19 28 37 46 55 64 73 11 12 20 21 & init 5
         group 51 > box 1 2 3 4 5 26 27 28 29 30 51 52 53 54 55 76 77 78 79 80 101 102 103 104 105
-        in 313 > 13 38 63
+        in 313 > 13 38 63 & nth 65 > 105 & nth 0 > no number at position 0 of 65
+        nth 66 > no number at position 66 of 65
     )");
     EXPECT_EQ(At(313).Neighbours.Count(), 65);
     Group other;

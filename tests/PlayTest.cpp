@@ -101,6 +101,7 @@ TEST_F(PlayTest, EscInASolveAsksOnceForEachPressAndACancelEndsIt) {
            "[1 2]\n" //
            "run > 3=3 0 open " +
            question + "[1 2 3]");
+    EXPECT_TRUE(gbCancel);
     // A cycle that has begun is completed, with its retreat.
     const auto step = game.Events.StatusChanged.Connect([](int) { SetCancel(); });
     Script(R"(

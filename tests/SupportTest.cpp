@@ -15,7 +15,7 @@ TEST(SupportTest, TextsAndDates) {
         {PadLeft(" 12 ", 4, "0"), "0012"},
         {PadLeft(" 12 ", 1, "0"), "2"},
         {PadLeft(" 12 "), "  12"},
-        {PadLeft("12", 0, "0"), ""},
+        {PadLeft("12", 0, "0") + PadLeft("12", -1, "0"), ""},
         {PadLeft("12", 4, "xy"), "xx12"},
         {PadLeft("12", 4, ""), "  12"},
         {PadNumber(7, 4, "") + PadNumber(12345, 4, "") + PadNumber(-5, 4, ""), "0007234500-5"},

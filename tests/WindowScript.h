@@ -40,8 +40,7 @@ public:
         add("fail", [this](int, auto&) { platform.ErrorExpected = true; });
         // Paints a field, N: marked as a neighbour, G: marked as a member of a group.
         add("paint", [this](int index, auto& text) {
-            const auto has = [&](char mark) { return text.find(mark) != std::string::npos; };
-            window.PaintField(index, has('N'), has('G'));
+            window.PaintField(index, text.ends_with('N'), text.ends_with('G'));
         });
         add("fields", [this](int, auto& indices) {
             std::istringstream words(indices);

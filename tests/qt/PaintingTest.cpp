@@ -64,6 +64,7 @@ TEST_P(PaintingTest, BackgroundsBordersDigitsAndTheFocusCanBeSeen) {
     }
     EXPECT_EQ(qt::ToQt(window.lblField(12).Font()).weight(), QFont::Black)
         << "also of a family that replaces Arial Black";
+    EXPECT_TRUE(qt::ToQt({.Italic = true}).italic());
     const int around = qGray(QApplication::palette().color(QPalette::Window).rgb());
     for (const char* const name : {"lblField(40)", "lblDeadEnd", "lblWinner", "fraInfo"}) {
         const QImage image = Picture(name);
