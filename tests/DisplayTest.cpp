@@ -23,9 +23,9 @@ TEST_F(DisplayTest, FieldsInformationAndPad) {
 
         // The pad follows the current field, here with the values of its row.
         clear & index 41 & pad > 0123456789XC 0123456789C normal
-        fill ....................................1346.78 & pad > 0259XC 0123456789C normal
-        lock 41 1 & pad > 0259XC X red & lock 41 0 & set 41 5
-        pad > 029XC 0123456789XC normal & lock 41 1 & pad > 029XC X red
+        fill ....................................1349.78 & pad > 0256XC 0123456789C normal
+        lock 41 1 & pad > 0256XC X red & lock 41 0 & set 41 5
+        pad > 026XC 0123456789XC normal & lock 41 1 & pad > 026XC X red
 
         // At most one field is green. A click inside the cursor move paints its field as current.
         clear & set 60 7
@@ -43,7 +43,7 @@ TEST_F(DisplayTest, FieldsInformationAndPad) {
 TEST_F(DisplayTest, ScreenReadersHearWhatTheColoursTell) {
     mCommands["hear"] = [this](int, auto& name) { Tell(toolkit.Find(name).AccessibleName()); };
     Script(R"(
-        hear lblField(12) > row 2, column 3: empty
+        hear lblField(12) > row 2, column 3: empty & hear lblField(9) > row 1, column 9: empty
         index 12 & set 12 5 & hear lblField(12) > row 2, column 3: 5, current
         playlock & hear lblField(12) > row 2, column 3: 5, locked, current
         index 13 & hear lblField(12) > row 2, column 3: 5, locked

@@ -47,7 +47,8 @@ TEST_F(PlayTest, ByHand) {
         back 0 > StatusChanged(3) [] & back 0 >
         reset & index 70 & value 0 > StatusChanged(70) & value 0 >
         index 12 & set 12 9 & trace 5 82 & value 0 > StatusChanged(12) & back 0 >
-        fill 3.125....67.......9 & set 81 1 & index 81 & trace 1 81
+        trace 81 & value 0 > BeforeIndexChanged(12) IndexChanged(81)
+        fill 3.125....67.......9 & set 81 1 & trace 1 81
         back 1 > StatusChanged(81) BeforeIndexChanged(81) IndexChanged(1) StatusChanged(1) [1]
         next 0 > 8
 
@@ -107,6 +108,8 @@ TEST_F(PlayTest, EscInASolveAsksOnceForEachPressAndACancelEndsIt) {
     Script(R"(
         fill 4..815.2992734685..58.9..643152.9648.92...5178465712936394..1.2271963485584127936
         index 28 & reset & run > 2=6 2=0 28=7 1 open [28] & run > 2=6 0 open [28 2]
+        fill ..3456789..................2...........................2 & reset & index 81
+        run > 1=1 1=0 81=1 1 open [81]
     )");
 }
 
