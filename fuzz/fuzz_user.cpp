@@ -1,9 +1,9 @@
-// Works the window with a random user who takes every choice from a byte of the input.
+// Works the window with a random user who takes every choice from the input.
 #include "WindowScript.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
+#include <fuzzer/FuzzedDataProvider.h>
 
 namespace tessarin {
 
@@ -11,31 +11,31 @@ namespace tessarin {
 /// pumps of commands that are running.
 class RandomUser : public WindowScript {
 public:
-    /// Takes its choices from the front of `choices`.
-    RandomUser(bool impatient, std::span<const std::uint8_t>& choices)
+    RandomUser(bool impatient, FuzzedDataProvider& choices)
         : mbImpatient(impatient), mChoices(choices) {}
 
     bool IsOpen() const { return !platform.Closed; }
 
     /// Does one thing and checks the invariants.
     void Step() {
-        // The 25 moves, each after the least number for "#" and the count of numbers.
+        // The 25 moves. "#" is a number from the first to the second one.
         std::istringstream moves(R"(
-            -1 84 index #; -1 12 value #; 0 2 next #; 0 2 back #; 0 2 retreat #; 0 1 trace #;
-            3 3 init #; 1 82 import 5,3,1|#,4,0|7,7,1; 1 81 click lblField(#);
-            0 12 click btnNumPad(#); 0 1 click btnNextFreeAuto; 0 1 click btnNextFreeAuto;
-            0 1 click btnGoBackToFreedom; 0 1 click btnNextFreeValue; 0 1 click btnSolve;
-            0 7 click optChill(#); 0 1 click lblDeadEnd; 0 1 click mnuViewFreedom;
-            0 1 click mnuViewGroups; 0 1 click mnuViewNeighbours; 0 1 click mnuEditClearFree;
-            0 1 click mnuEditClearAll; 0 1 click mnuEditLockAllSet; 0 1 click mnuEditLockClear;
-            0 1 click mnuFileQuit)");
-        int least = 0, count = 0;
+            -1 82 index #& -1 10 value #& 0 1 next #& 0 1 back #& 0 1 retreat #& 0 0 trace&
+            3 5 init #& 1 82 import 5;3;1|#;4;0|7;7;1& 1 81 click lblField(#)&
+            0 11 click btnNumPad(#)& 0 0 click btnNextFreeAuto& 0 0 click btnNextFreeAuto&
+            0 0 click btnGoBackToFreedom& 0 0 click btnNextFreeValue& 0 0 click btnSolve&
+            0 6 click optChill(#)& 0 0 click lblDeadEnd& 0 0 click mnuViewFreedom&
+            0 0 click mnuViewGroups& 0 0 click mnuViewNeighbours& 0 0 click mnuEditClearFree&
+            0 0 click mnuEditClearAll& 0 0 click mnuEditLockAllSet& 0 0 click mnuEditLockClear&
+            0 0 click mnuFileQuit)");
+        int least = 0, most = 0;
         std::string line;
-        for (int choice = Below(25); choice >= 0; --choice)
-            std::getline(moves >> least >> count >> std::ws, line, ';');
-        line = ReplaceAll(ReplaceAll(line, "#", std::to_string(least + Below(count))), ",", ";");
+        for (int choice = mChoices.ConsumeIntegralInRange(1, 25); choice > 0; --choice)
+            std::getline(moves >> least >> most >> std::ws, line, '&');
+        line = ReplaceAll(line, "#", std::to_string(mChoices.ConsumeIntegralInRange(least, most)));
         SCOPED_TRACE(line);
-        if (++mlDepth < 3 && mbImpatient) platform.AtPump(1 + 7 * Below(60), [this] { Step(); });
+        if (++mlDepth < 3 && mbImpatient)
+            platform.AtPump(mChoices.ConsumeIntegralInRange(1, 420), [this] { Step(); });
         platform.Esc.assign(8, false); // a solve that takes long is cancelled
         platform.Esc.push_back(true);
         platform.Answers.assign(2, true);
@@ -47,13 +47,6 @@ public:
     }
 
 private:
-    // The next choice: a number from 0 to `count` - 1.
-    int Below(int count) {
-        if (mChoices.empty()) return 0;
-        const int choice = mChoices.front() % count;
-        mChoices = mChoices.subspan(1);
-        return choice;
-    }
     void ExpectRightStatus() {
         grid.Status(); // pumps, which may change the fields
         int free = 0, locked = 0, dead = 0;
@@ -62,9 +55,8 @@ private:
             free += field->Value() == 0 ? 1 : 0;
             dead += field->Value() == 0 && field->Freedom() == 0 ? 1 : 0;
         }
-        EXPECT_EQ(grid.FreeCount(), free);
-        EXPECT_EQ(grid.LockedCount(), locked);
-        EXPECT_EQ(grid.DeadCount(), dead);
+        EXPECT_EQ(Text(std::vector{grid.FreeCount(), grid.LockedCount(), grid.DeadCount()}),
+                  Text(std::vector{free, locked, dead}));
     }
     // The invariants while no command runs.
     void ExpectInOrder() {
@@ -87,7 +79,7 @@ private:
     }
 
     const bool mbImpatient;
-    std::span<const std::uint8_t>& mChoices;
+    FuzzedDataProvider& mChoices;
     int mlDepth = 0;
     bool mbStale = false;
 };
@@ -96,11 +88,11 @@ private:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     GTEST_FLAG_SET(break_on_failure, true);
-    if (size == 0) return 0;
-    std::span choices(data + 1, size - 1);
-    while (!choices.empty()) {
-        tessarin::RandomUser user(data[0] % 2 == 1, choices);
-        while (user.IsOpen() && !choices.empty())
+    FuzzedDataProvider choices(data, size);
+    const bool impatient = choices.ConsumeBool();
+    while (choices.remaining_bytes() > 0) {
+        tessarin::RandomUser user(impatient, choices);
+        while (user.IsOpen() && choices.remaining_bytes() > 0)
             user.Step();
     }
     return 0;

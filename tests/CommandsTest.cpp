@@ -46,8 +46,6 @@ TEST_F(CommandsTest, ButtonsAndTheEditMenu) {
         click mnuAbout & click mnuAbout > Box(FileDescription: Solves|Copyright: by X|Internet: https://x|Version: 01.06.048|Release: 29.04.2022 - 06:49:52|About Tessarin|Ok|-)
         click btnInfo & width > 11625 & click btnInfo & width > 8850
     )");
-    window.SetInfoVisible(false);
-    Script("width > 8850");
     for (int option = 0; option <= 6; ++option) {
         SetCancel();
         Click(window.optChill(option).Name());

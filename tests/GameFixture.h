@@ -29,26 +29,21 @@ std::string Text(const auto& numbers) {
     return text;
 }
 
-/// A temporary folder, removed at the end with everything in it.
-struct ScratchFolder {
-    ScratchFolder() { std::filesystem::create_directory(Path); }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ~ScratchFolder() { std::filesystem::remove_all(Path); }
-    std::string File(const std::string& name) const { return Path + "/" + name; }
-
-    const std::string Path =
-        testing::TempDir() + "tessarin-test-" + std::to_string(std::random_device{}());
-};
-
 /// A game that executes commands given as text.
 class GameScript {
 public:
     Game& game;
     Fields& grid = *game.Fields;
     Play& play = *game.Play;
-    const ScratchFolder folder;
+    /// A temporary folder of its own, with "/" at the end.
+    const std::string folder =
+        testing::TempDir() + "tessarin-test-" + std::to_string(std::random_device{}()) + "/";
 
-    GameScript(CallLog& log, Game& played) : game(played), mLog(log) {}
+    GameScript(CallLog& log, Game& played) : game(played), mLog(log) {
+        std::filesystem::create_directory(folder);
+    }
+    GameScript(const GameScript&) = delete;
+    ~GameScript() { std::filesystem::remove_all(folder); }
 
     Field& At(int index) { return *grid.Items.Item(index); }
 
@@ -84,7 +79,7 @@ public:
         mError = failure;
         std::string told = std::exchange(mTold, outerTold) + mLog.TakeCalls(outerCalls);
         if (History() != before) told.append("[").append(History()).append("] ");
-        told = ReplaceAll(ReplaceAll(told, "\r\n", "|"), folder.File(""), "");
+        told = ReplaceAll(ReplaceAll(told, "\r\n", "|"), folder, "");
         return told.substr(0, told.size() - (told.empty() ? 0 : 1));
     }
 
@@ -139,7 +134,7 @@ protected:
     void Write(const std::string& text) {
         const auto name = text.substr(0, text.find(' '));
         const auto lines = text.substr(std::min(name.size() + 1, text.size()));
-        WriteTextFile(folder.File(name), ReplaceAll(lines, "|", "\r\n"), "", true);
+        WriteTextFile(folder + name, ReplaceAll(lines, "|", "\r\n"), "", true);
     }
     // The second number of `text`.
     static int Second(const std::string& text) { return std::atoi(text.c_str() + text.find(' ')); }
@@ -164,7 +159,7 @@ protected:
         {"sdk", [&](int, auto& text) { grid.SetTextSDK(ReplaceAll(text, "|", "\r\n")); }},
         {"is", [&](int, auto&) { Tell(grid.TextCSV().substr(18)); }},
         {"write", [&](int, auto& text) { Write(text); }},
-        {"read", [&](int, auto& name) { Tell(ReadTextFile(folder.File(name))); }},
+        {"read", [&](int, auto& name) { Tell(ReadTextFile(folder + name)); }},
         {"trace", [&](int, auto& history) { Trace(history); }},
         {"tracing", [&](int on, auto&) { play.SetTracing(on == 1); }},
         {"reset", [&](int, auto&) { play.Reset(); }},

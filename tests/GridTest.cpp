@@ -23,7 +23,6 @@ TEST_F(GridTest, GroupsAreRowsThenColumnsThenBoxes) {
         in 313 > 13 38 63 & nth 65 > 105 & nth 0 > no number at position 0 of 65
         nth 66 > no number at position 66 of 65
     )");
-    EXPECT_EQ(At(313).Neighbours.Count(), 65);
     Group other;
     EXPECT_EQ(other.FlavorText(), "(unbekannt)");
     other.Flavor = 3;
@@ -55,11 +54,9 @@ TEST_F(GridTest, Fields) {
 TEST_F(GridTest, EveryStatusPropertyCountsAtItsFirstRead) {
     EXPECT_EQ(grid.DeadCount(), 0);
     Script("index 1 & pumps");
-    using Read = std::function<int(Fields&)>;
-    for (const auto& read :
-         {Read(&Fields::FreeCount), Read(&Fields::LockedCount), Read(&Fields::SetCount),
-          Read(&Fields::NextFreeField), Read(&Fields::IsWinner), Read(&Fields::IsDeadEnd),
-          Read(&Fields::Status), Read(&Fields::DeadField)}) {
+    for (const auto& read : std::vector<std::function<int(Fields&)>>{
+             &Fields::FreeCount, &Fields::LockedCount, &Fields::SetCount, &Fields::NextFreeField,
+             &Fields::IsWinner, &Fields::IsDeadEnd, &Fields::Status, &Fields::DeadField}) {
         grid.Clear();
         read(grid);
         read(grid);
@@ -103,9 +100,7 @@ TEST_F(GridTest, StatusAndCursor) {
 
         // A change is compared with the last count, even of another grid.
         full 81 & init > Init & status > 0 & status > 0
-        full 81 & csv > Init & set 9 9 > StatusChanged(9) IsWinner(0)
-        fill .234567891 & init & status > 2 & fill 1 & init & status > 1
-        fill .234567891 & csv & set 9 9 > StatusChanged(9) IsDeadEnd(0)
+        fill .234567891 & csv > Init & set 9 9 > StatusChanged(9) IsDeadEnd(0)
 
         // Locking and clearing.
         fill 12 & index 4 & lock 81 1 & lockall 1 > StatusChanged(4) StatusChanged(4)
@@ -113,7 +108,6 @@ TEST_F(GridTest, StatusAndCursor) {
         counts > 79 3 0 3 & lockall 0 > StatusChanged(1) StatusChanged(1) & clear 0 > & is >
         counts > 81 0 0 1 & set 2 1 > StatusChanged(2)
     )");
-    EXPECT_EQ(Text(std::vector{grid.Dimension(), grid.Numbers(), grid.Count()}), "3 9 81");
     const auto reader = grid.Events.StatusChanged.Connect([&](int) { grid.FreeCount(); });
     Script(R"(
         fill .23456789 & set 10 1 > StatusChanged(10) IsDeadEnd(1)
@@ -136,23 +130,22 @@ TEST_F(GridTest, ChangeAtEveryPumpOfAStatusPass) {
 TEST(EventTest, HandlersComeAndGoWhileAnEventIsRaised) {
     auto event = std::make_unique<Event<int>>();
     std::string heard;
-    Connection own, later, added;
-    own = event->Connect([&](int) {
+    Connection first, second, added;
+    first = event->Connect([&](int) {
         heard += "a";
-        own.Disconnect();
-        later.Disconnect();
+        first.Disconnect();
+        second.Disconnect();
         added = event->Connect([&](int) { heard += "d"; });
         event->Raise(0);
     });
-    later = event->Connect([&](int) { heard += "b"; });
+    second = event->Connect([&](int) { heard += "b"; });
     const auto last = event->Connect([&](int end) {
         heard += "c";
         if (end == 1) event.reset();
     });
     event->Raise(0);
-    EXPECT_EQ(std::exchange(heard, ""), "acdc");
     event->Raise(1);
-    EXPECT_EQ(heard, "cd");
+    EXPECT_EQ(heard, "acdccd");
 }
 
 } // namespace tessarin

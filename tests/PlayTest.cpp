@@ -9,18 +9,16 @@ protected:
     PlayTest() {
         // Records each change, the number of retreats and how the solve ends.
         mCommands["run"] = [this](int, auto&) {
-            mMoves.clear();
+            std::string moves;
             const auto recorder = game.Events.StatusChanged.Connect([&](int index) {
-                mMoves += std::to_string(index) + "=" + std::to_string(At(index).Value()) + " ";
+                moves += std::to_string(index) + "=" + std::to_string(At(index).Value()) + " ";
             });
             play.Solve();
-            mTold = mMoves + std::to_string(play.Retries) +
-                    (grid.IsWinner()    ? " won "
-                     : grid.IsDeadEnd() ? " dead "
-                                        : " open ");
+            mTold = moves;
+            Tell(play.Retries);
+            Tell(grid.IsWinner() ? "won" : grid.IsDeadEnd() ? "dead" : "open");
         };
     }
-    std::string mMoves;
 };
 
 TEST_F(PlayTest, ByHand) {
@@ -94,14 +92,13 @@ TEST_F(PlayTest, MovesOfASolveAreFixed) {
 }
 
 TEST_F(PlayTest, EscInASolveAsksOnceForEachPressAndACancelEndsIt) {
-    const std::string question = "Box(Abbrechen?|ESC gedrückt|YesNo|-) ";
     platform.Esc = {false, true, true, false, true};
     platform.Answers = {false, true, true};
     // The first run begins without a cursor; the last answer of it is forgotten in the second.
-    Script("run > 1=1 2=2 0 open " + question + question +
-           "[1 2]\n" //
-           "run > 3=3 0 open " +
-           question + "[1 2 3]");
+    Script(R"(
+        run > 1=1 2=2 0 open Box(Abbrechen?|ESC gedrückt|YesNo|-) Box(Abbrechen?|ESC gedrückt|YesNo|-) [1 2]
+        run > 3=3 0 open Box(Abbrechen?|ESC gedrückt|YesNo|-) [1 2 3]
+    )");
     EXPECT_TRUE(gbCancel);
     // A cycle that has begun is completed, with its retreat.
     const auto step = game.Events.StatusChanged.Connect([](int) { SetCancel(); });

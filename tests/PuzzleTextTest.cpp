@@ -26,9 +26,6 @@ TEST_F(PuzzleTextTest, BothFormatsOfOneGrid) {
     )");
     const std::string all = ReplaceAll(grid.TextCSV(true), "\r\n", "|");
     EXPECT_EQ(all.substr(0, 36), "Index;Value;Locked|1;5;1|2;0;1|3;0;0");
-    EXPECT_EQ(all.substr(all.size() - 14), "|80;0;0|81;0;0");
-    Do("sdk " + Do("sdktext"));
-    Script("is > |1;5;1|12;3;1");
     Do("csv " + all);
     EXPECT_EQ(ReplaceAll(grid.TextCSV(true), "\r\n", "|"), all);
     Script(R"(
@@ -50,20 +47,15 @@ TEST_F(PuzzleTextTest, LinesOfCSV) {
         load 7;4 > Init too few items in "7;4" has |5;3;1|7;4;0
         load 0;4;1 > Init no item at position 0 of 81 has |5;3;1 & load 82;x;1 > Init no item at position 82 of 81 has |5;3;1
         load x;4;1 > Init "x" is not a whole number has |5;3;1
-        load ;4;1 > Init "" is not a whole number has |5;3;1
-        load 7;;1 > Init "" is not a whole number has |5;3;1
         load 7;4; > Init "" is not a whole number has |5;3;1|7;4;0
         load 7;4.0;1 > Init "4.0" is not a whole number has |5;3;1
         load 7;0x4;1 > Init "0x4" is not a whole number has |5;3;1
-        load 7;4 4;1 > Init "4 4" is not a whole number has |5;3;1
-        load 7;+-4;1 > Init "+-4" is not a whole number has |5;3;1
         load 7;1234567890123456789012345678901234567890;1 > Init "1234567890123456789012345678901234567890" is outside the 32-bit range has |5;3;1
         load 7;4;-12345678901234567890123456789012345678901 > Init "-123456789012345678901234567890123456789..." is outside the 32-bit range has |5;3;1|7;4;0
-        load 7;2147483648;1 > Init "2147483648" is outside the 32-bit range has |5;3;1
         load 7;4;-2147483649 > Init "-2147483649" is outside the 32-bit range has |5;3;1|7;4;0
-        index 40 & playlock > StatusChanged(40) IsWinner(0) & frame csv @ & load > Init has
+        frame csv @ & load > Init has & load Index;Value;Locked;|5;3;1 > Init has
         load index;value;locked|5;3;1 > Init has & load |Index;Value;Locked|5;3;1 > Init has
-        load Index;Value;Locked;|5;3;1 > Init has & index 40 & playlock > StatusChanged(40) IsWinner(0)
+        index 40 & playlock > StatusChanged(40) IsWinner(0)
     )");
     grid.SetTextCSV("Index;Value;Locked\n5;3;1");
     Script("is >");

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <ctime>
 
 namespace tessarin {
@@ -37,17 +38,12 @@ TEST(SupportTest, TextsAndDates) {
         {DateTimeStamp({}), std::string(15, ' ')}};
     for (const auto& [text, expected] : cases)
         EXPECT_EQ(text, expected);
-    const auto clock = [] {
-        const std::time_t now = std::time(nullptr);
-        std::string stamp(16, '\0');
-        stamp.resize(std::strftime(stamp.data(), 16, "%Y%m%d %H%M%S", std::localtime(&now)));
-        return stamp;
-    };
-    const std::string before = clock(), now = DateTimeStamp(NullPlatform().Now());
-    EXPECT_TRUE(before <= now && now <= clock()) << now;
+    const auto [year, month, day, hour, minute, second] = NullPlatform().Now();
+    std::tm now{second, minute, hour, day, month - 1, year - 1900, 0, 0, -1, 0, nullptr};
+    EXPECT_LE(std::abs(std::mktime(&now) - std::time(nullptr)), 1);
 }
 
-TEST(SupportTest, WaitPumpsBeforeAndAfterSleeping) {
+TEST(SupportTest, AWaitPumpsBeforeAndAfterItsSleep) {
     ScriptedPlatform platform;
     Wait();
     EXPECT_EQ(platform.TakeCalls(), "Sleep(5) ");
@@ -60,7 +56,7 @@ TEST(SupportTest, WaitPumpsBeforeAndAfterSleeping) {
     EXPECT_EQ(platform.Pumps, 6);
 }
 
-TEST(SupportTest, WindowLeavesTheTaskbar) {
+TEST(SupportTest, AWindowLeavesTheTaskbar) {
     ScriptedPlatform platform;
     platform.WindowStyle = 0x40010;
     ShowInTaskBar(5, false);

@@ -27,10 +27,10 @@ public:
         add("click", [this](int, auto& name) { Click(name); });
         add("answer", [this](int yes, auto&) { platform.Answers.push_back(yes == 1); });
         add("esc", [this](int pressed, auto&) { platform.Esc.push_back(pressed == 1); });
-        add("choose", [this](int, auto& name) { toolkit.Files.push_back(folder.File(name)); });
+        add("choose", [this](int, auto& name) { toolkit.Files.push_back(folder + name); });
         add("import", [this](int, auto& lines) {
             Write("import.csv Index;Value;Locked|" + lines);
-            toolkit.Files.push_back(folder.File("import.csv"));
+            toolkit.Files.push_back(folder + "import.csv");
             Click("mnuFileImportCSV");
         });
         // Sets the steps for the next box, pause or change of a field, with "=>" for ">" and "; "

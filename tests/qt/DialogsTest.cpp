@@ -43,7 +43,7 @@ TEST_F(DialogsTest, FileDialogShowsItsFiltersAndWholeColumns) {
     WhileOpen = [this](QDialog& dialog) {
         auto& types = *dialog.findChild<QComboBox*>("fileTypeCombo");
         auto& list = *dialog.findChild<QTreeView*>("treeView");
-        dynamic_cast<QFileDialog&>(dialog).setDirectory(QString::fromStdString(folder.File("")));
+        dynamic_cast<QFileDialog&>(dialog).setDirectory(QString::fromStdString(folder));
         for (const auto& [type, text] :
              {std::pair{0, "CSV Dokumente (*.csv)"}, {1, "Alle Dateien (*.*)"}}) {
             EXPECT_EQ(types.itemText(type), text);
@@ -70,7 +70,7 @@ TEST_F(DialogsTest, FileNamesOfAllKinds) {
             Do("choose " + name); // not in a script: the name has an "&"
             Script(std::string("set 1 5 & menu ") + entry + " & is > |1;5;0 & clear");
         }
-        EXPECT_EQ(window.lblFile.Caption(), folder.File(name));
+        EXPECT_EQ(window.lblFile.Caption(), folder + name);
     }
 }
 
@@ -87,7 +87,7 @@ TEST_F(DialogsTest, OnlyFilesThatExistAreOpenedAndOnlyNewOnesSaved) {
         choose "q" & menu mnuFileExportCSV & read "q".csv > Index;Value;Locked|1;5;1
         choose gone/"q".csv & answer OK & answer Esc & menu mnuFileExportCSV
     )");
-    EXPECT_EQ(window.lblFile.Caption(), folder.File("good.csv"));
+    EXPECT_EQ(window.lblFile.Caption(), folder + "good.csv");
 }
 
 } // namespace tessarin

@@ -67,7 +67,7 @@ protected:
         add("key", [this](auto& keys) { Key(keys); });
         add("menu", [this](auto& entry) { Menu(QString::fromStdString(entry)); });
         add("answer", [this](auto& answer) { mAnswers.push_back(answer); });
-        add("choose", [this](auto& name) { mAnswers.push_back(folder.File(name)); });
+        add("choose", [this](auto& name) { mAnswers.push_back(folder + name); });
         add("import", [this](auto& puzzle) {
             mAnswers.push_back(TESSARIN_PUZZLES + puzzle);
             Menu("mnuFileImportCSV");
