@@ -1,5 +1,6 @@
 // Clicks that arrive while handlers of other clicks are running, and the window's activation.
 #include "WindowScript.h"
+#include "support/modTaskBar.h"
 
 #include <stdexcept>
 
@@ -70,6 +71,10 @@ TEST_F(ClicksTest, EachActivationRepaintsAndKeepsTheTaskbarEntry) {
     window.RaiseActivate();
     EXPECT_EQ(platform.TakeCalls(),
               "Lock(77) Show(5|0) Get(5|-20) Set(5|-20|262144) Show(5|5) Lock(0) ");
+    platform.WindowStyle = 0x40010;
+    ShowInTaskBar(5, false);
+    EXPECT_EQ(platform.TakeCalls(),
+              "Lock(77) Show(5|0) Get(5|-20) Set(5|-20|16) Show(5|5) Lock(0) ");
     Script("fields 81 > :normal/text");
 }
 

@@ -54,43 +54,36 @@ TEST_F(CommandsTest, ButtonsAndTheEditMenu) {
 }
 
 TEST_F(CommandsTest, FilesAreImportedAndExported) {
-    mCommands["dirty"] = [this](int, auto&) {
-        Do("csv");
-        Do("set 81 7");
-        window.lblFile.SetCaption("old");
-        window.lblDeadEnd.SetBackColor(Red);
-        window.lblWinner.SetBackColor(Green);
-        play.Reset();
-    };
     mCommands["dialog"] = [this](int, auto&) {
-        const FileDialogRequest& dialog = toolkit.Dialog;
-        EXPECT_EQ(dialog.Filter, "CSV Dokumente (*.csv)|*.csv|Alle Dateien (*.*)|*.*");
-        Tell(dialog.Title + (dialog.Saving ? " saving " : " existing ") + dialog.DefaultExt);
-        EXPECT_EQ(dialog.FileMustExist, !dialog.Saving);
-        EXPECT_TRUE(dialog.PathMustExist);
+        const FileDialogRequest& shown = toolkit.Dialog;
+        Tell(shown.Title + "|" + shown.Filter + "|" + shown.DefaultExt);
+        Tell(Text(std::vector<int>{shown.Saving, shown.FileMustExist, shown.PathMustExist}));
     };
     // Both dialogs are cancelled, or answered with an empty name.
     for (const std::size_t empty : {0U, 2U}) {
         toolkit.Files.assign(empty, "");
+        window.lblFile.SetCaption("old");
         Script(R"(
-            dirty & click mnuFileExportCSV > & dialog > Export File saving .csv
-            caption lblFile > old & lights > red green
-            dirty & click mnuFileImportCSV > & dialog > Import File existing .csv
-            caption lblFile > old & lights > normal normal & is > |81;7;0
+            full 79 & set 81 7 & set 80 8 & lights > red green
+            click mnuFileExportCSV > & lights > red green
+            dialog > Export File|CSV Dokumente (*.csv)|*.csv|Alle Dateien (*.*)|*.*|.csv 1 0 1
+            click mnuFileImportCSV > & lights > normal normal & caption lblFile > old & left > 0
+            dialog > Import File|CSV Dokumente (*.csv)|*.csv|Alle Dateien (*.*)|*.*|.csv 0 1 1
         )");
     }
     const auto loading = grid.Events.Init.Connect(
         [this] { mTold += window.lblFile.Caption() + window.lblField(81).Caption(); });
     Script(R"(
         write good.csv Index;Value;Locked|1;5;1|12;3;0 & write plain Index;Value;Locked|1;5;1
-        dirty & choose good.csv & click mnuFileImportCSV > [] & is > |1;5;1|12;3;0
+        full 79 & set 81 7 & set 80 8 & lights > red green
+        choose good.csv & click mnuFileImportCSV > [] & is > |1;5;1|12;3;0
         caption lblFile > good.csv & lights > normal normal & fields 1 81 > 5:green/red :normal/text
-        dirty & choose plain & click mnuFileImportCSV > [] & caption lblFile > plain & is > |1;5;1
+        choose plain & reset & click mnuFileImportCSV > [] & caption lblFile > plain & is > |1;5;1
         write empty.csv & write other.csv index;value;locked|1;5;1
-        dirty & choose empty.csv & click mnuFileImportCSV > [] & is > & caption lblFile > empty.csv
-        dirty & choose other.csv & click mnuFileImportCSV > [] & is >
+        choose empty.csv & reset & click mnuFileImportCSV > [] & is > & caption lblFile > empty.csv
+        set 81 7 & choose other.csv & reset & click mnuFileImportCSV > [] & is >
         write bad.csv Index;Value;Locked|1;5;1|12;3;0|13;x;0|14;4;0
-        dirty & choose bad.csv & click mnuFileImportCSV > [] & is > |1;5;1|12;3;0
+        set 81 7 & choose bad.csv & reset & click mnuFileImportCSV > [] & is > |1;5;1|12;3;0
         caption lblFile > bad.csv & fields 1 81 > 5:green/red :normal/text
         choose new.csv & click mnuFileExportCSV > & caption lblFile > bad.csv
         read new.csv > Index;Value;Locked|1;5;1|12;3;0 & reset > [none]

@@ -18,20 +18,6 @@ protected:
     std::string Path(const std::string& name) { return name.empty() ? "" : folder + name; }
 };
 
-TEST_F(GameTest, GameRelaysTheEventsOfTheGrid) {
-    EXPECT_EQ(goGame, &game);
-    Listen(game.Events, "-");
-    Script(R"(
-        pumps & index 2 > -IndexChanged(2) IndexChanged(2) & pumps > 2
-        index 1 > -BeforeIndexChanged(2) BeforeIndexChanged(2) -IndexChanged(1) IndexChanged(1)
-        pumps > 4 & set 81 1 > -StatusChanged(81) StatusChanged(81) & pumps > 84
-        fill .23456789 & pumps
-        set 10 1 > -StatusChanged(10) StatusChanged(10) -IsDeadEnd(1) IsDeadEnd(1) & pumps > 86
-        csv > Init & pumps > 0 & full 80
-        set 81 8 > -StatusChanged(81) StatusChanged(81) -IsWinner(81) IsWinner(81)
-    )");
-}
-
 TEST_F(GameTest, ExportsCreateAFileOrTouchNothing) {
     std::filesystem::create_symlink(Path("nowhere"), Path("dangling"));
     std::filesystem::create_symlink(Path("mine"), Path("link"));

@@ -63,13 +63,11 @@ TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
         while (times-- > 0)
             timer.RaiseTick();
         for (int i = 0; i < 12; ++i)
-            if (toolkit.Find("Image1(" + std::to_string(i) + ")").Visible())
-                Tell(std::to_string(i));
+            if (toolkit.Find("Image1(" + std::to_string(i) + ")").Visible()) Tell(i);
     };
-    for (int run = 0; run < 2; ++run) {
-        window.ctlRotor1.SetRunning(true);
-        Script("tick 1 > 1 & tick 1 > 2 & tick 9 > 11 & tick 1 > 0 & tick 1 > 1");
-    }
+    mCommands["turn"] = [&](int on, auto&) { window.ctlRotor1.SetRunning(on == 1); };
+    Script("turn 1 & tick 1 > 1 & tick 1 > 2 & tick 9 > 11 & tick 1 > 0 & tick 1 > 1 & tick 1 > 2");
+    Script("turn 0 & tick 0 > & turn 1 & tick 1 > 1");
     EXPECT_TRUE(timer.Enabled() && timer.Interval() == 5);
     int ticks = 0;
     timer.Tick = [&] {
@@ -78,8 +76,7 @@ TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
     };
     timer.RaiseTick();
     EXPECT_EQ(ticks, 4) << "nested ticks are bounded";
-    window.ctlRotor1.SetRunning(false);
-    Script("tick 0 >");
+    Script("turn 0");
     EXPECT_FALSE(timer.Enabled());
 }
 

@@ -1,7 +1,6 @@
 #include "ScriptedPlatform.h"
 #include "support/modDateTime.h"
 #include "support/modStringLibrary.h"
-#include "support/modTaskBar.h"
 #include "support/modWait.h"
 
 #include <gtest/gtest.h>
@@ -54,14 +53,6 @@ TEST(SupportTest, AWaitPumpsBeforeAndAfterItsSleep) {
     Wait(-1);
     EXPECT_EQ(platform.TakeCalls(), "");
     EXPECT_EQ(platform.Pumps, 6);
-}
-
-TEST(SupportTest, AWindowLeavesTheTaskbar) {
-    ScriptedPlatform platform;
-    platform.WindowStyle = 0x40010;
-    ShowInTaskBar(5, false);
-    EXPECT_EQ(platform.TakeCalls(),
-              "Lock(77) Show(5|0) Get(5|-20) Set(5|-20|16) Show(5|5) Lock(0) ");
 }
 
 } // namespace tessarin

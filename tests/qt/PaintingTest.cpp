@@ -54,6 +54,8 @@ TEST_P(PaintingTest, BackgroundsBordersDigitsAndTheFocusCanBeSeen) {
                                       {Red, QColor(255, 0, 0)},
                                       {Green, QColor(0, 255, 0)},
                                       {Yellow, QColor(255, 255, 0)}}) {
+        window.fraNumPad.SetBackColor(color);
+        EXPECT_EQ(Picture("fraNumPad").pixelColor(3, 3), seen);
         window.lblField(12).SetBackColor(color);
         Widget("btnInfo").setFocus();
         const QImage image = Picture("lblField(12)");

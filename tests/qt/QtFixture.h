@@ -148,7 +148,7 @@ private:
         if (!dialog->isActiveWindow()) return dialog->activateWindow();
         mSeen = dialog;
         mEyes.start(); // fires again although this handler has not ended
-        if (const auto* const box = qobject_cast<QMessageBox*>(dialog)) TellBox(*box);
+        TellBox(*dialog);
         if (const auto meanwhile = std::exchange(WhileOpen, nullptr)) meanwhile(*dialog);
         if (mAnswers.empty()) return Unexpected(*dialog);
         const auto answer = QString::fromStdString(mAnswers.front());
@@ -162,12 +162,14 @@ private:
         QMetaObject::invokeMethod(dialog, "accept");
     }
 
-    // Title, text, icon and buttons, the default one in brackets.
-    void TellBox(const QMessageBox& box) {
-        QString buttons = box.icon() == QMessageBox::Question ? "?" : "-";
-        for (auto* const button : box.buttons())
-            buttons += (button == box.defaultButton() ? " [" : " ") + button->text();
-        Tell("Box(" + (box.windowTitle() + "|" + box.text() + "|" + buttons).toStdString() + ")");
+    // Title, text, "?" for the icon of a question, and the buttons, the default one after "[".
+    void TellBox(const QDialog& dialog) {
+        QString told = dialog.windowTitle();
+        if (const auto* const box = qobject_cast<const QMessageBox*>(&dialog))
+            told += "|" + box->text() + (box->icon() == QMessageBox::Question ? "|?" : "|-");
+        for (auto* const button : dialog.findChildren<QPushButton*>())
+            told += (button->isDefault() ? " [" : " ") + button->text();
+        Tell("Box(" + told.toStdString() + ")");
     }
 
     QTimer mEyes;
