@@ -11,31 +11,29 @@ namespace tessarin {
 class WindowTest : public QtFixture, public testing::WithParamInterface<const char*> {};
 
 TEST_F(WindowTest, ControlsHaveTheirPlacesTextsAndFonts) {
-    // Left, top, width and height in pixels, and the container.
-    mCommands["at"] = [this](int, auto& name) {
-        const QRect place = Widget(name).geometry();
+    // Left, top, width and height in pixels, the container, and what a screen reader finds.
+    mCommands["see"] = [this](int, auto& name) {
+        QWidget& widget = Widget(name);
+        const QRect place = widget.geometry();
         Tell(Text(std::vector{place.left(), place.top(), place.width(), place.height()}));
-        Tell(Widget(name).parentWidget()->objectName().toStdString());
+        Tell(widget.parentWidget()->objectName().toStdString());
+        auto* const spoken = QAccessible::queryAccessibleInterface(&widget);
+        Tell(spoken->role() == QAccessible::Grouping ? "group" : "");
+        Tell(spoken->text(QAccessible::Name).toStdString());
     };
     mCommands["button"] = [this](int, auto& name) {
-        const auto& button = dynamic_cast<QAbstractButton&>(Widget(name));
-        Tell((button.text() + "|" + button.toolTip()).toStdString());
+        const QWidget& button = Widget(name);
+        Tell((button.property("text").toString() + "|" + button.toolTip()).toStdString());
         Tell(button.font().pixelSize());
     };
-    mCommands["hear"] = [this](int, auto& name) {
-        auto* const heard = QAccessible::queryAccessibleInterface(&Widget(name));
-        Tell(heard->role() == QAccessible::Grouping ? "group" : "");
-        Tell(heard->text(QAccessible::Name).toStdString());
-    };
     Script(R"(
-        at lblField(1) > 20 28 40 40 & at lblField(81) > 360 368 40 40
-        at fraNumPad > 410 28 160 210 & at btnSolve > 110 10 40 40 fraAction
-        at lblInfo > 16 24 137 177 fraInfo & at ctlRotor1 > 17 17 32 32 fraRotor
+        see lblField(1) > 20 28 40 40 row 1, column 1: empty, current
+        see fraNumPad > 410 28 160 210 group & see lblWinner > 110 110 40 40 fraAction winner: not lit
+        see ctlRotor1 > 17 17 32 32 fraRotor & see optChill(2) > 16 40 57 17 fraChill pause 100 milliseconds
         button btnNumPad(10) > X|locke 27 & button optChill(2) > 100|ms 10
-        button btnSolve > S|solve the sudoku 19
-        hear lblField(12) > row 2, column 3: empty & set 12 5
-        hear lblField(12) > row 2, column 3: 5 & hear lblWinner > winner: not lit
-        hear fraChill > group Chillout & hear optChill(2) > pause 100 milliseconds
+        button btnSolve > S|solve the sudoku 19 & set 81 5
+        see lblField(81) > 360 368 40 40 row 9, column 9: 5
+        see lblInfo > 16 24 137 177 fraInfo Index=81|Value=5||Freedom=8|FreeValuesList=1;2;3;4;6;7;8;9;||IsCursor=False|IsLocked=False|IsEmpty=False|IsDeadCell=False||Retries=0|DeadCount=0
     )");
     EXPECT_EQ(Widget("lblField(1)").parentWidget()->pos(), QPoint(0, MenuBar().height()));
     EXPECT_FALSE(Widget("lblField(0)").isVisible());
