@@ -67,6 +67,7 @@ TEST_P(PaintingTest, BackgroundsBordersDigitsAndTheFocusCanBeSeen) {
     EXPECT_EQ(qt::ToQt(window.lblField(12).Font()).weight(), QFont::Black)
         << "also of a family that replaces Arial Black";
     EXPECT_TRUE(qt::ToQt({.Italic = true}).italic());
+    EXPECT_EQ(qt::TextColor(Red, Green), QColor(255, 0, 0)) << "a locked value";
     const int around = qGray(QApplication::palette().color(QPalette::Window).rgb());
     for (const char* const name : {"lblField(40)", "lblDeadEnd", "lblWinner", "fraInfo"}) {
         const QImage image = Picture(name);

@@ -86,6 +86,7 @@ protected:
         Activate();
         mTold.clear();
     }
+    ~QtFixture() override { EXPECT_TRUE(mAnswers.empty()) << "not asked: " << mAnswers.front(); }
 
     // Events are sent to the top window, so that modal boxes, open menus and disabled panels keep
     // them from the controls as they do for a user.
