@@ -44,15 +44,13 @@ TEST(SupportTest, TextsAndDates) {
 
 TEST(SupportTest, AWaitPumpsBeforeAndAfterItsSleep) {
     ScriptedPlatform platform;
+    platform.AtPump(2, [&] { EXPECT_EQ(platform.TakeCalls(), "Sleep(5) "); });
     Wait();
-    EXPECT_EQ(platform.TakeCalls(), "Sleep(5) ");
     EXPECT_EQ(platform.LastPump, Pump::Now);
-    platform.AtPump(2, [&] { EXPECT_EQ(platform.TakeCalls(), "Sleep(800) "); });
-    Wait(800);
     Wait(0);
     Wait(-1);
     EXPECT_EQ(platform.TakeCalls(), "");
-    EXPECT_EQ(platform.Pumps, 6);
+    EXPECT_EQ(platform.Pumps, 4);
 }
 
 } // namespace tessarin
