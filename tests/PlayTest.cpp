@@ -54,14 +54,10 @@ TEST_F(PlayTest, ByHand) {
         init & fill ....................................1234.5678...........................876.54321
         trace & pumps & goto 0 > IndexChanged(41) & pumps & goto 1 > StatusChanged(41) [41]
         pumps > 85 & full 81 & goto 1 >
-    )");
-    EXPECT_TRUE(play.Tracing());
-}
 
-TEST_F(PlayTest, GoingBackToFreedom) {
-    // Going back passes field 12 and ends at field 3: once it is empty, its value is free again.
-    Script(R"(
-        full 80 & index 5 & retreat 0 > StatusChanged(5) StatusChanged(5) F Beep
+        // Going back to freedom passes field 12 and ends at field 3: once it is empty, its value is
+        // free again.
+        reset & full 80 & index 5 & retreat 0 > StatusChanged(5) StatusChanged(5) F Beep
         trace & retreat 1 > StatusChanged(5) StatusChanged(5) F Beep [5]
         trace 3 12 5 & retreat 0 > StatusChanged(5) BeforeIndexChanged(5) IndexChanged(12) StatusChanged(12) BeforeIndexChanged(12) IndexChanged(3) StatusChanged(3) T []
         fill 4.125....67.......9 & set 81 1 & index 81 & trace 1 81
@@ -71,7 +67,8 @@ TEST_F(PlayTest, GoingBackToFreedom) {
         fill 12345678. & set 81 2 & index 81 & trace 9 81
         retreat 0 > StatusChanged(81) BeforeIndexChanged(81) IndexChanged(9) T [9]
     )");
-    EXPECT_EQ(play.Retries, 7);
+    EXPECT_TRUE(play.Tracing());
+    EXPECT_EQ(play.Retries, 8);
 }
 
 TEST_F(PlayTest, MovesOfASolveAreFixed) {

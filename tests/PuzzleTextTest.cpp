@@ -19,8 +19,9 @@ protected:
     std::string mFrame;
 };
 
-TEST_F(PuzzleTextTest, LinesOfCSV) {
+TEST_F(PuzzleTextTest, BothFormats) {
     Script(R"(
+        // Lines of CSV.
         frame csv Index;Value;Locked|5;3;1|@|9;9;0
         load 7;4;2 > Init has |5;3;1|7;4;0|9;9;0 & load 7;4;1;x > Init has |5;3;1|7;4;1|9;9;0
         load 7 ;  +4 ; 1 > Init has |5;3;1|7;4;1|9;9;0
@@ -39,13 +40,8 @@ TEST_F(PuzzleTextTest, LinesOfCSV) {
         frame csv @ & load > Init has & load Index;Value;Locked;|5;3;1 > Init has
         load index;value;locked|5;3;1 > Init has & load |Index;Value;Locked|5;3;1 > Init has
         index 40 & playlock > StatusChanged(40) IsWinner(0)
-    )");
-    grid.SetTextCSV("Index;Value;Locked\n5;3;1");
-    Script("is >");
-}
 
-TEST_F(PuzzleTextTest, RowsOfSDK) {
-    Script(R"(
+        // Rows of SDK.
         fill 5..........3 & lock 1 1
         sdktext > "Sudoku"|5,0,0,0,0,0,0,0,0|0,0,3,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|
         sdk "Sudoku"|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0,25| > Init

@@ -75,6 +75,13 @@ protected:
         add("to", [this](auto& name) { Widget(name).setFocus(); });
         add("focus", [this](auto&) { Tell(form->focusWidget()->objectName().toStdString()); });
         add("activate", [this](auto&) { Activate(); });
+        add("close", [this](auto&) { Tell(form->close() ? "" : "stays"); });
+        // What is not as it is while no command runs.
+        add("busy", [this](auto&) {
+            const QCursor* const pointer = QApplication::overrideCursor();
+            const bool isBusy = pointer != nullptr && pointer->shape() == Qt::WaitCursor;
+            Tell(isBusy ? "hourglass" : form->isVisible() ? "" : "closed");
+        });
         // From now on clicks on fields and options are only told.
         add("record", [this](auto&) {
             window.lblField.Click = [this](int index) { Tell("field " + std::to_string(index)); };

@@ -59,11 +59,8 @@ TEST_F(WindowTest, WindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
     for (const bool wide : {false, true, false}) {
         window.SetInfoVisible(wide);
         EXPECT_EQ(form->frameSize(), narrow + QSize(wide ? 2775 / 15 : 0, 0));
-        for (const char* const name : {"fraInfo", "fraChill"}) {
-            const QRect place(Widget(name).mapTo(form, QPoint()), Widget(name).size());
-            EXPECT_EQ(form->rect().contains(place), wide);
-            EXPECT_EQ(Widget(name).isVisible(), wide);
-        }
+        EXPECT_EQ(Widget("fraInfo").isVisible(), wide);
+        EXPECT_EQ(Widget("fraChill").isVisible(), wide);
     }
     EXPECT_EQ(form->windowTitle(), "Velmora Sudoku Solver");
     EXPECT_EQ(form->minimumSize(), form->maximumSize());
@@ -77,9 +74,8 @@ TEST_F(WindowTest, ReturningFromAnotherWindowActivatesButNotFromAnOwnBox) {
     other.show();
     other.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
-    Script("activate > Taskbar");
+    Script("activate > Taskbar & busy >");
     EXPECT_EQ(form->windowHandle()->type(), Qt::Window);
-    EXPECT_TRUE(form->isVisible());
 }
 
 // A view that sleeps, a question and a file dialog.
@@ -99,9 +95,7 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     QTimer::singleShot(1, form, [this] { Script(std::string("set 1 5 & menu ") + GetParam()); });
     QApplication::exec();
     EXPECT_LT(sinceClose.elapsed(), 1000);
-    EXPECT_FALSE(form->isVisible());
-    Script("is > |1;5;0"); // the question was not answered
-    EXPECT_EQ(window.lblFile.Caption(), "");
+    Script("busy > closed & is > |1;5;0"); // the question was not answered
 }
 
 TEST_F(WindowTest, PumpsAreSkippedOnlyShortlyAfterOthers) {
