@@ -25,8 +25,7 @@ TEST_F(ClicksTest, AFloodDuringASolveIsAnsweredInOrderAndANewPaceAtOnce) {
         } while (sent.size() < 500);
         if (sent.size() == 500) Click("optChill(1)");
     };
-    Do("import 1;1;0|2;2;0");
-    Do("click optChill(5)");
+    Script("import 1;1;0|2;2;0 & click optChill(5)");
     platform.AtPump(1, user);
     EXPECT_EQ(Do("click btnSolve").find("Sleep"), std::string::npos) << "without any pause";
     while (sent.size() < 20'000)

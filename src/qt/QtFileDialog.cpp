@@ -2,7 +2,6 @@
 
 #include "qt/QtLook.h"
 
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -68,12 +67,7 @@ void QtFileDialog::accept() {
     const QStringList typed = selectedFiles();
     if (!typed.isEmpty() && !QFileInfo::exists(typed.constFirst())) {
         setDefaultSuffix(ToQt(mRequest.DefaultExt));
-        const QDir folder = QFileInfo(typed.constFirst()).dir();
-        if (mRequest.Saving && mRequest.PathMustExist && !folder.exists()) {
-            QMessageBox::warning(this, windowTitle(),
-                                 folder.path() + "\n" + tr("This folder does not exist."));
-            return;
-        }
+        if (!HasFolder(QFileInfo(typed.constFirst()))) return;
     }
     QFileDialog::accept();
 }
@@ -84,10 +78,24 @@ void QtFileDialog::AcceptQuoted(const QString& name) {
     if ((mRequest.Saving || !QFileInfo::exists(path)) && QFileInfo(path).suffix().isEmpty())
         path += ToQt(mRequest.DefaultExt);
     const QFileInfo file(path);
-    if (file.isDir() || !(mRequest.Saving ? file.dir().exists() : file.isFile()))
-        return QFileDialog::accept(); // shows the error
+    if (file.isDir()) return setDirectory(path);
+    if (!HasFolder(file)) return;
+    if (!mRequest.Saving && !file.isFile())
+        return Warn(name + "\n" +
+                    tr("File not found.\nPlease verify the correct file name was given."));
     mQuoted = path;
     done(Accepted);
+}
+
+bool QtFileDialog::HasFolder(const QFileInfo& file) {
+    const QDir folder = file.dir();
+    if (!mRequest.Saving || !mRequest.PathMustExist || folder.exists()) return true;
+    Warn(folder.path() + "\n" + tr("This folder does not exist."));
+    return false;
+}
+
+void QtFileDialog::Warn(const QString& text) {
+    QMessageBox::warning(this, windowTitle(), text);
 }
 
 } // namespace tessarin::qt

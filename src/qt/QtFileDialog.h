@@ -3,6 +3,7 @@
 #include "toolkit/Toolkit.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 
 namespace tessarin::qt {
 
@@ -19,6 +20,9 @@ protected:
 
 private:
     void AcceptQuoted(const QString& name);
+    /// Shows an error and returns false if the folder of a file to save does not exist.
+    bool HasFolder(const QFileInfo& file);
+    void Warn(const QString& text);
 
     FileDialogRequest mRequest;
     QString mQuoted; // the path chosen, if its name contains quotes

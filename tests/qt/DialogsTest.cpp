@@ -84,6 +84,7 @@ TEST_F(DialogsTest, OnlyFilesThatExistAreOpenedAndOnlyNewOnesSaved) {
         choose "q" & menu mnuFileExportCSV & read "q".csv > Index;Value;Locked|1;5;1
         choose gone/"q".csv & answer OK & answer Esc & menu mnuFileExportCSV
         clear & choose "q" & menu mnuFileImportCSV & is > |1;5;1
+        choose a"plain" & answer OK & answer Esc & menu mnuFileImportCSV & is > |1;5;1
     )");
 }
 

@@ -88,7 +88,7 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     const auto close = [&] {
         if (form->close() && !sinceClose.isValid()) sinceClose.start();
     };
-    Unexpected = [&](QDialog&) { close(); };
+    WhileOpen = [&](QDialog&) { close(); };
     platform.AtPump = [&] {
         if (window.lblField(1).BackColor() == 0xFFFF) close();
     };
