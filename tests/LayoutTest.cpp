@@ -22,17 +22,14 @@ TEST_F(LayoutTest, ControlsHaveTheirPlaces) {
         at lblFile > 300 120 8535 x 255 & at lblInfo > fraInfo 240 360 2055 x 2655
         at fraNumPad > 6150 420 2400 x 3150 & at fraAction > 6150 3690 2400 x 2430
         at fraInfo > 8790 420 2535 x 3375 & at fraChill > 8790 3900 2535 x 2175
-        at btnNumPad(1) > fraNumPad 150 150 & at btnNumPad(2) > fraNumPad 900 150
-        at btnNumPad(3) > fraNumPad 1650 150 & at btnNumPad(4) > fraNumPad 150 900
-        at btnNumPad(5) > fraNumPad 900 900 & at btnNumPad(6) > fraNumPad 1650 900
-        at btnNumPad(7) > fraNumPad 150 1650 & at btnNumPad(8) > fraNumPad 900 1650
-        at btnNumPad(9) > fraNumPad 1650 1650 & at btnNumPad(11) > fraNumPad 150 2400
+        at btnNumPad(1) > fraNumPad 150 150 & at btnNumPad(3) > fraNumPad 1650 150
+        at btnNumPad(7) > fraNumPad 150 1650 & at btnNumPad(9) > fraNumPad 1650 1650
         at btnNumPad(0) > fraNumPad 900 2400 & at btnNumPad(10) > fraNumPad 1650 2400
+        at btnNumPad(11) > fraNumPad 150 2400 & at lblWinner > fraAction 1650 1650
         at btnNextFree > fraAction 150 150 & at btnNextFreeAuto > fraAction 900 150
         at btnSolve > fraAction 1650 150 & at btnGoBack > fraAction 150 900
         at btnGoBackToFreedom > fraAction 900 900 & at btnNextFreeValue > fraAction 1650 900
         at lblDeadEnd > fraAction 150 1650 & at btnInfo > fraAction 900 1650
-        at lblWinner > fraAction 1650 1650
         at fraRotor > fraChill 1320 960 975 x 975 & at optChill(0) > fraChill 1320 240 855 x 255
         at optChill(1) > fraChill 240 240 855 x 255 & at optChill(6) > fraChill 1320 600 855 x 255
         at optChill(2) > fraChill 240 600 855 x 255 & at ctlRotor1 > fraRotor 247.5 247.5 480 x 480

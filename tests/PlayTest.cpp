@@ -80,8 +80,6 @@ TEST_F(PlayTest, MovesOfASolveAreFixed) {
         reset & index 46
         run > 6=4 6=0 46=3 6=4 9=7 13=8 13=0 9=0 6=0 46=6 6=4 9=7 13=8 13=0 9=0 6=0 46=8 3 dead [46]
         run > 6=4 6=0 46=0 46=8 2 dead Beep []
-        fill 246957.1.81.264.7597.83124...812.4.9.6..8.1.21.24967.3.9751.3245813.2...3.467.581
-        reset & index 55 & run > 7=8 7=0 55=6 7=8 7=0 55=0 55=6 7=8 7=0 7=8 3 dead Beep []
         full 81 & set 1 0 & set 2 1 & reset & index 50 & run > 50=0 50=3 1 dead Beep []
         full 81 & reset & index 50 & run > 0 won [50]
     )");

@@ -1,7 +1,6 @@
-#include "ScriptedPlatform.h"
+#include "platform/NullPlatform.h"
 #include "support/modDateTime.h"
 #include "support/modStringLibrary.h"
-#include "support/modWait.h"
 
 #include <gtest/gtest.h>
 
@@ -40,17 +39,6 @@ TEST(SupportTest, TextsAndDates) {
     const auto [year, month, day, hour, minute, second] = NullPlatform().Now();
     std::tm now{second, minute, hour, day, month - 1, year - 1900, 0, 0, -1, 0, nullptr};
     EXPECT_LE(std::abs(std::mktime(&now) - std::time(nullptr)), 1);
-}
-
-TEST(SupportTest, AWaitPumpsBeforeAndAfterItsSleep) {
-    ScriptedPlatform platform;
-    platform.AtPump(2, [&] { EXPECT_EQ(platform.TakeCalls(), "Sleep(5) "); });
-    Wait();
-    EXPECT_EQ(platform.LastPump, Pump::Now);
-    Wait(0);
-    Wait(-1);
-    EXPECT_EQ(platform.TakeCalls(), "");
-    EXPECT_EQ(platform.Pumps, 4);
 }
 
 } // namespace tessarin
