@@ -62,19 +62,16 @@ TEST_F(ClicksTest, QueuedClicksAreCheckedWhenTheirTurnComes) {
 }
 
 TEST_F(ClicksTest, EachActivationRepaintsAndKeepsTheTaskbarEntry) {
+    mCommands["activate"] = [this](int, auto&) { window.RaiseActivate(); };
+    mCommands["taskbar"] = [](int show, auto&) { ShowInTaskBar(5, show == 1); };
     window.lblField(81).SetCaption("?");
-    platform.TakeCalls();
     platform.AtPump(1, [&] { window.RaiseActivate(); }); // ignored
     grid.FieldChanged(0);                                // so that painting pumps
-    platform.TakeCalls();
-    window.RaiseActivate();
-    EXPECT_EQ(platform.TakeCalls(),
-              "Lock(77) Show(5|0) Get(5|-20) Set(5|-20|262144) Show(5|5) Lock(0) ");
-    platform.WindowStyle = 0x40010;
-    ShowInTaskBar(5, false);
-    EXPECT_EQ(platform.TakeCalls(),
-              "Lock(77) Show(5|0) Get(5|-20) Set(5|-20|16) Show(5|5) Lock(0) ");
-    Script("fields 81 > :normal/text");
+    Script(R"(
+        activate > Lock(77) Show(5|0) Get(5|-20) Set(5|-20|262160) Show(5|5) Lock(0)
+        taskbar 0 > Lock(77) Show(5|0) Get(5|-20) Set(5|-20|16) Show(5|5) Lock(0)
+        fields 81 > :normal/text
+    )");
 }
 
 } // namespace tessarin

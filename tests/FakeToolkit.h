@@ -1,30 +1,26 @@
 #pragma once
 
+#include "ScriptedPlatform.h"
 #include "toolkit/Controls.h"
 #include "toolkit/Form.h"
 
-#include <deque>
-#include <functional>
 #include <map>
-#include <string>
-#include <utility>
 
 namespace tessarin {
 
 /// A window toolkit that shows nothing. Its peers do nothing; Find looks controls up by name.
 class FakeToolkit : public Toolkit {
 public:
+    explicit FakeToolkit(ScriptedPlatform& platform) : mPlatform(platform) {}
+
     std::deque<std::string> Files; ///< the next file dialogs choose these, then they are cancelled
     FileDialogRequest Dialog;      ///< shown last
-    std::function<void()> OnClosed = [] {}; ///< runs when the form has closed
 
     Control& Find(const std::string& name) { return *mControls.at(name); }
 
     std::unique_ptr<FormPeer> Create(Form& form) override {
         mControls[form.Name()] = &form;
-        return std::make_unique<Peer>([this, &form] {
-            if (form.RaiseUnload()) OnClosed();
-        });
+        return std::make_unique<Peer>([this, &form] { mPlatform.Closed = form.RaiseUnload(); });
     }
     std::unique_ptr<ControlPeer> Create(Label& label, Control&) override { return Add(label); }
     std::unique_ptr<ControlPeer> Create(CommandButton& b, Control&) override { return Add(b); }
@@ -57,6 +53,7 @@ private:
         return std::make_unique<Peer>(nullptr);
     }
 
+    ScriptedPlatform& mPlatform;
     std::map<std::string, Control*> mControls;
 };
 

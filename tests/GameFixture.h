@@ -39,7 +39,7 @@ public:
     const std::string folder =
         testing::TempDir() + "tessarin-test-" + std::to_string(std::random_device{}()) + "/";
 
-    GameScript(CallLog& log, Game& played) : game(played), mLog(log) {
+    GameScript(Recorder& recorder, Game& played) : game(played), mRecorder(recorder) {
         std::filesystem::create_directory(folder);
     }
     GameScript(const GameScript&) = delete;
@@ -47,40 +47,24 @@ public:
 
     Field& At(int index) { return *grid.Items.Item(index); }
 
-    /// Records the events of a grid or game, each as `prefix` and its name.
-    void Listen(auto& events, const std::string& prefix) {
-        for (const auto& [name, event] :
-             {std::pair{"BeforeIndexChanged", &events.BeforeIndexChanged},
-              {"IndexChanged", &events.IndexChanged},
-              {"StatusChanged", &events.StatusChanged},
-              {"IsWinner", &events.IsWinner},
-              {"IsDeadEnd", &events.IsDeadEnd}})
-            mConnections.push_back(event->Connect([this, name = prefix + name](int index) {
-                Tell(name + "(" + std::to_string(index) + ")");
-            }));
-    }
-
-    /// Executes one of mCommands and returns a record of it: the events in order, its error or its
-    /// result, the platform's calls, and the history in brackets if it has changed. Line breaks are
-    /// "|", and files in the folder have no path.
+    /// Executes one of mCommands and returns a record of it: events, calls of the platform, results
+    /// and its error, after "!", in order, and the history in brackets if it has changed. Line
+    /// breaks are "|", and files in the folder have no path.
     std::string Do(const std::string& line) {
         std::istringstream words(line);
         std::string command, text;
         std::getline(words >> command >> std::ws, text);
-        // A script may run inside a step of another one.
-        const std::string outerTold = std::exchange(mTold, ""), outerCalls = mLog.TakeCalls();
         const std::string before = History();
-        std::string failure;
+        const std::string outer =
+            std::exchange(mRecorder.Told, ""); // of a step that this one runs in
         try {
             mCommands.at(command)(std::atoi(text.c_str()), text);
         } catch (const std::exception& error) {
-            Tell(failure = error.what());
+            Tell("! ", error.what());
         }
-        mError = failure;
-        std::string told = std::exchange(mTold, outerTold) + mLog.TakeCalls(outerCalls);
-        if (History() != before) told.append("[").append(History()).append("] ");
-        told = ReplaceAll(ReplaceAll(told, "\r\n", "|"), folder, "");
-        return told.substr(0, told.size() - (told.empty() ? 0 : 1));
+        if (History() != before) Tell("[", History(), "]");
+        const std::string told = ReplaceAll(std::exchange(mRecorder.Told, outer), "\r\n", "|");
+        return ReplaceAll(told.substr(0, told.find_last_of(' ')), folder, "");
     }
 
     /// Executes the steps of a script: "command > record", on separate lines or separated by " & ",
@@ -89,11 +73,11 @@ public:
     void Script(const std::string& script) {
         std::istringstream steps(ReplaceAll(script, " & ", "\n"));
         for (std::string step; std::getline(steps >> std::ws, step);) {
+            if (step.starts_with("//")) continue;
             const auto end = std::min(step.find(" >"), step.size());
-            if (step.substr(0, 2) == "//") continue;
             const std::string told = Do(step.substr(0, end));
             if (end == step.size())
-                EXPECT_EQ(mError, "") << step;
+                EXPECT_EQ(told.find("! "), std::string::npos) << step << ": " << told;
             else
                 EXPECT_EQ(told, step.substr(std::min(end + 3, step.size()))) << step;
         }
@@ -101,11 +85,7 @@ public:
 
 protected:
     std::string History() const { return play.History ? Text(*play.History) : "none"; }
-    void Tell(const auto& result) {
-        std::ostringstream text;
-        text << result;
-        mTold += text.str().empty() ? "" : text.str() + " ";
-    }
+    void Tell(const auto&... parts) { mRecorder.Tell(parts...); }
 
     // Sets the fields to `cells` ("." and all after its end: empty) and records nothing.
     void Fill(const std::string& cells) {
@@ -114,7 +94,7 @@ protected:
             field->SetValue(i < cells.size() && cells[i] != '.' ? cells[i] - '0' : 0);
         }
         grid.Status();
-        mTold.clear();
+        mRecorder.Told.clear();
     }
     // The numbers of empty, locked and entered fields, the next free field and all dead fields.
     std::string Counts() {
@@ -173,12 +153,7 @@ protected:
         {"solve", [&](int, auto&) { play.Solve(); }},
     };
 
-    std::string mTold;
-    std::vector<Connection> mConnections;
-
-private:
-    std::string mError;
-    CallLog& mLog;
+    Recorder& mRecorder;
 };
 
 struct GameParts {
@@ -197,9 +172,16 @@ protected:
             platform.AtPump(pump, [this, step = text.substr(text.find(' '))] { Tell(Do(step)); });
         };
         mCommands["pumps"] = [this](int, auto&) { Tell(std::exchange(platform.Pumps, 0)); };
-        Listen(grid.Events, "");
-        mConnections.push_back(grid.Events.Init.Connect([this] { Tell("Init"); }));
+        Listen(grid.Events.StatusChanged,
+               [this](int index) { Tell(index, "=", index > 0 ? At(index).Value() : 0); });
+        Listen(grid.Events.BeforeIndexChanged, [this](int index) { Tell("from ", index); });
+        Listen(grid.Events.IndexChanged, [this](int index) { Tell("to ", index); });
+        Listen(grid.Events.IsWinner, [this](int index) { Tell("winner ", index); });
+        Listen(grid.Events.IsDeadEnd, [this](int index) { Tell("dead ", index); });
+        Listen(grid.Events.Init, [this] { Tell("Init"); });
     }
+    void Listen(auto& event, auto handler) { mConnections.push_back(event.Connect(handler)); }
+    std::vector<Connection> mConnections;
 };
 
 } // namespace tessarin

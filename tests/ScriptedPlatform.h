@@ -12,28 +12,21 @@
 
 namespace tessarin {
 
-/// Records the calls of a platform as text, in order.
-class CallLog {
+/// Records what happens, in order.
+class Recorder {
 public:
-    /// Returns the calls since the last TakeCalls. The new record begins with `instead`.
-    std::string TakeCalls(const std::string& instead = "") {
-        return std::exchange(mCalls, instead);
-    }
-
-protected:
-    template <class First, class... Rest>
-    void Note(const char* call, const First& first, const Rest&... rest) {
+    /// Adds the text of all parts, unless it is empty, and a blank.
+    void Tell(const auto&... parts) {
         std::ostringstream text;
-        text << call << '(' << first;
-        ((text << '|' << rest), ...);
-        mCalls += text.str() + ") ";
+        (text << ... << parts);
+        if (!text.str().empty()) Told += text.str() + " ";
     }
-    std::string mCalls;
+    std::string Told;
 };
 
 /// A platform that follows a test's script and records the calls. It is the current platform while
 /// it lives.
-class ScriptedPlatform : public NullPlatform, public CallLog {
+class ScriptedPlatform : public NullPlatform, public Recorder {
 public:
     ScriptedPlatform() { Platform::SetCurrent(this); }
     ~ScriptedPlatform() override { Platform::SetCurrent(nullptr); }
@@ -44,7 +37,6 @@ public:
     std::deque<bool> Esc;          ///< the next answers to EscPressed; not pressed after them
     std::deque<bool> Answers;      ///< the next answers to questions, true for Yes; No after them
     std::string Folder;
-    int WindowStyle = 0;
     std::function<void()> Meanwhile = [] {}; ///< runs while a box is open and during a sleep
     bool Closed = false;        ///< the window is closed: no pumps, sleeps and questions
     bool ErrorExpected = false; ///< the next error in a handler does not fail the test
@@ -62,19 +54,20 @@ public:
     }
     void Sleep(int milliseconds) override {
         if (Closed) return;
-        Note("Sleep", milliseconds);
+        Tell("Sleep(", milliseconds, ")");
         Meanwhile();
     }
     bool EscPressed() override { return Next(Esc); }
     Message::Answer ShowMessage(const Message& box) override {
         const bool yesNo = box.ButtonSet == Message::Buttons::YesNo;
         if (Closed) return yesNo ? Message::Answer::No : Message::Answer::Ok;
-        Note("Box", box.Prompt, box.Title, yesNo ? "YesNo" : "Ok", box.QuestionIcon ? "?" : "-");
+        Tell("Box(", box.Title, "|", box.Prompt, box.QuestionIcon ? "|?" : "|-",
+             yesNo ? " Yes No)" : " Ok)");
         Meanwhile();
         if (!yesNo) return Message::Answer::Ok;
         return Next(Answers) ? Message::Answer::Yes : Message::Answer::No;
     }
-    void Beep() override { mCalls += "Beep "; }
+    void Beep() override { Tell("Beep"); }
     void SetMousePointer(MousePointer pointer) override {
         Hourglass = pointer == MousePointer::Hourglass;
     }
@@ -86,14 +79,14 @@ public:
     VersionRecord Version() override { return {"Solves", "by X", "https://x", 1, 6, 48}; }
     DateTime Now() override { return {2022, 4, 29, 6, 49, 52}; }
     int GetDesktopWindow() override { return 77; }
-    void LockWindowUpdate(int handle) override { Note("Lock", handle); }
-    void ShowWindow(int handle, int command) override { Note("Show", handle, command); }
+    void LockWindowUpdate(int handle) override { Tell("Lock(", handle, ")"); }
+    void ShowWindow(int handle, int command) override { Tell("Show(", handle, "|", command, ")"); }
     int GetWindowLongA(int handle, int index) override {
-        Note("Get", handle, index);
-        return WindowStyle;
+        Tell("Get(", handle, "|", index, ")");
+        return mWindowStyle;
     }
     void SetWindowLongA(int handle, int index, int value) override {
-        Note("Set", handle, index, value);
+        Tell("Set(", handle, "|", index, "|", mWindowStyle = value, ")");
     }
 
 private:
@@ -103,6 +96,7 @@ private:
         return next;
     }
     int mPumpOfAction = 0;
+    int mWindowStyle = 0x10;
     std::function<void()> mAction;
 };
 

@@ -45,7 +45,7 @@ TEST_F(SolveWindowTest, StepPanelsEscErrorsAndClosing) {
 
         // Only a confirmed ESC ends the solve. The next one runs to its end.
         load & esc 1 & esc 1 & answer 0 & answer 1
-        click btnSolve > Box(Abbrechen?|ESC gedrückt|YesNo|-) Box(Abbrechen?|ESC gedrückt|YesNo|-) [1]
+        click btnSolve > Box(ESC gedrückt|Abbrechen?|- Yes No) Box(ESC gedrückt|Abbrechen?|- Yes No) [1]
         busy > & left > 3 & click btnSolve & left > 0 & busy >
 
         // An error leaves a usable window.

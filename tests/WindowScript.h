@@ -8,11 +8,8 @@
 namespace tessarin {
 
 struct WindowParts {
-    WindowParts() {
-        OwnToolkit.OnClosed = [this] { OwnPlatform.Closed = true; };
-    }
     ScriptedPlatform OwnPlatform;
-    FakeToolkit OwnToolkit;
+    FakeToolkit OwnToolkit{OwnPlatform};
     frmTessarin window{OwnToolkit};
 };
 
@@ -50,8 +47,8 @@ public:
         add("yellow", [this](int, auto&) { Tell(YellowFields()); });
         add("pad", [this](int, auto&) { Tell(Pad()); });
         add("lights", [this](int, auto&) {
-            Tell(NameOf(window.lblDeadEnd.BackColor()) + " " +
-                 NameOf(window.lblWinner.BackColor()));
+            Tell(NameOf(window.lblDeadEnd.BackColor()));
+            Tell(NameOf(window.lblWinner.BackColor()));
         });
         add("caption",
             [this](int, auto& name) { Tell(dynamic_cast<Label&>(toolkit.Find(name)).Caption()); });
@@ -59,10 +56,9 @@ public:
         add("refresh", [this](int, auto&) { window.RefreshAll(); });
         // What is not as it is while no command runs.
         add("busy", [this](int, auto&) {
-            for (const Control* const control : std::initializer_list<const Control*>{
-                     &window.mnuFile, &window.mnuEdit, &window.mnuView, &window.mnuHelp,
-                     &window.fraAction, &window.fraNumPad})
-                Tell(control->Enabled() ? "" : control->Name());
+            for (const char* const name :
+                 {"mnuFile", "mnuEdit", "mnuView", "mnuHelp", "fraAction", "fraNumPad"})
+                Tell(toolkit.Find(name).Enabled() ? "" : name);
             Tell(window.ViewRunning() ? "view" : "");
             Tell(window.ctlRotor1.Running() ? "rotor" : "");
             Tell(platform.Hourglass ? "hourglass" : "");
@@ -91,8 +87,7 @@ private:
         const std::string look =
             label.Caption() + ":" + NameOf(label.BackColor()) + "/" + NameOf(label.ForeColor());
         if (name == "Arial Black" && size == 20 && !italic) return look;
-        return look + ":" + name + ":" + std::to_string(static_cast<int>(size)) +
-               (italic ? ":italic" : "");
+        return look + ":" + name + (size == 12 ? ":12" : "") + (italic ? ":italic" : "");
     }
 
     static std::string NameOf(Color color) {

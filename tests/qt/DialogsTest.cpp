@@ -1,12 +1,6 @@
 // Message boxes and file dialogs.
 #include "QtFixture.h"
 
-#include <QComboBox>
-#include <QFileDialog>
-#include <QScreen>
-#include <QScrollBar>
-#include <QTreeView>
-
 namespace tessarin {
 
 using DialogsTest = QtFixture;

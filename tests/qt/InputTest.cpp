@@ -1,9 +1,6 @@
 // What mouse and keys do to the controls.
 #include "QtFixture.h"
 
-#include <QKeyEvent>
-#include <QWindow>
-
 namespace tessarin {
 
 using InputTest = QtFixture;
@@ -19,7 +16,7 @@ TEST_F(InputTest, EachLeftClickAnswersOnce) {
     QTest::mouseRelease(top, Qt::LeftButton, {}, {9, 99});
     QTest::mouseDClick(top, Qt::LeftButton, {}, field);
     Click(Widget("optChill(2)"), {56, 16}); // its whole rectangle answers
-    EXPECT_EQ(mTold, "field 40 field 40 pace 2 ");
+    EXPECT_EQ(mRecorder.Told, "field 40 field 40 pace 2 ");
 }
 
 TEST_F(InputTest, AViewDisablesEvenAnOpenMenu) {

@@ -3,10 +3,6 @@
 #include "qt/QtLook.h"
 #include "ui/Colors.h"
 
-#include <QApplication>
-#include <QPalette>
-#include <QScreen>
-
 #include <algorithm>
 #include <cstdlib>
 

@@ -8,24 +8,15 @@
 #include "qt/QtToolkit.h"
 #include "ui/frmTessarin.h"
 
-#include <QApplication>
-#include <QDialog>
-#include <QKeySequence>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <functional>
 
 namespace tessarin {
 
 /// The real platform, which records some calls.
-class SpyPlatform final : public qt::QtPlatform, public CallLog {
+class SpyPlatform final : public qt::QtPlatform, public Recorder {
 public:
     SpyPlatform() : QtPlatform(ProgramVersion) {}
 
@@ -41,7 +32,7 @@ public:
     }
     void Beep() override {}
     void SetWindowLongA(int handle, int index, int value) override {
-        mCalls += "Taskbar "; // once for each activation
+        Tell("Taskbar"); // once for each activation
         QtPlatform::SetWindowLongA(handle, index, value);
     }
     void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
@@ -90,7 +81,7 @@ protected:
         mEyes.start(LookMilliseconds);
         window.Show();
         Activate();
-        mTold.clear();
+        mRecorder.Told.clear();
     }
     ~QtFixture() override { EXPECT_EQ(mAnswers.join("|"), "") << "not asked"; }
 

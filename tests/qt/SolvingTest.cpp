@@ -1,8 +1,6 @@
 // An automatic solve in the real window: disabled panels, the mouse pointer, ESC and the rotor.
 #include "QtFixture.h"
 
-#include <QKeyEvent>
-
 namespace tessarin {
 
 class SolvingTest : public QtFixture {

@@ -2,10 +2,6 @@
 // closing.
 #include "QtFixture.h"
 
-#include <QAccessible>
-#include <QElapsedTimer>
-#include <QWindow>
-
 namespace tessarin {
 
 class WindowTest : public QtFixture, public testing::WithParamInterface<const char*> {};
