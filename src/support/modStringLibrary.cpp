@@ -47,7 +47,7 @@ std::string DeleteChars(std::string_view text, std::int16_t start,
     const std::ptrdiff_t end = count ? std::ptrdiff_t{start} + *count - 1 : size;
     const std::ptrdiff_t first = std::max<std::ptrdiff_t>(start, 1);
     const std::ptrdiff_t last = std::min(end, size);
-    if ((count && *count < 1) || first > last) return result;
+    if (first > last) return result;
     return result.erase(static_cast<std::size_t>(first - 1),
                         static_cast<std::size_t>(last - first + 1));
 }
