@@ -2,11 +2,9 @@
 // Afterwards the status can be read, and the text that the grid writes loads into the same grid.
 #include "play/Game.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <stdexcept>
-#include <string>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     for (const bool csv : {true, false}) {

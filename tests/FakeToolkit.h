@@ -13,8 +13,8 @@ class FakeToolkit : public Toolkit {
 public:
     explicit FakeToolkit(ScriptedPlatform& platform) : mPlatform(platform) {}
 
-    std::deque<std::string> Files; ///< the next file dialogs choose these, then they are cancelled
-    FileDialogRequest Dialog;      ///< shown last
+    std::optional<std::string> File; ///< chosen in file dialogs; nothing: they are cancelled
+    FileDialogRequest Dialog;        ///< shown last
 
     Control& Find(const std::string& name) { return *mControls.at(name); }
 
@@ -33,10 +33,7 @@ public:
     std::unique_ptr<ControlPeer> Create(MenuItem& item, MenuItem&) override { return Add(item); }
     std::optional<std::string> RunFileDialog(const FileDialogRequest& request) override {
         Dialog = request;
-        if (Files.empty()) return std::nullopt;
-        std::string file = std::move(Files.front());
-        Files.pop_front();
-        return file;
+        return File;
     }
 
 private:

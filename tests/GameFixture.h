@@ -2,17 +2,16 @@
 
 #include "ScriptedPlatform.h"
 #include "play/Game.h"
+#include "support/modKbd.h"
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <random>
-#include <string>
+#include <regex>
 #include <vector>
 
 namespace tessarin {
@@ -55,8 +54,8 @@ public:
         std::string command, text;
         std::getline(words >> command >> std::ws, text);
         const std::string before = History();
-        const std::string outer =
-            std::exchange(mRecorder.Told, ""); // of a step that this one runs in
+        // This step may run inside another one.
+        const std::string outer = std::exchange(mRecorder.Told, "");
         try {
             mCommands.at(command)(std::atoi(text.c_str()), text);
         } catch (const std::exception& error) {
@@ -116,6 +115,12 @@ protected:
         const auto lines = text.substr(std::min(name.size() + 1, text.size()));
         WriteTextFile(folder + name, ReplaceAll(lines, "|", "\r\n"), "", true);
     }
+    // Records the moves without those of the cursor, and the number of retreats.
+    void Solve() {
+        play.Solve();
+        mRecorder.Told = std::regex_replace(mRecorder.Told, std::regex("(from|to) [0-9]+ "), "");
+        Tell(play.Retries);
+    }
     // The second number of `text`.
     static int Second(const std::string& text) { return std::atoi(text.c_str() + text.find(' ')); }
 
@@ -150,7 +155,7 @@ protected:
         {"back", [&](int fill, auto&) { play.GoBack(fill == 1); }},
         {"retreat", [&](int fill, auto&) { Tell(play.GoBackToFreedom(fill == 1) ? "T" : "F"); }},
         {"playlock", [&](int, auto&) { play.SetLocked(!play.Locked()); }},
-        {"solve", [&](int, auto&) { play.Solve(); }},
+        {"solve", [&](int, auto&) { Solve(); }},
     };
 
     Recorder& mRecorder;

@@ -1,23 +1,9 @@
 // The player by hand, and the automatic solve.
 #include "GameFixture.h"
-#include "support/modKbd.h"
-
-#include <regex>
 
 namespace tessarin {
 
-class PlayTest : public GameFixture {
-protected:
-    PlayTest() {
-        // Records the number of retreats, and leaves out the cursor's moves.
-        mCommands["run"] = [this](int, auto&) {
-            play.Solve();
-            mRecorder.Told =
-                std::regex_replace(mRecorder.Told, std::regex("(from|to) [0-9]+ "), "");
-            Tell(play.Retries);
-        };
-    }
-};
+using PlayTest = GameFixture;
 
 TEST_F(PlayTest, ByHand) {
     EXPECT_EQ(play.Value(), 0) << "without a cursor";
@@ -66,13 +52,13 @@ TEST_F(PlayTest, MovesOfASolveAreFixed) {
     Script(R"(
         // Field 2 leads to a dead end, and the retreat raises the value of field 28.
         fill 4..815.2992734685..58.9..643152.9648.92...5178465712936394..1.2271963485584127936
-        index 28 & run > 2=6 dead 32 2=0 dead 32 28=7 dead 0 2=6 3=3 7=7 18=1 19=1 22=7 24=2 25=3 32=3 37=3 40=6 41=8 42=4 59=5 60=8 62=7 winner 62 1 [28 2 3 7 18 19 22 24 25 32 37 40 41 42 59 60 62]
+        index 28 & solve > 2=6 dead 32 2=0 dead 32 28=7 dead 0 2=6 3=3 7=7 18=1 19=1 22=7 24=2 25=3 32=3 37=3 40=6 41=8 42=4 59=5 60=8 62=7 winner 62 1 [28 2 3 7 18 19 22 24 25 32 37 40 41 42 59 60 62]
         fill 58961.23.723.956...6123789..4278..6..7.56.4.315.92.7..2143..956.37.5.1.2..51423.8
         reset & index 46
-        run > 6=4 dead 54 6=0 dead 54 46=3 dead 0 6=4 9=7 13=8 dead 67 13=0 dead 0 9=0 6=0 46=6 6=4 9=7 13=8 dead 67 13=0 dead 0 9=0 6=0 46=8 dead 39 3 [46]
-        run > 6=4 dead 39 6=0 dead 39 46=0 dead 0 46=8 dead 39 Beep 2 []
-        full 81 & set 1 0 & set 2 1 & reset & index 50 & run > 50=0 dead 1 50=3 dead 1 Beep 1 []
-        full 81 & reset & index 50 & run > 0 [50]
+        solve > 6=4 dead 54 6=0 dead 54 46=3 dead 0 6=4 9=7 13=8 dead 67 13=0 dead 0 9=0 6=0 46=6 6=4 9=7 13=8 dead 67 13=0 dead 0 9=0 6=0 46=8 dead 39 3 [46]
+        solve > 6=4 dead 39 6=0 dead 39 46=0 dead 0 46=8 dead 39 Beep 2 []
+        full 81 & set 1 0 & set 2 1 & reset & index 50 & solve > 50=0 dead 1 50=3 dead 1 Beep 1 []
+        full 81 & reset & index 50 & solve > 0 [50]
     )");
 }
 
@@ -81,17 +67,17 @@ TEST_F(PlayTest, EscInASolveAsksOnceForEachPressAndACancelEndsIt) {
     platform.Answers = {false, true, true};
     // The first run begins without a cursor; the last answer of it is forgotten in the second.
     Script(R"(
-        run > 1=1 Box(ESC gedrückt|Abbrechen?|- Yes No) 2=2 Box(ESC gedrückt|Abbrechen?|- Yes No) 0 [1 2]
-        run > 3=3 Box(ESC gedrückt|Abbrechen?|- Yes No) 0 [1 2 3]
+        solve > 1=1 Box(ESC gedrückt|Abbrechen?|- Yes No) 2=2 Box(ESC gedrückt|Abbrechen?|- Yes No) 0 [1 2]
+        solve > 3=3 Box(ESC gedrückt|Abbrechen?|- Yes No) 0 [1 2 3]
     )");
     EXPECT_TRUE(gbCancel);
     // A cycle that has begun is completed, with its retreat.
     const auto step = game.Events.StatusChanged.Connect([](int) { SetCancel(); });
     Script(R"(
         fill 4..815.2992734685..58.9..643152.9648.92...5178465712936394..1.2271963485584127936
-        index 28 & reset & run > 2=6 dead 32 2=0 dead 32 28=7 dead 0 1 [28] & run > 2=6 0 [28 2]
+        index 28 & reset & solve > 2=6 dead 32 2=0 dead 32 28=7 dead 0 1 [28] & solve > 2=6 0 [28 2]
         fill ..3456789..................2...........................2 & reset & index 81
-        run > 1=1 dead 2 1=0 dead 0 81=1 1 [81]
+        solve > 1=1 dead 2 1=0 dead 0 81=1 1 [81]
     )");
 }
 

@@ -32,7 +32,6 @@ TEST_F(PuzzleTextTest, BothFormats) {
         load 0;4;1 > Init ! no item at position 0 of 81 has |5;3;1 & load 82;x;1 > Init ! no item at position 82 of 81 has |5;3;1
         load x;4;1 > Init ! "x" is not a whole number has |5;3;1
         load 7;4; > Init ! "" is not a whole number has |5;3;1|7;4;0
-        load 7;4.0;1 > Init ! "4.0" is not a whole number has |5;3;1
         load 7;0x4;1 > Init ! "0x4" is not a whole number has |5;3;1
         load 7;1234567890123456789012345678901234567890;1 > Init ! "1234567890123456789012345678901234567890" is outside the 32-bit range has |5;3;1
         load 7;4;-12345678901234567890123456789012345678901 > Init ! "-123456789012345678901234567890123456789..." is outside the 32-bit range has |5;3;1|7;4;0

@@ -32,10 +32,9 @@ public:
     ~ScriptedPlatform() override { Platform::SetCurrent(nullptr); }
 
     int Pumps = 0;
-    Pump LastPump = Pump::WhenDue; ///< the argument of the last pump
-    bool Hourglass = false;        ///< the mouse pointer
-    std::deque<bool> Esc;          ///< the next answers to EscPressed; not pressed after them
-    std::deque<bool> Answers;      ///< the next answers to questions, true for Yes; No after them
+    bool Hourglass = false;   ///< the mouse pointer
+    std::deque<bool> Esc;     ///< the next answers to EscPressed; not pressed after them
+    std::deque<bool> Answers; ///< the next answers to questions, true for Yes; No after them
     std::string Folder;
     std::function<void()> Meanwhile = [] {}; ///< runs while a box is open and during a sleep
     bool Closed = false;        ///< the window is closed: no pumps, sleeps and questions
@@ -47,9 +46,8 @@ public:
         mAction = std::move(action);
     }
 
-    void PumpEvents(Pump pump) override {
+    void PumpEvents(Pump /*pump*/) override {
         if (Closed) return;
-        LastPump = pump;
         if (++Pumps == mPumpOfAction && mAction) std::exchange(mAction, nullptr)();
     }
     void Sleep(int milliseconds) override {
@@ -68,9 +66,7 @@ public:
         return Next(Answers) ? Message::Answer::Yes : Message::Answer::No;
     }
     void Beep() override { Tell("Beep"); }
-    void SetMousePointer(MousePointer pointer) override {
-        Hourglass = pointer == MousePointer::Hourglass;
-    }
+    void SetMousePointer(MousePointer p) override { Hourglass = p == MousePointer::Hourglass; }
     void ReportError(const std::string& what) override {
         if (!std::exchange(ErrorExpected, false))
             ADD_FAILURE() << "a handler ended with an error: " << what;

@@ -3,16 +3,7 @@
 
 namespace tessarin {
 
-class SolveWindowTest : public WindowFixture {
-protected:
-    SolveWindowTest() {
-        // Only the fields 1, 11, 21 and 31 are empty.
-        mCommands["load"] = [this](int, auto&) {
-            Script("full 81 & set 1 0 & set 11 0 & set 21 0 & set 31 0 & index 1 & reset");
-        };
-        Do("load");
-    }
-};
+using SolveWindowTest = WindowFixture;
 
 TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
     // One pause for each of the two fields of a cursor move and one for the value. The first field
@@ -20,14 +11,15 @@ TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
     for (const auto& [option, pause] :
          {std::pair{0, 0}, {1, 0}, {2, 100}, {3, 200}, {4, 400}, {5, 800}}) {
         SCOPED_TRACE(option);
-        Script("load & click optChill(" + std::to_string(option) + ")");
+        SetCancel(); // forgotten with the choice of a pace
+        Script("holes 1 11 21 31 & click optChill(" + std::to_string(option) + ")");
+        EXPECT_FALSE(gbCancel);
         std::string pauses;
         for (int i = 0; i < 10 && pause > 0; ++i)
             pauses += "Sleep(" + std::to_string(pause) + ") ";
         Do(std::string("during fields 1 => ") + (option == 0 ? "" : "1") + ":green/text");
-        Script("click btnSolve > " + pauses + "[1 11 21 31] & fields 31 > 5:green/text");
-        Script("fields 1 11 21 > 1:normal/text 5:normal/text 9:normal/text & busy >");
-        Script("lights > normal green");
+        Script("click btnSolve > " + pauses + "[1 11 21 31] & busy > & lights > normal green");
+        Script("fields 1 11 21 31 > 1:normal/text 5:normal/text 9:normal/text 5:green/text");
     }
     Script("click btnGoBack > [1 11 21] & lights > normal normal");
 }
@@ -35,24 +27,24 @@ TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
 TEST_F(SolveWindowTest, StepPanelsEscErrorsAndClosing) {
     Script(R"(
         // "Step" makes one cycle for each click.
-        click optChill(6) & click btnSolve > [1] & left > 3 & busy > & click btnSolve > [1 11]
+        holes 1 11 21 31 & click optChill(6) & click btnSolve > [1] & left > 3 & busy > & click btnSolve > [1 11]
         left > 2 & busy > & click btnSolve & click btnSolve & left > 0 & busy >
 
         // During a solve the panels are disabled, and the window stays open. All else answers.
-        load & click optChill(1)
+        holes 1 11 21 31 & click optChill(1)
         during click btnInfo; click btnGoBack; click lblDeadEnd; click btnNumPad(11); click mnuFileQuit; left => 3; busy => fraAction fraNumPad rotor hourglass; click lblField(5); cursor => 5; click optChill(0)
         click btnSolve > [1 11 21 31] & left > 0 & busy > & width > 8850
 
         // Only a confirmed ESC ends the solve. The next one runs to its end.
-        load & esc 1 & esc 1 & answer 0 & answer 1
+        holes 1 11 21 31 & esc 1 & esc 1 & answer 0 & answer 1
         click btnSolve > Box(ESC gedrückt|Abbrechen?|- Yes No) Box(ESC gedrückt|Abbrechen?|- Yes No) [1]
         busy > & left > 3 & click btnSolve & left > 0 & busy >
 
         // An error leaves a usable window.
-        load & during fail & click btnSolve & left > 3 & busy >
+        holes 1 11 21 31 & during fail & click btnSolve & left > 3 & busy >
 
         // Closed before the solve of a step returns.
-        load & click optChill(6) & during click optChill(1); click mnuFileQuit & click btnSolve > [1]
+        holes 1 11 21 31 & click optChill(6) & during click optChill(1); click mnuFileQuit & click btnSolve > [1]
         left > 3 & busy > closed
     )");
 }

@@ -24,11 +24,16 @@ public:
         add("click", [this](int, auto& name) { Click(name); });
         add("answer", [this](int yes, auto&) { platform.Answers.push_back(yes == 1); });
         add("esc", [this](int pressed, auto&) { platform.Esc.push_back(pressed == 1); });
-        add("choose", [this](int, auto& name) { toolkit.Files.push_back(folder + name); });
+        add("choose", [this](int, auto& name) { toolkit.File = folder + name; });
         add("import", [this](int, auto& lines) {
             Write("import.csv Index;Value;Locked|" + lines);
-            toolkit.Files.push_back(folder + "import.csv");
+            toolkit.File = folder + "import.csv";
             Click("mnuFileImportCSV");
+        });
+        // A full grid with some empty fields, and the cursor on the first one.
+        add("holes", [this](int first, auto& fields) {
+            const std::string sets = "set " + ReplaceAll(fields, " ", " 0 & set ") + " 0 & index ";
+            Script("full 81 & reset & " + sets + std::to_string(first));
         });
         // Sets the steps for the next box, pause or change of a field, with "=>" for ">" and "; "
         // between them.
@@ -91,12 +96,9 @@ private:
     }
 
     static std::string NameOf(Color color) {
-        static const std::map<Color, std::string> names{{WindowBackground, "normal"},
-                                                        {ButtonText, "text"},
-                                                        {Red, "red"},
-                                                        {Green, "green"},
-                                                        {Yellow, "yellow"}};
-        return names.contains(color) ? names.at(color) : "?";
+        if (color == WindowBackground) return "normal";
+        if (color == ButtonText) return "text";
+        return color == Red ? "red" : color == Green ? "green" : color == Yellow ? "yellow" : "?";
     }
 
     // The visible keys, the enabled keys and the background colour.

@@ -11,8 +11,6 @@
 #include <QTest>
 #include <QtWidgets>
 
-#include <functional>
-
 namespace tessarin {
 
 /// The real platform, which records some calls.
@@ -30,7 +28,6 @@ public:
     void Sleep(int milliseconds) override {
         if (ReallySleeps) QtPlatform::Sleep(milliseconds);
     }
-    void Beep() override {}
     void SetWindowLongA(int handle, int index, int value) override {
         Tell("Taskbar"); // once for each activation
         QtPlatform::SetWindowLongA(handle, index, value);
@@ -50,32 +47,29 @@ struct QtParts {
 class QtFixture : public testing::Test, protected QtParts, public GameScript {
 protected:
     QtFixture() : GameScript(platform, *goGame) {
-        const auto add = [this](const char* name, auto command) {
-            mCommands[name] = [command](int, auto& text) { command(text); };
-        };
-        add("click", [this](auto& name) { Click(Widget(name), Widget(name).rect().center()); });
-        add("key", [this](auto& keys) { Key(keys); });
-        add("menu", [this](auto& entry) { Menu(QString::fromStdString(entry)); });
-        add("answer", [this](auto& answer) { mAnswers << QString::fromStdString(answer); });
-        add("choose", [this](auto& name) { mAnswers << QString::fromStdString(folder + name); });
-        add("import", [this](auto& puzzle) {
+        const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
+        add("click", [this](int, auto& n) { Click(Widget(n), Widget(n).rect().center()); });
+        add("key", [this](int, auto& keys) { Key(keys); });
+        add("menu", [this](int, auto& entry) { Menu(QString::fromStdString(entry)); });
+        add("answer", [this](int, auto& answer) { mAnswers << QString::fromStdString(answer); });
+        add("choose", [this](int, auto& n) { mAnswers << QString::fromStdString(folder + n); });
+        add("import", [this](int, auto& puzzle) {
             mAnswers << QString::fromStdString(TESSARIN_PUZZLES + puzzle);
             Menu("mnuFileImportCSV");
         });
-        add("to", [this](auto& name) { Widget(name).setFocus(); });
-        add("focus", [this](auto&) { Tell(form->focusWidget()->objectName().toStdString()); });
-        add("activate", [this](auto&) { Activate(); });
-        add("close", [this](auto&) { Tell(form->close() ? "" : "stays"); });
+        add("to", [this](int, auto& name) { Widget(name).setFocus(); });
+        add("focus", [this](int, auto&) { Tell(form->focusWidget()->objectName().toStdString()); });
+        add("activate", [this](int, auto&) { Activate(); });
         // What is not as it is while no command runs.
-        add("busy", [this](auto&) {
+        add("busy", [this](int, auto&) {
             const QCursor* const pointer = QApplication::overrideCursor();
             const bool isBusy = pointer != nullptr && pointer->shape() == Qt::WaitCursor;
             Tell(isBusy ? "hourglass" : form->isVisible() ? "" : "closed");
         });
         // From now on clicks on fields and options are only told.
-        add("record", [this](auto&) {
-            window.lblField.Click = [this](int index) { Tell("field " + std::to_string(index)); };
-            window.optChill.Click = [this](int index) { Tell("pace " + std::to_string(index)); };
+        add("record", [this](int, auto&) {
+            window.lblField.Click = [this](int index) { Tell("field ", index); };
+            window.optChill.Click = [this](int index) { Tell("pace ", index); };
         });
         QObject::connect(&mEyes, &QTimer::timeout, [this] { LookForBox(); });
         mEyes.start(LookMilliseconds);
@@ -122,16 +116,12 @@ private:
 
     // Opens the menus on the way to the entry and clicks it; tells "shut" if one does not open.
     void Menu(const QString& entry) {
-        for (QAction* const action : MenuBar().actions())
-            if (action->objectName() == entry)
-                Click(MenuBar(), MenuBar().actionGeometry(action).center());
-        for (QMenu* const menu : MenuBar().findChildren<QMenu*>())
-            for (QAction* const action : menu->actions()) {
-                if (action->objectName() != entry || menu->title().isEmpty()) continue;
-                Menu(menu->menuAction()->objectName());
-                if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 500)) return Tell("shut");
-                Click(*menu, menu->actionGeometry(action).center());
-            }
+        auto* const action = form->findChild<QAction*>(entry);
+        auto* const menu = qobject_cast<QMenu*>(action->associatedObjects().constFirst());
+        if (menu == nullptr) return Click(MenuBar(), MenuBar().actionGeometry(action).center());
+        Menu(menu->menuAction()->objectName());
+        if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 500)) return Tell("shut");
+        Click(*menu, menu->actionGeometry(action).center());
     }
 
     void LookForBox() {
@@ -147,13 +137,12 @@ private:
         const QString answer = mAnswers.isEmpty() ? "none" : mAnswers.takeFirst();
         for (auto* const button : dialog->findChildren<QPushButton*>())
             if (button->text().remove('&') == answer) return Click(*button, {5, 5});
-        if (answer.contains('/')) {
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(answer);
-            QMetaObject::invokeMethod(dialog, "accept");
-        } else {
+        if (!answer.contains('/')) {
             EXPECT_EQ(answer, "Esc") << "box without an answer";
-            Key("Esc");
+            return Key("Esc");
         }
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(answer);
+        QMetaObject::invokeMethod(dialog, "accept");
     }
 
     // Title, text, "?" for the icon of a question, and the buttons, the default one after "[".

@@ -8,7 +8,6 @@ int main(int argc, char** argv) {
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     testing::InitGoogleTest(&argc, argv);
-    if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
