@@ -75,8 +75,8 @@ TEST_F(DisplayTest, FieldsInformationAndPad) {
 
         // Fields of a larger grid have no labels.
         init 5 & refresh & index 625 & set 625 25 & set 81 24 & fields 81 > 24:normal/text
+        click mnuViewFreedom
     )");
-    window.PaintFreedoms();
 }
 
 TEST_F(DisplayTest, ScreenReadersHearWhatTheColoursTell) {

@@ -27,11 +27,9 @@ TEST_F(PuzzleTextTest, BothFormats) {
         load 7 ;  +4 ; 1 > Init has |5;3;1|7;4;1|9;9;0
         load 7;12;0||1;-3;1 > Init has |1;-3;1|5;3;1|7;12;0|9;9;0
         load 9;1;1|5;2147483647;-1|| > Init has |5;2147483647;0|9;9;0
-        load 7 > Init ! too few items in "7" has |5;3;1
-        load 7;4 > Init ! too few items in "7;4" has |5;3;1|7;4;0
+        load 7 > Init ! too few items in "7" has |5;3;1 & load 7;4 > Init ! too few items in "7;4" has |5;3;1|7;4;0
         load 0;4;1 > Init ! no item at position 0 of 81 has |5;3;1 & load 82;x;1 > Init ! no item at position 82 of 81 has |5;3;1
-        load x;4;1 > Init ! "x" is not a whole number has |5;3;1
-        load 7;4; > Init ! "" is not a whole number has |5;3;1|7;4;0
+        load x;4;1 > Init ! "x" is not a whole number has |5;3;1 & load 7;4; > Init ! "" is not a whole number has |5;3;1|7;4;0
         load 7;0x4;1 > Init ! "0x4" is not a whole number has |5;3;1
         load 7;1234567890123456789012345678901234567890;1 > Init ! "1234567890123456789012345678901234567890" is outside the 32-bit range has |5;3;1
         load 7;4;-12345678901234567890123456789012345678901 > Init ! "-123456789012345678901234567890123456789..." is outside the 32-bit range has |5;3;1|7;4;0

@@ -52,11 +52,10 @@ public:
         add("yellow", [this](int, auto&) { Tell(YellowFields()); });
         add("pad", [this](int, auto&) { Tell(Pad()); });
         add("lights", [this](int, auto&) {
-            Tell(NameOf(window.lblDeadEnd.BackColor()));
-            Tell(NameOf(window.lblWinner.BackColor()));
+            Tell(NameOf(window.lblDeadEnd.BackColor()), " ", NameOf(window.lblWinner.BackColor()));
         });
         add("caption",
-            [this](int, auto& name) { Tell(dynamic_cast<Label&>(toolkit.Find(name)).Caption()); });
+            [this](int, auto& n) { Tell(dynamic_cast<Label&>(toolkit.Find(n)).Caption()); });
         add("width", [this](int, auto&) { Tell(window.Width()); });
         add("refresh", [this](int, auto&) { window.RefreshAll(); });
         // What is not as it is while no command runs.

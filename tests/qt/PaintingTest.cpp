@@ -51,6 +51,7 @@ TEST_P(PaintingTest, BackgroundsBordersDigitsAndTheFocusCanBeSeen) {
         const QImage image = Picture("lblField(12)");
         EXPECT_EQ(image.pixelColor(3, 3), seen);
         EXPECT_GT(Contrast(image, {8, 8, 24, 24}, {6, 6}), 60) << "digit on " << color;
+        EXPECT_EQ(Contrast(image, {2, 2, 6, 36}, {6, 6}), 0) << "in the middle";
         Widget("lblField(12)").setFocus();
         EXPECT_GT(Contrast(Picture("lblField(12)"), {1, 20, 4, 1}, {6, 6}), 60) << color;
     }

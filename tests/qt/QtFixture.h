@@ -62,9 +62,8 @@ protected:
         add("activate", [this](int, auto&) { Activate(); });
         // What is not as it is while no command runs.
         add("busy", [this](int, auto&) {
-            const QCursor* const pointer = QApplication::overrideCursor();
-            const bool isBusy = pointer != nullptr && pointer->shape() == Qt::WaitCursor;
-            Tell(isBusy ? "hourglass" : form->isVisible() ? "" : "closed");
+            const bool hourglass = QApplication::overrideCursor() != nullptr;
+            Tell(hourglass ? "hourglass" : form->isVisible() ? "" : "closed");
         });
         // From now on clicks on fields and options are only told.
         add("record", [this](int, auto&) {
@@ -81,9 +80,9 @@ protected:
 
     // Events are sent to the top window, so that modal boxes, open menus and disabled panels keep
     // them from the controls as they do for a user.
-    static void Click(QWidget& widget, QPoint where, Qt::MouseButton button = Qt::LeftButton) {
+    static void Click(QWidget& widget, QPoint where) {
         QWidget* const top = widget.window();
-        QTest::mouseClick(top->windowHandle(), button, {}, widget.mapTo(top, where));
+        QTest::mouseClick(top->windowHandle(), Qt::LeftButton, {}, widget.mapTo(top, where));
     }
     void Key(const std::string& keys) {
         // Without a pause a second press would count as a repeat.

@@ -27,12 +27,13 @@ TEST_F(SolvingTest, PanelsAreDisabledDuringASolveAndTheWindowStaysOpen) {
             answer OK & menu mnuAbout & busy > hourglass
         )");
     });
-    Script("click btnSolve & left > 0 & busy > & menu mnuFileQuit > & busy > closed");
+    Script("click btnSolve & left > 0 & busy > & focus > lblField(77)");
+    Script("menu mnuFileQuit > & busy > closed");
 }
 
 TEST_F(SolvingTest, OnlyAnEscThatClosesNothingAsks) {
     Script("answer Esc & menu mnuFileExportCSV & answer Esc & menu mnuEditClearAll & activate");
-    Script("menu mnuFile & key Esc");
+    Script("menu mnuFile & key Esc & key Alt & key Esc");
     EXPECT_FALSE(platform.EscPressed());
     QTest::mouseMove(form->windowHandle(), MenuBar().mapTo(form, QPoint(12, 6)));
     ASSERT_NE(MenuBar().activeAction(), nullptr) << "the pointer is over a title";
@@ -52,6 +53,7 @@ TEST_F(SolvingTest, OnlyAnEscThatClosesNothingAsks) {
 TEST_F(SolvingTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
     Esc(*form, QEvent::KeyPress, 1000);
     WhileOpen = [](QDialog& box) {
+        Esc(box, QEvent::KeyPress, 1500);
         // The first repeat after the focus has changed is not marked as a repeat.
         for (const quint64 time : {1600U, 1630U, 1660U}) {
             Esc(box, QEvent::KeyRelease, time, time > 1600);
@@ -82,6 +84,9 @@ TEST_F(SolvingTest, RotorTurnsAfterEachPauseAndDuringACommandInsideItsTick) {
     };
     window.ctlRotor1.SetRunning(true);
     EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 5; }));
+    const int before = ticks;
+    platform.Sleep(30);
+    EXPECT_EQ(ticks, before) << "ticks wait for the next pump";
     window.ctlRotor1.SetRunning(false);
     EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#2f5d8c"));
 }
