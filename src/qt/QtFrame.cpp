@@ -11,7 +11,6 @@ void QtFrame::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), ToQt(look.BackColor));
     if (look.Border == BorderStyle::None) return;
-    painter.setFont(font());
     const QString caption = ToQt(look.Caption);
     const int textHeight = caption.isEmpty() ? 0 : painter.fontMetrics().height();
     const QRect line = rect().adjusted(0, textHeight / 2, 0, 0);

@@ -50,7 +50,6 @@ QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form, QtMenuPeer& parent)
 QMenu& QtMenuPeer::Menu() {
     if (!mMenu) {
         mMenu = std::make_unique<BarMenu>(mForm);
-        mMenu->setObjectName(mAction.objectName());
         mAction.setMenu(mMenu.get());
     }
     return *mMenu;

@@ -55,15 +55,13 @@ std::string TwoBytesEach(const std::string& text) {
 
 // Returns 0 or the system's error number.
 int Write(const std::string& fileName, const std::string& bytes, bool replaceExisting) {
-    errno = 0;
     std::FILE* const file = std::fopen(fileName.c_str(), replaceExisting ? "wb" : "wbx");
     if (file == nullptr) return errno;
     const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
     const int error = errno;
     const bool closed = std::fclose(file) == 0;
     if (written && closed) return 0;
-    const int last = written ? errno : error;
-    return last != 0 ? last : EIO;
+    return written ? errno : error;
 }
 
 } // namespace

@@ -118,7 +118,7 @@ TEST_F(WindowTest, ThePlatformOutlivesItsForm) {
         EXPECT_EQ(&Platform::Current(), &machine);
         machine.LockWindowUpdate(1);
         Do("answer OK");
-        machine.ShowMessage({.Prompt = "without a window"});
+        EXPECT_EQ(machine.ShowMessage({.Prompt = "without a window"}), Message::Answer::Ok);
         EXPECT_EQ(machine.GetWindowLongA(1, -20), 0);
     }
     EXPECT_EQ(Platform::Current().ProgramFolder(), ".") << "no platform is current";
