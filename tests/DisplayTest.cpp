@@ -89,9 +89,9 @@ TEST_F(DisplayTest, ScreenReadersHearWhatTheColoursTell) {
         fill .12345678. & set 10 9 & hear lblDeadEnd > dead end: lit
         index 1 & hear lblField(1) > row 1, column 1: empty, current, dead
         hear optChill(1) > pause 0 milliseconds & hear optChill(5) > pause 800 milliseconds
-        hear optChill(0) > only show result
-        hear optChill(6) > stop after every move / continue with solve & hear fraInfo > FieldInfo
-        hear btnNumPad(1) > 1 & hear btnNumPad(10) > locke & hear btnNumPad(11) > clear
+        hear optChill(0) > only show result & hear fraInfo > FieldInfo
+        hear optChill(6) > stop after every move / continue with solve & hear btnNumPad(1) > 1
+        hear btnNumPad(10) > locke & hear btnNumPad(11) > clear
         hear btnNextFree > goto next free field & hear btnInfo > show/hide fild info
         during hear lblField(2) => row 1, column 2: 1, marked & click mnuViewNeighbours & clear
         during hear lblField(1) => row 1, column 1: empty, current, freedom 9 & click mnuViewFreedom

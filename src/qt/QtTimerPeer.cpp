@@ -11,9 +11,8 @@ QtTimerPeer::QtTimerPeer(Timer& timer, QtPlatform& platform)
 }
 
 void QtTimerPeer::Changed(Property /*property*/) {
-    mTimer.setInterval(mControl.Interval());
     if (mControl.Enabled())
-        mTimer.start();
+        mTimer.start(mControl.Interval());
     else
         mTimer.stop();
 }
