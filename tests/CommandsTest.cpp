@@ -8,8 +8,7 @@ using CommandsTest = WindowFixture;
 TEST_F(CommandsTest, ButtonsAndTheEditMenu) {
     Script(R"(
         // A puzzle by hand.
-        import 2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1 > [] & click lblField(81)
-        click btnNextFree & cursor > 1
+        import 2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1 > [] & click lblField(81) & click btnNextFree & cursor > 1
         click btnNextFreeAuto > [1] & fields 1 8 > 7:green/text :normal/text
         click btnNextFreeAuto > [1 8] & fields 1 8 > 7:normal/text 8:green/text
         click btnNextFreeValue & fields 1 8 > 7:normal/text 9:green/text
@@ -24,8 +23,7 @@ TEST_F(CommandsTest, ButtonsAndTheEditMenu) {
         fields 1 > 5:green/red & click btnNumPad(10) & fields 1 > 5:green/text
         click btnNumPad(9) & fields 1 > 9:green/text & click btnNumPad(0) & click btnNumPad(10)
         fields 1 > :green/text & click btnNumPad(1) & fields 1 > 1:green/text & click btnNumPad(11) & fields 1 > :green/text
-        click lblField(40) & cursor > 40 & fields 1 40 > :normal/text :green/text
-        click lblField(1)
+        click lblField(40) & cursor > 40 & fields 1 40 > :normal/text :green/text & click lblField(1)
 
         // The menu locks and clears.
         set 1 5 & set 2 3 & click mnuEditLockAllSet
@@ -42,7 +40,7 @@ TEST_F(CommandsTest, ButtonsAndTheEditMenu) {
 
         // About and the information.
         click mnuAbout & click mnuAbout > Box(About Tessarin|FileDescription: Solves|Copyright: by X|Internet: https://x|Version: 01.06.048|Release: 29.04.2022 - 06:49:52|- Ok)
-        click btnInfo & width > 11625 & click btnInfo & width > 8850
+        click btnInfo & size > 11625 x 7170 & click btnInfo & size > 8850 x 7170
     )");
 }
 
@@ -93,7 +91,7 @@ TEST_F(CommandsTest, ViewsMarkFieldsWhileABoxIsOpen) {
         click lblDeadEnd > Box(|Dead cells = 1|- Ok) & fields 1 > :normal/text & click lblField(81)
         during yellow => 9 18 27 36 45 54 61 62 63 70 71 72 73 74 75 76 77 78 79 80 81
         click mnuViewNeighbours > Box(|Neigbours = 21|- Ok) & yellow > & fields 81 > :green/text
-        fill .12345678.91234567 & index 9
+        fill .12345678.91234567 & index 9 & lock 1 1
         during fields 1 10 19 9 => 0:red/normal:Arial:12:italic 1:green/red:Arial:12:italic 6:yellow/red:Arial:12:italic 8:green/text
         click mnuViewFreedom > Box(|Freedoms of fields|- Ok)
         fields 1 10 9 > :normal/text :normal/text 8:green/text

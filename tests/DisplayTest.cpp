@@ -55,8 +55,7 @@ TEST_F(DisplayTest, FieldsInformationAndPad) {
         // The panel describes the field that was painted last.
         lock 1 0 & lock 11 1 & index 11 & retreat & paint 1
         caption lblInfo > Index=1|Value=0||Freedom=0|FreeValuesList=||IsCursor=False|IsLocked=False|IsEmpty=True|IsDeadCell=True||Retries=1|DeadCount=1
-        paint 0
-        caption lblInfo > Index=11|Value=9||Freedom=6|FreeValuesList=3;4;5;6;7;8;||IsCursor=True|IsLocked=True|IsEmpty=False|IsDeadCell=False||Retries=1|DeadCount=1
+        paint 0 & caption lblInfo > Index=11|Value=9||Freedom=6|FreeValuesList=3;4;5;6;7;8;||IsCursor=True|IsLocked=True|IsEmpty=False|IsDeadCell=False||Retries=1|DeadCount=1
         index 0 & refresh & fields 1 > :red/text & cursor > 1
 
         // The pad follows the current field, here with the values of its row.

@@ -41,7 +41,6 @@ public:
     GameScript(Recorder& recorder, Game& played) : game(played), mRecorder(recorder) {
         std::filesystem::create_directory(folder);
     }
-    GameScript(const GameScript&) = delete;
     ~GameScript() { std::filesystem::remove_all(folder); }
 
     Field& At(int index) { return *grid.Items.Item(index); }

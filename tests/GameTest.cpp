@@ -53,8 +53,7 @@ TEST_F(GameTest, UnusableFilesCountAsEmptyAndOnlyCSVResetsThePlayer) {
         fill 5 & tosdk rows & fill & trace 4 & fromsdk rows > Init & is > |1;5;1
         write bad Index;Value;Locked|1;9;1|x
         fromcsv bad > Init ! "x" is not a whole number & is > |1;9;1
-        write good Index;Value;Locked|2;9;1 & fromcsv good > Init [none] & is > |2;9;1
-        tracing 0 >
+        write good Index;Value;Locked|2;9;1 & fromcsv good > Init [none] & is > |2;9;1 & tracing 0 >
     )");
 }
 

@@ -30,10 +30,13 @@ TEST_F(SolveWindowTest, StepPanelsEscErrorsAndClosing) {
         holes 1 11 21 31 & click optChill(6) & click btnSolve > [1] & left > 3 & busy > & click btnSolve > [1 11]
         left > 2 & busy > & click btnSolve & click btnSolve & left > 0 & busy >
 
+        // The field that the cursor has left is painted first.
+        holes 1 11 21 31 & index 2 & click optChill(2) & during fields 1 2 => :normal/text 2:normal/text & click btnSolve & left > 0
+
         // During a solve the panels are disabled, and the window stays open. All else answers.
         holes 1 11 21 31 & click optChill(1)
         during click btnInfo; click btnGoBack; click lblDeadEnd; click btnNumPad(11); click mnuFileQuit; left => 3; busy => fraAction fraNumPad rotor hourglass; click lblField(5); cursor => 5; click optChill(0)
-        click btnSolve > [1 11 21 31] & left > 0 & busy > & width > 8850
+        click btnSolve > [1 11 21 31] & left > 0 & busy > & size > 8850 x 7170
 
         // Only a confirmed ESC ends the solve. The next one runs to its end.
         holes 1 11 21 31 & esc 1 & esc 1 & answer 0 & answer 1

@@ -56,7 +56,7 @@ public:
         });
         add("caption",
             [this](int, auto& n) { Tell(dynamic_cast<Label&>(toolkit.Find(n)).Caption()); });
-        add("width", [this](int, auto&) { Tell(window.Width()); });
+        add("size", [this](int, auto&) { Tell(window.Width(), " x ", window.Height()); });
         add("refresh", [this](int, auto&) { window.RefreshAll(); });
         // What is not as it is while no command runs.
         add("busy", [this](int, auto&) {

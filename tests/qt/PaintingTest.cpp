@@ -71,6 +71,7 @@ TEST_P(PaintingTest, BackgroundsBordersDigitsAndTheFocusCanBeSeen) {
         }
     }
     EXPECT_GT(Contrast(Picture("fraInfo"), {8, 2, 60, 10}, {4, 2}), 60) << "caption";
+    EXPECT_EQ(Contrast(Picture("fraInfo"), {9, 0, 1, 12}, {9, 0}), 0) << "no line behind it";
     EXPECT_EQ(Contrast(Picture("fraAction"), {0, 0, 160, 9}, {0, 0}), 0) << "no border";
 }
 

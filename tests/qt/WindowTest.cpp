@@ -69,6 +69,8 @@ TEST_F(WindowTest, ReturningFromAnotherWindowActivatesButNotFromAnOwnBox) {
     EXPECT_EQ(form->windowHandle()->type(), Qt::Tool);
     Script("activate > Taskbar & busy >");
     EXPECT_EQ(form->windowHandle()->type(), Qt::Window);
+    platform.ShowWindow(window.Handle(), 0);
+    EXPECT_FALSE(form->isVisible());
 }
 
 // A view that sleeps, a question and a file dialog.
