@@ -67,7 +67,7 @@ TEST_F(GridTest, StatusAndCursor) {
         init 5 > Init & counts > 625 0 0 1 & set 626 1 > ! no item at position 626 of 625
         init > Init & counts > 81 0 0 1 & set 82 1 > ! no item at position 82 of 81
         playlock > & index 7 & init 217 > ! the square of 47089 is above 32 bits
-        index 8 > from 7 to 8 & init 9 > Init & set 1 70 & counts > 6560 0 1 2
+        index 8 > from 7 to 8 & init 9 > Init & set 6561 70 & counts > 6560 0 1 81
 
         // The cursor.
         init > Init & index 0 > & index -1 > & index 82 > ! no field 82
@@ -87,7 +87,7 @@ TEST_F(GridTest, StatusAndCursor) {
         set 75 0 > 75=0 dead 0 & set 81 0 > 81=0
 
         // A change is compared with the last count, even of another grid.
-        full 81 & init > Init & status > 0 & status > 0
+        full 81 & init > Init & at 1 left & status > 81 0 & status > 0
         fill .234567891 & csv > Init & set 9 9 > 9=9 dead 0
 
         // Locking and clearing.
