@@ -33,7 +33,7 @@ TEST_F(DisplayTest, ControlsHaveTheirPlaces) {
         at optChill(1) > fraChill 240 240 855 x 255 & at optChill(6) > fraChill 1320 600 855 x 255
         at optChill(2) > fraChill 240 600 855 x 255 & at ctlRotor1 > fraRotor 247.5 247.5 480 x 480
         at optChill(3) > fraChill 240 960 855 x 255 & at Image1(0) > ctlRotor1 0 0 480 x 480
-        at optChill(4) > fraChill 240 1320 855 x 255 & at Image1(11) > ctlRotor1 0 0 480 x 480
+        at optChill(4) > fraChill 240 1320 855 x 255 & at Image1(1) > ctlRotor1 0 0 480 x 480
         at optChill(5) > fraChill 240 1680 855 x 255
     )");
     EXPECT_FALSE(window.lblField(0).Visible());
