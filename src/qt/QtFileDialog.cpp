@@ -26,11 +26,15 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
+QTreeView* FileList(const QFileDialog& dialog) {
+    return dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+}
+
 // Makes the dialog wide enough for name, size, type and date.
 void ShowColumnsWhole(QFileDialog& dialog) {
     constexpr int NameColumn = 0;
     dialog.resize(740, 460);
-    if (const auto* const list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+    if (const auto* const list = FileList(dialog)) {
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
         list->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     }
@@ -58,11 +62,14 @@ std::optional<std::string> QtFileDialog::Chosen() const {
 }
 
 // A file to open may have no extension: the default one is tried only when the name as typed does
-// not exist. A file to save always gets an extension.
+// not exist. A file to save always gets an extension: what is selected in the list would not, and
+// while the folder is loading, Qt selects even files that the filter hides.
 void QtFileDialog::accept() {
     const auto* const nameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     if (nameEdit != nullptr && nameEdit->text().contains(QLatin1Char('"')))
         return AcceptQuoted(nameEdit->text());
+    if (auto* const list = FileList(*this); list != nullptr && mRequest.Saving)
+        list->clearSelection();
     setDefaultSuffix(mRequest.Saving ? ToQt(mRequest.DefaultExt) : QString());
     const QStringList typed = selectedFiles();
     if (!typed.isEmpty() && !QFileInfo::exists(typed.constFirst())) {
