@@ -3,10 +3,12 @@
 #include "model/Board.h"
 #include "model/TakenValues.h"
 #include "platform/Platform.h"
+#include "platform/ScopedValue.h"
 
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace tessarin {
 
@@ -26,7 +28,7 @@ Fields::Fields() {
 }
 
 std::string Fields::Init(int MyDimension) {
-    const Silence silence(*this);
+    const ScopedValue<bool> silence(mbNotify, false);
     const int dimension = MyDimension == 0 ? 3 : MyDimension;
     if (dimension < 3) return "Diemsion kleiner als 3 (" + std::to_string(dimension) + ")";
     if (dimension % 2 == 0)
@@ -49,7 +51,7 @@ std::string Fields::Init(int MyDimension) {
 
 void Fields::Clear(bool FreeOnly) {
     {
-        const Silence silence(*this);
+        const ScopedValue<bool> silence(mbNotify, false);
         for (const auto& field : Items)
             if (!FreeOnly || !field->Locked()) field->Clear();
     }

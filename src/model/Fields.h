@@ -9,7 +9,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace tessarin {
 
@@ -107,7 +106,6 @@ private:
         KeyedNumbers DeadFields;
         int DeadField() const { return DeadFields.Count() > 0 ? DeadFields.Item(1) : 0; }
     };
-    class Silence;
 
     void MarkDirty();
     void UpdateStatus();
@@ -124,24 +122,10 @@ private:
     bool mbIsWinner = false;
     bool mbIsDeadEnd = false;
     bool mbDirty = false;
-    bool mbNotify = true;
+    bool mbNotify = true; // false: changes of fields raise no events
     int mlDimension = 0;
     int mlDeadField = 0;
     unsigned mlChanges = 0; // how often the status was made dirty
-};
-
-/// Suppresses the reports of field changes while it lives.
-class Fields::Silence {
-public:
-    explicit Silence(Fields& fields)
-        : mFields(fields), mbBefore(std::exchange(fields.mbNotify, false)) {}
-    Silence(const Silence&) = delete;
-    Silence& operator=(const Silence&) = delete;
-    ~Silence() { mFields.mbNotify = mbBefore; }
-
-private:
-    Fields& mFields;
-    bool mbBefore;
 };
 
 } // namespace tessarin

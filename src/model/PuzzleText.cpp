@@ -2,6 +2,7 @@
 #include "model/Field.h"
 #include "model/Fields.h"
 #include "model/TextItems.h"
+#include "platform/ScopedValue.h"
 
 namespace tessarin {
 
@@ -55,7 +56,7 @@ std::string Fields::TextCSV(bool WithEmpty) const {
 void Fields::SetTextCSV(std::string_view MyTextCSV, bool /*WithEmpty*/) {
     Init(3); // marks the status dirty for all that follows, even for a load that fails
     if (FirstLine(MyTextCSV) != HeaderCSV) return;
-    const Silence silence(*this);
+    const ScopedValue<bool> silence(mbNotify, false);
     TextItems lines(MyTextCSV, LineBreak);
     for (lines.Next(); !lines.AtEnd();)
         if (const auto line = lines.Next(); !line.empty()) LoadCSVLine(line);
@@ -83,7 +84,7 @@ void Fields::SetTextSDK(std::string_view MyTextCSV) {
     // Two lines are no rows: the header, and the empty one after the last line break.
     const int dimension = DimensionOfRows(CountItems(lines) - 2);
     if (dimension == 0 || !Init(dimension).empty()) return;
-    const Silence silence(*this);
+    const ScopedValue<bool> silence(mbNotify, false);
     lines.Next();
     for (int row = 1; !lines.AtEnd(); ++row)
         LoadSDKRow(row, lines.Next());

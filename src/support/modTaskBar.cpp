@@ -1,5 +1,6 @@
 #include "support/modTaskBar.h"
 
+#include "platform/AtScopeEnd.h"
 #include "platform/Platform.h"
 
 namespace tessarin {
@@ -9,25 +10,12 @@ constexpr int ExtendedStyle = -20;
 constexpr int ApplicationWindow = 0x40000;
 constexpr int CommandHide = 0;
 constexpr int CommandShow = 5;
-
-class UpdateLock {
-public:
-    explicit UpdateLock(Platform& platform) : mPlatform(platform) {
-        mPlatform.LockWindowUpdate(mPlatform.GetDesktopWindow());
-    }
-    UpdateLock(const UpdateLock&) = delete;
-    UpdateLock& operator=(const UpdateLock&) = delete;
-    ~UpdateLock() { mPlatform.LockWindowUpdate(0); }
-
-private:
-    Platform& mPlatform;
-};
-
 } // namespace
 
 void ShowInTaskBar(int windowHandle, bool show) {
     Platform& platform = Platform::Current();
-    const UpdateLock lock(platform);
+    platform.LockWindowUpdate(platform.GetDesktopWindow());
+    const AtScopeEnd unlock([&] { platform.LockWindowUpdate(0); });
     platform.ShowWindow(windowHandle, CommandHide);
     const int style = platform.GetWindowLongA(windowHandle, ExtendedStyle);
     platform.SetWindowLongA(windowHandle, ExtendedStyle,

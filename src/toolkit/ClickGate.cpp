@@ -1,8 +1,8 @@
 #include "toolkit/ClickGate.h"
 
+#include "platform/ScopedValue.h"
 #include "toolkit/Control.h"
 #include "toolkit/Door.h"
-#include "toolkit/ScopedValue.h"
 
 namespace tessarin {
 

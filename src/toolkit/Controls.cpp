@@ -1,8 +1,8 @@
 #include "toolkit/Controls.h"
 
+#include "platform/ScopedValue.h"
 #include "toolkit/Door.h"
 #include "toolkit/Form.h"
-#include "toolkit/ScopedValue.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "toolkit/Form.h"
 
+#include "platform/ScopedValue.h"
 #include "toolkit/Door.h"
-#include "toolkit/ScopedValue.h"
 
 #include <utility>
 

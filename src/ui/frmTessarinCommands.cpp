@@ -1,6 +1,6 @@
 // The handlers of menus, buttons and options, and those of the game's events.
+#include "platform/ScopedValue.h"
 #include "support/modKbd.h"
-#include "toolkit/ScopedValue.h"
 #include "ui/Colors.h"
 #include "ui/frmTessarin.h"
 
