@@ -47,7 +47,7 @@ TEST_F(ClicksTest, QueuedClicksAreCheckedWhenTheirTurnComes) {
             EXPECT_EQ(clicks, closes ? 2 : 0);
             window.lblWinner.SetVisible(false);
             window.lblWinner.RaiseClick();
-            if (closes) window.Unload();
+            if (closes) window.Close();
         };
         window.lblWinner.RaiseClick();
         EXPECT_EQ(std::exchange(depth, 0), 16);

@@ -46,8 +46,8 @@ TEST_F(CommandsTest, ButtonsAndTheEditMenu) {
 
 TEST_F(CommandsTest, FilesAreImportedAndExported) {
     mCommands["dialog"] = [this](int, auto&) {
-        const FileDialogRequest& shown = toolkit.Dialog;
-        Tell(shown.Title, "|", shown.Filter, "|", shown.DefaultExt, " ", shown.Saving,
+        const CommonDialog& shown = window.CommonDialog1;
+        Tell(shown.DialogTitle, "|", shown.Filter, "|", shown.DefaultExt, " ", toolkit.Saving,
              shown.FileMustExist, shown.PathMustExist);
     };
     // Both dialogs are cancelled, or answered with an empty name.

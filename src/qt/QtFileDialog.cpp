@@ -42,14 +42,14 @@ void ShowColumnsWhole(QFileDialog& dialog) {
 
 } // namespace
 
-QtFileDialog::QtFileDialog(FileDialogRequest request, QWidget* parent)
-    : QFileDialog(parent), mRequest(std::move(request)) {
+QtFileDialog::QtFileDialog(CommonDialog request, bool saving, QWidget* parent)
+    : QFileDialog(parent), mRequest(std::move(request)), mbSaving(saving) {
     setOption(QFileDialog::DontUseNativeDialog);
     setOption(QFileDialog::DontConfirmOverwrite);
-    setWindowTitle(ToQt(mRequest.Title));
+    setWindowTitle(ToQt(mRequest.DialogTitle));
     setOption(QFileDialog::HideNameFilterDetails); // the descriptions contain them already
     setNameFilters(NameFilters(mRequest.Filter));
-    setAcceptMode(mRequest.Saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    setAcceptMode(mbSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     setFileMode(mRequest.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     ShowColumnsWhole(*this);
     if (!mRequest.FileName.empty()) setDirectory(QFileInfo(ToQt(mRequest.FileName)).absolutePath());
@@ -68,9 +68,8 @@ void QtFileDialog::accept() {
     const auto* const nameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     if (nameEdit != nullptr && nameEdit->text().contains(QLatin1Char('"')))
         return AcceptQuoted(nameEdit->text());
-    if (auto* const list = FileList(*this); list != nullptr && mRequest.Saving)
-        list->clearSelection();
-    setDefaultSuffix(mRequest.Saving ? ToQt(mRequest.DefaultExt) : QString());
+    if (auto* const list = FileList(*this); list != nullptr && mbSaving) list->clearSelection();
+    setDefaultSuffix(mbSaving ? ToQt(mRequest.DefaultExt) : QString());
     const QStringList typed = selectedFiles();
     if (!typed.isEmpty() && !QFileInfo::exists(typed.constFirst())) {
         setDefaultSuffix(ToQt(mRequest.DefaultExt));
@@ -82,12 +81,12 @@ void QtFileDialog::accept() {
 // QFileDialog reads quotes as separators of several names; here they belong to one name.
 void QtFileDialog::AcceptQuoted(const QString& name) {
     QString path = directory().absoluteFilePath(name);
-    if ((mRequest.Saving || !QFileInfo::exists(path)) && QFileInfo(path).suffix().isEmpty())
+    if ((mbSaving || !QFileInfo::exists(path)) && QFileInfo(path).suffix().isEmpty())
         path += ToQt(mRequest.DefaultExt);
     const QFileInfo file(path);
     if (file.isDir()) return setDirectory(path);
     if (!HasFolder(file)) return;
-    if (!mRequest.Saving && !file.isFile())
+    if (!mbSaving && !file.isFile())
         return Warn(name + "\n" +
                     tr("File not found.\nPlease verify the correct file name was given."));
     mQuoted = path;
@@ -96,7 +95,7 @@ void QtFileDialog::AcceptQuoted(const QString& name) {
 
 bool QtFileDialog::HasFolder(const QFileInfo& file) {
     const QDir folder = file.dir();
-    if (!mRequest.Saving || !mRequest.PathMustExist || folder.exists()) return true;
+    if (!mbSaving || !mRequest.PathMustExist || folder.exists()) return true;
     Warn(folder.path() + "\n" + tr("This folder does not exist."));
     return false;
 }

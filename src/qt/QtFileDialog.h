@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Toolkit.h"
+#include "toolkit/CommonDialog.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -10,7 +10,7 @@ namespace tessarin::qt {
 /// The file dialog, the same on every desktop.
 class QtFileDialog : public QFileDialog {
 public:
-    QtFileDialog(FileDialogRequest request, QWidget* parent);
+    QtFileDialog(CommonDialog request, bool saving, QWidget* parent);
 
     /// The full path chosen when the dialog was closed; nothing when it was cancelled.
     std::optional<std::string> Chosen() const;
@@ -24,7 +24,8 @@ private:
     bool HasFolder(const QFileInfo& file);
     void Warn(const QString& text);
 
-    FileDialogRequest mRequest;
+    const CommonDialog mRequest; // a copy, as a command that runs meanwhile may change the original
+    const bool mbSaving;
     QString mQuoted; // the path chosen, if its name contains quotes
 };
 

@@ -34,13 +34,12 @@ QtForm::QtForm(Form& form, QtPlatform& platform)
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       mForm(form),
       mPlatform(platform),
-      mFrame(AssumedFrame),
-      mInside({{&form, &mClient}}) {
+      mFrame(AssumedFrame) {
     setObjectName(ToQt(form.Name()));
     setWindowTitle(ToQt(form.Caption()));
     QIcon icon;
     const QDir pictures(ResourcePath(""));
-    for (const QString& file : pictures.entryList({ToQt(form.FormProperties().Icon) + "-*.png"}))
+    for (const QString& file : pictures.entryList({ToQt(form.Properties().PictureFile) + "-*.png"}))
         icon.addFile(pictures.filePath(file));
     setWindowIcon(icon);
     mMenuBar.setNativeMenuBar(false);
@@ -63,14 +62,14 @@ void QtForm::Changed(Property property) {
 // Qt's sizes are without the window frame, whose thickness depends on the desktop.
 void QtForm::ApplySize() {
     const int menuHeight = mMenuBar.sizeHint().height();
-    const int least = menuHeight + Pixels(mForm.FormProperties().MinClientHeight);
+    const int least = menuHeight + Pixels(mForm.MinClientHeight);
     const QSize size(Pixels(mForm.Width()) - mFrame.left() - mFrame.right(),
                      std::max(Pixels(mForm.Height()) - mFrame.top() - mFrame.bottom(), least));
     setFixedSize(size);
     mMenuBar.setGeometry(0, 0, size.width(), menuHeight);
     mClient.setGeometry(0, menuHeight, size.width(), size.height() - menuHeight);
-    for (const auto& [widget, control] : mPlaced)
-        if (widget) PlaceWidget(*widget, *control);
+    for (QObject* const child : mClient.children())
+        if (auto* const peer = dynamic_cast<QtPeer*>(child)) peer->Place();
 }
 
 // Qt knows the frame only some milliseconds after the window is shown: on X11 with the first move,
@@ -82,15 +81,6 @@ void QtForm::CheckFrame(bool trustZero) {
     if (frame == mFrame || (frame.isNull() && !trustZero)) return;
     mFrame = frame;
     ApplySize();
-}
-
-void QtForm::PlaceWidget(QWidget& widget, const Control& control) {
-    const bool inClient = widget.parentWidget() == &mClient;
-    if (inClient && std::none_of(mPlaced.begin(), mPlaced.end(),
-                                 [&](const auto& placed) { return placed.first == &widget; }))
-        mPlaced.append({&widget, &control});
-    const bool beyond = inClient && widget.geometry().center().x() >= mClient.width();
-    widget.setVisible(control.Visible() && !beyond);
 }
 
 // When the control with the focus is disabled or hidden, Qt moves the focus to another control or

@@ -10,12 +10,10 @@
 #include <QWidget>
 
 #include <functional>
-#include <unordered_map>
 #include <utility>
 
 namespace tessarin::qt {
 
-class QtMenuPeer;
 class QtPlatform;
 
 /// A form's window: a fixed border, a menu bar, and below it the client area that holds all
@@ -32,6 +30,8 @@ public:
     int Handle() override { return static_cast<int>(winId()); }
 
     QMenuBar& MenuBar() { return mMenuBar; }
+    /// The parent of all controls, below the menu bar.
+    QWidget& Client() { return mClient; }
 
     QtLabelGrid& Grid() { return mGrid; }
     QRect GridOnScreen() const { return mGrid.Bounds().translated(mClient.mapToGlobal(QPoint())); }
@@ -42,19 +42,6 @@ public:
     void FocusGrid();
     /// Leaves the menu bar: the focus goes back to where it was.
     void LeaveMenuBar();
-
-    /// Makes `inside` the parent widget of the controls in `container`, a frame or a composite
-    /// control.
-    void AddContainer(const Control& container, QWidget& inside) { mInside[&container] = &inside; }
-    /// The parent widget of the controls in `container`, which may be the form itself.
-    QWidget& Inside(const Control& container) { return *mInside.at(&container); }
-    void AddMenu(const MenuItem& item, QtMenuPeer& peer) { mMenus[&item] = &peer; }
-    QtMenuPeer& Menu(const MenuItem& item) { return *mMenus.at(&item); }
-
-    /// Shows or hides a control's widget according to the control's Visible. A widget that lies
-    /// mostly beyond the right edge of the client stays hidden: with a thin window frame its edge
-    /// would show, and Tab would stop at it.
-    void PlaceWidget(QWidget& widget, const Control& control);
 
     /// Runs `change`, which may hide or disable the control with the keyboard focus. That control
     /// gets the focus back when a later change makes it usable again, unless the user has moved the
@@ -87,9 +74,6 @@ private:
     QWidget mClient{this};
     QtLabelGrid mGrid;
     QMargins mFrame; // the window frame, assumed until it is known
-    std::unordered_map<const Control*, QWidget*> mInside;
-    std::unordered_map<const Control*, QtMenuPeer*> mMenus;
-    QList<std::pair<QPointer<QWidget>, const Control*>> mPlaced; // direct children of the client
 
     QPointer<QWidget> mLostFocus;    // had the focus until it was disabled or hidden
     QPointer<QWidget> mFocusInstead; // where Qt moved the focus then

@@ -7,7 +7,7 @@
 namespace tessarin::qt {
 
 void QtFrame::paintEvent(QPaintEvent* /*event*/) {
-    const Design& look = mFrame.Properties();
+    const ControlProperties& look = mControl.Properties();
     QPainter painter(this);
     painter.fillRect(rect(), ToQt(look.BackColor));
     if (look.Border == BorderStyle::None) return;

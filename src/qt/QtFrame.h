@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Controls.h"
+#include "qt/QtPeer.h"
 
 #include <QGroupBox>
 
@@ -8,15 +8,13 @@ namespace tessarin::qt {
 
 /// Paints a frame's background and, with a border, a line around its edge that the caption
 /// interrupts. It is a QGroupBox only for screen readers.
-class QtFrame : public QGroupBox {
+class QtFrame : public QGroupBox, public QtPeer {
 public:
-    QtFrame(const Frame& frame, QWidget& parent) : QGroupBox(&parent), mFrame(frame) {}
+    QtFrame(Control& frame, QtForm& form, QWidget& parent)
+        : QGroupBox(&parent), QtPeer(frame, *this, form) {}
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    const Frame& mFrame;
 };
 
 } // namespace tessarin::qt

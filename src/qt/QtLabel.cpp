@@ -11,15 +11,19 @@
 
 namespace tessarin::qt {
 
-QtLabel::QtLabel(Label& label, QtForm& form, QWidget& parent)
-    : QLabel(&parent), mControl(label), mForm(form) {
+QtLabel::QtLabel(Control& label, QtForm& form, QWidget& parent)
+    : QLabel(&parent), QtPeer(label, *this, form) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (IsInGrid()) mForm.Grid().Add(*this);
     if (mControl.Properties().Keys == KeyStop::Own) setFocusPolicy(Qt::StrongFocus);
 }
 
+void QtLabel::MakeCurrent() {
+    mForm.MakeCurrent(*this);
+}
+
 void QtLabel::paintEvent(QPaintEvent* /*event*/) {
-    const Design& look = mControl.Properties();
+    const ControlProperties& look = mControl.Properties();
     QPainter painter(this);
     QRect inside = rect();
     // Fills one inside the other, because drawn rectangles lose lines at fractional scales.
@@ -34,8 +38,7 @@ void QtLabel::paintEvent(QPaintEvent* /*event*/) {
         ring(Qt::black, 2);
     }
     painter.fillRect(inside, ToQt(look.BackColor));
-    if (look.Caption.empty()) return; // also saves loading the font of the values at start
-    painter.setFont(ToQt(look.Font));
+    if (look.Caption.empty()) return;
     painter.setPen(TextColor(look.ForeColor, look.BackColor));
     const QString text = ToQt(look.Caption);
     if (look.Align == Alignment::Center)

@@ -1,19 +1,19 @@
 #pragma once
 
-#include "toolkit/Controls.h"
+#include "qt/QtPeer.h"
 
 #include <QLabel>
 
 namespace tessarin::qt {
 
-class QtForm;
-
 /// Paints a label from its control's properties (background, border and text) and reports clicks of
 /// the mouse and, if the Tab key stops at it, of the keyboard. In the form's grid of labels the
 /// arrow keys click the label that they lead to.
-class QtLabel : public QLabel {
+class QtLabel : public QLabel, public QtPeer, public LabelPeer {
 public:
-    QtLabel(Label& label, QtForm& form, QWidget& parent);
+    QtLabel(Control& label, QtForm& form, QWidget& parent);
+
+    void MakeCurrent() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -28,8 +28,6 @@ protected:
 private:
     bool IsInGrid() const { return mControl.Properties().Keys == KeyStop::Grid; }
 
-    Label& mControl;
-    QtForm& mForm;
     bool mbPressed = false;
 };
 

@@ -20,8 +20,8 @@ int Pixels(float twips) {
     return qRound(twips / 15);
 }
 
-QRect PixelRect(const Design& design) {
-    return {Pixels(design.Left), Pixels(design.Top), Pixels(design.Width), Pixels(design.Height)};
+QRect PixelRect(const ControlProperties& place) {
+    return {Pixels(place.Left), Pixels(place.Top), Pixels(place.Width), Pixels(place.Height)};
 }
 
 QColor ToQt(Color color) {

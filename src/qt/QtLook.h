@@ -12,7 +12,7 @@ namespace tessarin::qt {
 
 /// 15 twips are one of Qt's logical pixels, at every scale.
 int Pixels(float twips);
-QRect PixelRect(const Design& design);
+QRect PixelRect(const ControlProperties& place);
 
 /// Looks system colours up in the application's present palette.
 QColor ToQt(Color color);

@@ -29,22 +29,14 @@ private:
 
 } // namespace
 
-QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form, Unplaced /*tag*/)
-    : mItem(item), mForm(form), mAction(&form) {
-    mForm.AddMenu(item, *this);
+QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form) : mItem(item), mForm(form), mAction(&form) {
     mAction.setObjectName(ToQt(item.Name()));
     mAction.setSeparator(item.Caption() == "-");
     if (!mAction.isSeparator()) mAction.setText(Plain(item.Caption()));
     QObject::connect(&mAction, &QAction::triggered, [&item] { item.RaiseClick(); });
-}
-
-QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form) : QtMenuPeer(item, form, Unplaced()) {
-    mForm.MenuBar().addAction(&mAction);
-}
-
-QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form, QtMenuPeer& parent)
-    : QtMenuPeer(item, form, Unplaced()) {
-    parent.Menu().addAction(&mAction);
+    auto* const parent = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
+    QWidget& bar = mForm.MenuBar();
+    (parent != nullptr ? parent->Menu() : bar).addAction(&mAction);
 }
 
 QMenu& QtMenuPeer::Menu() {

@@ -11,20 +11,15 @@ namespace tessarin::qt {
 
 class QtForm;
 
-/// The peer of a menu entry: an action, with a menu as soon as that gets entries.
+/// The peer of a menu entry: an action of the menu bar or of the menu that contains it, with a menu
+/// of its own as soon as that gets entries.
 class QtMenuPeer : public ControlPeer {
 public:
-    /// An entry of the form's menu bar.
     QtMenuPeer(MenuItem& item, QtForm& form);
-    /// An entry of the menu of `parent`.
-    QtMenuPeer(MenuItem& item, QtForm& form, QtMenuPeer& parent);
 
     void Changed(Property property) override;
 
 private:
-    struct Unplaced {};
-    QtMenuPeer(MenuItem& item, QtForm& form, Unplaced tag);
-
     QMenu& Menu();
 
     const MenuItem& mItem;

@@ -5,18 +5,21 @@
 
 namespace tessarin::qt {
 
-QtPeer::QtPeer(const Control& control, QWidget& widget, QtForm& form)
-    : mControl(control), mWidget(widget), mForm(form) {
+QtPeer::QtPeer(Control& control, QWidget& widget, QtForm& form)
+    : mControl(control), mForm(form), mWidget(widget) {
     mWidget.setObjectName(ToQt(control.Name()));
-    mWidget.setGeometry(PixelRect(control.Properties()));
     mWidget.setFont(ToQt(control.Font()));
     mWidget.setToolTip(ToQt(control.Properties().ToolTipText));
-    mWidget.setAccessibleName(ToQt(control.AccessibleName()));
-    mForm.PlaceWidget(mWidget, control);
+    SetAccessibleName();
+    Place();
 }
 
-void QtPeer::SetFont() {
-    mWidget.setFont(ToQt(mControl.Font()));
+void QtPeer::Place() {
+    const ControlProperties& look = mControl.Properties();
+    mWidget.setGeometry(PixelRect(look));
+    const bool inClient = mWidget.parentWidget() == &mForm.Client();
+    const bool beyond = inClient && mWidget.geometry().center().x() >= mForm.Client().width();
+    mWidget.setVisible(look.Visible && !beyond);
 }
 
 // Qt notifies screen readers even when the name is unchanged.
@@ -28,13 +31,11 @@ void QtPeer::SetAccessibleName() {
 void QtPeer::Changed(Property property) {
     switch (property) {
     case Property::Bounds:
-        mWidget.setGeometry(PixelRect(mControl.Properties()));
-        mForm.PlaceWidget(mWidget, mControl);
+        Place();
         break;
     case Property::Caption:
-        SetCaption();
+        ShowCaption();
         SetAccessibleName();
-        LookChanged();
         break;
     case Property::AccessibleName:
         SetAccessibleName();
@@ -44,16 +45,19 @@ void QtPeer::Changed(Property property) {
         SetAccessibleName();
         break;
     case Property::Font:
-        SetFont();
+        mWidget.setFont(ToQt(mControl.Font()));
+        break;
+    case Property::Look:
+        mWidget.update();
         break;
     case Property::Visible:
-        mForm.KeepFocus([this] { mForm.PlaceWidget(mWidget, mControl); });
+        mForm.KeepFocus([this] { Place(); });
         break;
     case Property::Enabled:
         mForm.KeepFocus([this] { mWidget.setEnabled(mControl.Enabled()); });
         break;
-    default:
-        LookChanged();
+    case Property::Interval: // of timers alone
+        break;
     }
 }
 

@@ -8,26 +8,31 @@ namespace tessarin::qt {
 
 class QtForm;
 
-/// The peer of a control that is a widget of its own.
-class QtPeer : public ControlPeer {
+/// The widget's side of a control: every widget of a control inherits it beside its Qt class.
+class QtPeer : public virtual ControlPeer {
 public:
     void Changed(Property property) override;
 
-protected:
-    /// Gives `widget` the design of `control`.
-    QtPeer(const Control& control, QWidget& widget, QtForm& form);
+    /// The parent of the widgets inside this one.
+    QWidget& Inside() { return mWidget; }
+    /// Moves the widget, and shows or hides it according to the control's Visible. Directly in the
+    /// client, a widget that lies mostly beyond its right edge stays hidden: with a thin window
+    /// frame its edge would show, and Tab would stop at it.
+    void Place();
 
-    virtual void SetCaption() {}
-    virtual void SetFont();
-    /// Repaints what the widget paints itself.
-    virtual void LookChanged() { mWidget.update(); }
+protected:
+    /// Gives `widget`, which is this object, the properties of `control`.
+    QtPeer(Control& control, QWidget& widget, QtForm& form);
+
+    virtual void ShowCaption() { mWidget.update(); }
+
+    Control& mControl;
+    QtForm& mForm;
 
 private:
     void SetAccessibleName();
 
-    const Control& mControl;
     QWidget& mWidget;
-    QtForm& mForm;
 };
 
 } // namespace tessarin::qt

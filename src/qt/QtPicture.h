@@ -1,25 +1,26 @@
 #pragma once
 
-#include "toolkit/Controls.h"
+#include "qt/QtLook.h"
+#include "qt/QtPeer.h"
 
+#include <QPainter>
 #include <QPixmap>
-#include <QWidget>
 
 namespace tessarin::qt {
 
 /// Shows one of the program's pictures. Its file is read when it is first painted.
-class QtPicture : public QWidget {
+class QtPicture : public QWidget, public QtPeer {
 public:
-    QtPicture(const Picture& picture, QWidget& parent) : QWidget(&parent), mPicture(picture) {}
-
-    /// The picture has another file.
-    void FileChanged();
+    QtPicture(Control& picture, QtForm& form, QWidget& parent)
+        : QWidget(&parent), QtPeer(picture, *this, form) {}
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void paintEvent(QPaintEvent* /*event*/) override {
+        if (mPixmap.isNull()) mPixmap.load(ResourcePath(mControl.Properties().PictureFile));
+        QPainter(this).drawPixmap(rect(), mPixmap);
+    }
 
 private:
-    const Picture& mPicture;
     QPixmap mPixmap;
 };
 

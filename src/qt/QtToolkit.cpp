@@ -6,7 +6,6 @@
 #include "qt/QtLabel.h"
 #include "qt/QtLook.h"
 #include "qt/QtMenuPeer.h"
-#include "qt/QtPeer.h"
 #include "qt/QtPicture.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtTimerPeer.h"
@@ -14,162 +13,93 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include <utility>
-
 namespace tessarin::qt {
 
 namespace {
 
-// Holds the widget of a peer. It is a base class so that the widget exists before the QtPeer does.
-template <class Widget>
-struct Holder {
-    template <class... Args>
-    explicit Holder(Args&&... args) : Own(std::forward<Args>(args)...) {}
-
-    Widget Own;
-};
-
-class LabelPeer : Holder<QtLabel>, public QtPeer {
+template <class Button>
+class QtButton : public Button, public QtPeer {
 public:
-    LabelPeer(Label& label, QtForm& form, QWidget& parent)
-        : Holder(label, form, parent), QtPeer(label, Own, form), mForm(form) {}
-
-    void Changed(Property property) override {
-        if (property == Property::Current)
-            mForm.MakeCurrent(Own);
-        else
-            QtPeer::Changed(property);
+    QtButton(Control& control, QtForm& form, QWidget& parent)
+        : Button(&parent), QtPeer(control, *this, form) {
+        QtButton::ShowCaption();
+        // "clicked" is emitted for every click, even on an option that is selected already.
+        QObject::connect(this, &QAbstractButton::clicked, [&control] { control.RaiseClick(); });
     }
 
 protected:
-    // The label paints itself with the font of its control.
-    void SetFont() override { LookChanged(); }
-
-private:
-    QtForm& mForm;
+    void ShowCaption() override { this->setText(Plain(mControl.Caption())); }
 };
 
-// Can be clicked in its whole rectangle, not only on circle and text.
-class RadioButton : public QRadioButton {
+class QtOption : public QtButton<QRadioButton>, public OptionPeer {
 public:
-    using QRadioButton::QRadioButton;
+    using QtButton::QtButton;
+    void Select() override { setChecked(true); }
 
 protected:
+    // Can be clicked in its whole rectangle, not only on circle and text.
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 };
 
-template <class Button>
-class ButtonPeer : Holder<Button>, public QtPeer {
+class QtComposite : public QWidget, public QtPeer {
 public:
-    ButtonPeer(Control& control, QtForm& form, QWidget& parent)
-        : Holder<Button>(&parent), QtPeer(control, this->Own, form), mControl(control) {
-        ButtonPeer::SetCaption();
-        // "clicked" is emitted for every click, even on an option that is selected already.
-        QObject::connect(&this->Own, &QAbstractButton::clicked,
-                         [&control] { control.RaiseClick(); });
-    }
-
-    void Changed(Property property) override {
-        if (property == Property::Selected)
-            this->Own.setChecked(true);
-        else
-            QtPeer::Changed(property);
-    }
-
-    Button& Widget() { return this->Own; }
-
-protected:
-    void SetCaption() override { this->Own.setText(Plain(mControl.Caption())); }
-
-private:
-    const Control& mControl;
+    QtComposite(Control& control, QtForm& form, QWidget& parent)
+        : QWidget(&parent), QtPeer(control, *this, form) {}
 };
-
-class FramePeer : Holder<QtFrame>, public QtPeer {
-public:
-    FramePeer(const Frame& frame, QtForm& form, QWidget& parent)
-        : Holder(frame, parent), QtPeer(frame, Own, form) {
-        form.AddContainer(frame, Own);
-    }
-};
-
-class CompositePeer : Holder<QWidget>, public QtPeer {
-public:
-    CompositePeer(const UserControl& control, QtForm& form, QWidget& parent)
-        : Holder(&parent), QtPeer(control, Own, form) {
-        form.AddContainer(control, Own);
-    }
-};
-
-class PicturePeer : Holder<QtPicture>, public QtPeer {
-public:
-    PicturePeer(const Picture& picture, QtForm& form, QWidget& parent)
-        : Holder(picture, parent), QtPeer(picture, Own, form) {}
-
-    void Changed(Property property) override {
-        if (property == Property::PictureFile)
-            Own.FileChanged();
-        else
-            QtPeer::Changed(property);
-    }
-};
-
-template <class Peer, class Kind>
-std::unique_ptr<Peer> Make(Kind& control, const Control& container, QtPlatform& platform) {
-    QtForm& form = platform.CurrentForm();
-    return std::make_unique<Peer>(control, form, form.Inside(container));
-}
 
 } // namespace
+
+template <class Widget>
+std::unique_ptr<Widget> QtToolkit::Make(Control& control) {
+    QtForm& form = mPlatform.CurrentForm();
+    auto* const container = dynamic_cast<QtPeer*>(&control.Container()->Peer());
+    return std::make_unique<Widget>(control, form,
+                                    container != nullptr ? container->Inside() : form.Client());
+}
 
 std::unique_ptr<FormPeer> QtToolkit::Create(Form& form) {
     return std::make_unique<QtForm>(form, mPlatform);
 }
 
-std::unique_ptr<ControlPeer> QtToolkit::Create(Label& label, Control& container) {
-    return Make<LabelPeer>(label, container, mPlatform);
+std::unique_ptr<LabelPeer> QtToolkit::Create(Label& label) {
+    return Make<QtLabel>(label);
 }
 
-std::unique_ptr<ControlPeer> QtToolkit::Create(CommandButton& button, Control& container) {
-    auto peer = Make<ButtonPeer<QPushButton>>(button, container, mPlatform);
-    peer->Widget().setAutoDefault(true); // Enter presses it as Space does
+std::unique_ptr<ControlPeer> QtToolkit::Create(CommandButton& button) {
+    auto peer = Make<QtButton<QPushButton>>(button);
+    peer->setAutoDefault(true); // Enter presses it as Space does
     return peer;
 }
 
-std::unique_ptr<ControlPeer> QtToolkit::Create(OptionButton& option, Control& container) {
-    return Make<ButtonPeer<RadioButton>>(option, container, mPlatform);
+std::unique_ptr<OptionPeer> QtToolkit::Create(OptionButton& option) {
+    return Make<QtOption>(option);
 }
 
-std::unique_ptr<ControlPeer> QtToolkit::Create(Frame& frame, Control& container) {
-    return Make<FramePeer>(frame, container, mPlatform);
+std::unique_ptr<ControlPeer> QtToolkit::Create(Frame& frame) {
+    return Make<QtFrame>(frame);
 }
 
-std::unique_ptr<ControlPeer> QtToolkit::Create(UserControl& control, Control& container) {
-    return Make<CompositePeer>(control, container, mPlatform);
+std::unique_ptr<ControlPeer> QtToolkit::Create(UserControl& control) {
+    return Make<QtComposite>(control);
 }
 
-std::unique_ptr<ControlPeer> QtToolkit::Create(Picture& picture, Control& container) {
-    return Make<PicturePeer>(picture, container, mPlatform);
+std::unique_ptr<ControlPeer> QtToolkit::Create(Picture& picture) {
+    return Make<QtPicture>(picture);
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(Timer& timer) {
     return std::make_unique<QtTimerPeer>(timer, mPlatform);
 }
 
-std::unique_ptr<ControlPeer> QtToolkit::Create(MenuItem& item, Form& /*form*/) {
+std::unique_ptr<ControlPeer> QtToolkit::Create(MenuItem& item) {
     return std::make_unique<QtMenuPeer>(item, mPlatform.CurrentForm());
 }
 
-std::unique_ptr<ControlPeer> QtToolkit::Create(MenuItem& item, MenuItem& menu) {
-    QtForm& form = mPlatform.CurrentForm();
-    return std::make_unique<QtMenuPeer>(item, form, form.Menu(menu));
-}
-
-std::optional<std::string> QtToolkit::RunFileDialog(const FileDialogRequest& request) {
+std::optional<std::string> QtToolkit::RunFileDialog(const CommonDialog& dialog, bool saving) {
     if (mPlatform.Closed()) return std::nullopt;
-    QtFileDialog dialog(request, &mPlatform.CurrentForm());
-    mPlatform.RunModal(dialog);
-    return dialog.Chosen();
+    QtFileDialog window(dialog, saving, &mPlatform.CurrentForm());
+    mPlatform.RunModal(window);
+    return window.Chosen();
 }
 
 } // namespace tessarin::qt

@@ -12,18 +12,20 @@ public:
     explicit QtToolkit(QtPlatform& platform) : mPlatform(platform) {}
 
     std::unique_ptr<FormPeer> Create(Form& form) override;
-    std::unique_ptr<ControlPeer> Create(Label& label, Control& container) override;
-    std::unique_ptr<ControlPeer> Create(CommandButton& button, Control& container) override;
-    std::unique_ptr<ControlPeer> Create(OptionButton& option, Control& container) override;
-    std::unique_ptr<ControlPeer> Create(Frame& frame, Control& container) override;
-    std::unique_ptr<ControlPeer> Create(UserControl& control, Control& container) override;
-    std::unique_ptr<ControlPeer> Create(Picture& picture, Control& container) override;
+    std::unique_ptr<LabelPeer> Create(Label& label) override;
+    std::unique_ptr<ControlPeer> Create(CommandButton& button) override;
+    std::unique_ptr<OptionPeer> Create(OptionButton& option) override;
+    std::unique_ptr<ControlPeer> Create(Frame& frame) override;
+    std::unique_ptr<ControlPeer> Create(UserControl& control) override;
+    std::unique_ptr<ControlPeer> Create(Picture& picture) override;
     std::unique_ptr<ControlPeer> Create(Timer& timer) override;
-    std::unique_ptr<ControlPeer> Create(MenuItem& item, Form& form) override;
-    std::unique_ptr<ControlPeer> Create(MenuItem& item, MenuItem& menu) override;
-    std::optional<std::string> RunFileDialog(const FileDialogRequest& request) override;
+    std::unique_ptr<ControlPeer> Create(MenuItem& item) override;
+    std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool saving) override;
 
 private:
+    template <class Widget>
+    std::unique_ptr<Widget> Make(Control& control);
+
     QtPlatform& mPlatform;
 };
 

@@ -2,13 +2,13 @@
 
 #include "platform/ScopedValue.h"
 #include "toolkit/Control.h"
-#include "toolkit/Door.h"
+#include "toolkit/RunAndReportErrors.h"
 
 namespace tessarin {
 
 void ClickGate::Raise(Control& control) {
     if (mbClosed) return;
-    if (!control.Waits()) return Run(control);
+    if (!control.ClicksMayWait()) return Run(control);
     mWaiting.push_back(&control);
     while (!mWaiting.empty() && mlDepth < MaxDepth) {
         const Control& next = *mWaiting.front();
@@ -19,7 +19,7 @@ void ClickGate::Raise(Control& control) {
 }
 
 void ClickGate::Run(const Control& control) {
-    if (control.Click && control.Reachable()) Enter(control.Click);
+    if (control.Click && control.Reachable()) RunAndReportErrors(control.Click);
 }
 
 void ClickGate::Close() {

@@ -3,13 +3,7 @@
 namespace tessarin {
 
 bool CommonDialog::Show(bool saving) {
-    const auto chosen = mToolkit.RunFileDialog({.Title = DialogTitle,
-                                                .Filter = Filter,
-                                                .DefaultExt = DefaultExt,
-                                                .Saving = saving,
-                                                .FileMustExist = FileMustExist,
-                                                .PathMustExist = PathMustExist,
-                                                .FileName = FileName});
+    const auto chosen = mToolkit.RunFileDialog(*this, saving);
     if (chosen) FileName = *chosen;
     return chosen.has_value();
 }

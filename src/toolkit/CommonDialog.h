@@ -19,7 +19,8 @@ public:
     std::string DefaultExt;
     bool FileMustExist = false;
     bool PathMustExist = false;
-    /// The full path chosen last; a cancelled dialog leaves it as it is.
+    /// The full path chosen last, in whose folder the dialog opens; a cancelled dialog leaves it as
+    /// it is.
     std::string FileName;
 
     /// Both return whether a file was chosen; false means cancelled.

@@ -6,14 +6,14 @@
 
 namespace tessarin {
 
-Control::Control(Toolkit& toolkit, Form& form, Design design)
-    : mToolkit(toolkit), mForm(form), mContainer(nullptr), mProperties(std::move(design)) {}
+Control::Control(Toolkit& toolkit, Form& form, ControlProperties properties)
+    : mToolkit(toolkit), mForm(form), mContainer(nullptr), mProperties(std::move(properties)) {}
 
-Control::Control(Control& container, Design design)
+Control::Control(Control& container, ControlProperties properties)
     : mToolkit(container.mToolkit),
       mForm(container.mForm),
       mContainer(&container),
-      mProperties(std::move(design)) {}
+      mProperties(std::move(properties)) {}
 
 Control::~Control() = default;
 

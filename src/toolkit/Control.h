@@ -27,9 +27,9 @@ enum class Alignment { Left, Center };
 /// grid, at the current one alone, from which the arrow keys move on.
 enum class KeyStop { None, Own, Grid };
 
-/// The design of a control. Positions are in twips (1440 to the inch), relative to the inside of
-/// the container.
-struct Design {
+/// What is set on a control, first by its design. Positions are in twips (1440 to the inch),
+/// relative to the inside of the container.
+struct ControlProperties {
     std::string Name = {};
     std::string Caption = {};
     std::string ToolTipText = {};
@@ -46,6 +46,9 @@ struct Design {
     FontStyle Font = {};
     Color BackColor = SystemColor(15);
     Color ForeColor = SystemColor(18);
+    /// A file among the program's pictures: of a picture, or of a form's icon, without the
+    /// "-size.png" of its files.
+    std::string PictureFile = {};
 };
 
 /// One control of a window. It keeps its properties and tells the toolkit only of those that really
@@ -60,7 +63,7 @@ public:
     std::function<void()> Click;
 
     const std::string& Name() const { return mProperties.Name; }
-    const Design& Properties() const { return mProperties; }
+    const ControlProperties& Properties() const { return mProperties; }
 
     float Left() const { return mProperties.Left; }
     float Top() const { return mProperties.Top; }
@@ -96,34 +99,39 @@ public:
     const FontStyle& Font() const { return mProperties.Font; }
     void SetFont(const FontStyle& font) { Assign(mProperties.Font, font, Property::Font); }
     Color BackColor() const { return mProperties.BackColor; }
-    void SetBackColor(Color color) { Assign(mProperties.BackColor, color, Property::Colors); }
+    void SetBackColor(Color color) { Assign(mProperties.BackColor, color, Property::Look); }
     Color ForeColor() const { return mProperties.ForeColor; }
-    void SetForeColor(Color color) { Assign(mProperties.ForeColor, color, Property::Colors); }
-    void SetBorderStyle(BorderStyle style) {
-        Assign(mProperties.Border, style, Property::BorderStyle);
-    }
+    void SetForeColor(Color color) { Assign(mProperties.ForeColor, color, Property::Look); }
+    void SetBorderStyle(BorderStyle style) { Assign(mProperties.Border, style, Property::Look); }
 
-    void SetAlignment(Alignment alignment) {
-        Assign(mProperties.Align, alignment, Property::Alignment);
-    }
+    void SetAlignment(Alignment alignment) { Assign(mProperties.Align, alignment, Property::Look); }
 
     /// The control around this one; nullptr for a form.
     Control* Container() const { return mContainer; }
 
-    /// Whether the gate may queue a click on this control.
-    virtual bool Waits() const { return true; }
+    /// The toolkit's side of the control.
+    ControlPeer& Peer() const { return *mPeer; }
+
+    /// Whether clicks on this control may wait in the gate's queue.
+    virtual bool ClicksMayWait() const { return true; }
 
     /// For the toolkit: the user has clicked the control.
     void RaiseClick();
 
 protected:
     /// For a form.
-    Control(Toolkit& toolkit, Form& form, Design design);
-    Control(Control& container, Design design);
+    Control(Toolkit& toolkit, Form& form, ControlProperties properties);
+    Control(Control& container, ControlProperties properties);
 
-    Toolkit& Kit() { return mToolkit; }
-    /// To be called in the constructor of every kind of control.
-    void Attach(std::unique_ptr<ControlPeer> peer) { mPeer = std::move(peer); }
+    /// Lets the toolkit create the peer of `self`, which is this control. To be called in the
+    /// constructor of every kind of control.
+    template <class T>
+    auto& CreatePeer(T& self) {
+        auto peer = mToolkit.Create(self);
+        auto& created = *peer;
+        mPeer = std::move(peer);
+        return created;
+    }
 
     /// Called when the width or height has changed.
     virtual void Resized() {}
@@ -132,15 +140,14 @@ protected:
     void Assign(T& member, const T& value, Property property) {
         if (member == value) return;
         member = value;
-        Notify(property);
+        mPeer->Changed(property);
     }
-    void Notify(Property property) { mPeer->Changed(property); }
 
 private:
     Toolkit& mToolkit;
     Form& mForm;
     Control* mContainer;
-    Design mProperties;
+    ControlProperties mProperties;
     std::string mAccessibleName;
     bool mbEnabled = true;
     std::unique_ptr<ControlPeer> mPeer;

@@ -15,9 +15,10 @@ namespace tessarin {
 template <class T>
 class ControlArray {
 public:
-    /// Creates member 0 with `design`.
-    ControlArray(Control& container, Design design) : mContainer(container), msName(design.Name) {
-        Add(0, std::move(design));
+    /// Creates member 0 with `properties`.
+    ControlArray(Control& container, ControlProperties properties)
+        : mContainer(container), msName(properties.Name) {
+        Add(0, std::move(properties));
     }
     ControlArray(const ControlArray&) = delete; // the members' clicks refer to it
     ControlArray& operator=(const ControlArray&) = delete;
@@ -29,16 +30,16 @@ public:
 
     /// Creates member `index`, hidden, with the properties of member 0.
     T& Load(int index) {
-        Design design = mMembers.at(0)->Properties();
-        design.Visible = false;
-        return Add(index, std::move(design));
+        ControlProperties properties = mMembers.at(0)->Properties();
+        properties.Visible = false;
+        return Add(index, std::move(properties));
     }
 
-    /// Creates member `index` with `design`.
-    T& Add(int index, Design design) {
-        design.Name = msName + "(" + std::to_string(index) + ")";
+    /// Creates member `index` with `properties`.
+    T& Add(int index, ControlProperties properties) {
+        properties.Name = msName + "(" + std::to_string(index) + ")";
         auto& member = mMembers[index];
-        member = std::make_unique<T>(mContainer, std::move(design));
+        member = std::make_unique<T>(mContainer, std::move(properties));
         member->Click = [this, index] {
             if (Click) Click(index);
         };

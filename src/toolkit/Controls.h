@@ -4,23 +4,39 @@
 #include "toolkit/Control.h"
 
 #include <functional>
-#include <string>
+#include <utility>
 
 namespace tessarin {
+
+/// A control with nothing but what all controls have.
+///
+/// Frame: holds other controls; disabling it disables all of them. A border has the caption in its
+/// upper line.
+/// MenuItem: an entry of the menu bar (in the form) or of a menu (in another item). With entries of
+/// its own it is a menu; with the caption "-" a separator line.
+/// Picture: shows one of the pictures that the program carries.
+/// UserControl: is made of other controls. It may correct its size in Resized.
+template <Kind>
+class PlainControl : public Control {
+public:
+    PlainControl(Control& container, ControlProperties properties)
+        : Control(container, std::move(properties)) {
+        CreatePeer(*this);
+    }
+};
 
 /// A text, or a coloured field with a text in it.
 class Label : public Control {
 public:
-    Label(Control& container, Design design);
+    Label(Control& container, ControlProperties properties)
+        : Control(container, std::move(properties)), mLabelPeer(CreatePeer(*this)) {}
 
     /// Lets the arrow keys move on from this label of the grid. If the focus is in the grid, it
     /// moves here.
-    void MakeCurrent() { Notify(Property::Current); }
-};
+    void MakeCurrent() { mLabelPeer.MakeCurrent(); }
 
-class CommandButton : public Control {
-public:
-    CommandButton(Control& container, Design design);
+private:
+    LabelPeer& mLabelPeer;
 };
 
 /// One of several options in the same container, of which one is selected. Every click runs Click,
@@ -28,53 +44,23 @@ public:
 /// gate let it pass at once, so that the choice takes effect as soon as it is seen.
 class OptionButton : public Control {
 public:
-    OptionButton(Control& container, Design design);
+    OptionButton(Control& container, ControlProperties properties)
+        : Control(container, std::move(properties)), mOptionPeer(CreatePeer(*this)) {}
 
     /// Selects the option and runs its Click at once, as a click of the user does.
     void Select();
 
-    bool Waits() const override { return false; }
-};
-
-/// Holds other controls; disabling it disables all of them. BorderStyle adds a border with the
-/// caption in its upper line.
-class Frame : public Control {
-public:
-    Frame(Control& container, Design design);
-};
-
-/// A control made of other controls. It may correct its size in Resized.
-class UserControl : public Control {
-public:
-    UserControl(Control& container, Design design);
-};
-
-/// Shows one of the pictures that the program carries.
-class Picture : public Control {
-public:
-    Picture(Control& container, Design design);
-
-    /// The file's name among the program's pictures.
-    const std::string& File() const { return msFile; }
-    void SetFile(const std::string& file) { Assign(msFile, file, Property::PictureFile); }
+    bool ClicksMayWait() const override { return false; }
 
 private:
-    std::string msFile;
-};
-
-/// An entry of the menu bar (in the form) or of a menu (in another item). With entries of its own
-/// it is a menu; with the caption "-" a separator line.
-class MenuItem : public Control {
-public:
-    MenuItem(Form& form, Design design);
-    MenuItem(MenuItem& menu, Design design);
+    OptionPeer& mOptionPeer;
 };
 
 /// While enabled, runs Tick every Interval milliseconds as part of the window events. Starts
 /// disabled.
 class Timer : public Control {
 public:
-    Timer(Control& container, Design design);
+    Timer(Control& container, ControlProperties properties);
 
     std::function<void()> Tick;
 

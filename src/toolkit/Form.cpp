@@ -1,28 +1,26 @@
 #include "toolkit/Form.h"
 
 #include "platform/ScopedValue.h"
-#include "toolkit/Door.h"
+#include "toolkit/RunAndReportErrors.h"
 
 #include <utility>
 
 namespace tessarin {
 
-Form::Form(Toolkit& toolkit, Design design, FormDesign formDesign)
-    : Control(toolkit, *this, std::move(design)), mFormProperties(std::move(formDesign)) {
-    auto peer = toolkit.Create(*this);
-    mFormPeer = peer.get();
-    Attach(std::move(peer));
-}
+Form::Form(Toolkit& toolkit, ControlProperties properties, float minClientHeight)
+    : Control(toolkit, *this, std::move(properties)),
+      MinClientHeight(minClientHeight),
+      mFormPeer(CreatePeer(*this)) {}
 
 void Form::RaiseActivate() {
-    if (mbActivating) return;
+    if (mbActivating || !Activate) return;
     const ScopedValue<bool> activating(mbActivating, true);
-    Enter([this] { Form_Activate(); });
+    RunAndReportErrors(Activate);
 }
 
 bool Form::RaiseUnload() {
     bool cancel = false;
-    Enter([&] { Form_Unload(cancel); });
+    if (Unload) RunAndReportErrors([&] { Unload(cancel); });
     if (!cancel) Gate.Close();
     return !cancel;
 }

@@ -7,16 +7,22 @@
 
 namespace tessarin {
 
-class CommandButton;
+class CommonDialog;
 class Control;
 class Form;
-class Frame;
 class Label;
-class MenuItem;
 class OptionButton;
-class Picture;
 class Timer;
-class UserControl;
+
+/// The kinds of control that need no class of their own.
+enum class Kind { CommandButton, Frame, MenuItem, Picture, UserControl };
+template <Kind>
+class PlainControl;
+using CommandButton = PlainControl<Kind::CommandButton>;
+using Frame = PlainControl<Kind::Frame>;
+using MenuItem = PlainControl<Kind::MenuItem>;
+using Picture = PlainControl<Kind::Picture>;
+using UserControl = PlainControl<Kind::UserControl>;
 
 /// The properties of a control whose changes a toolkit is told.
 enum class Property {
@@ -25,14 +31,9 @@ enum class Property {
     ToolTipText,
     AccessibleName,
     Font,
-    Colors,
-    BorderStyle,
-    Alignment,
+    Look, ///< colours, border and alignment
     Visible,
     Enabled,
-    Selected,
-    Current,
-    PictureFile,
     Interval,
 };
 
@@ -45,7 +46,7 @@ public:
 };
 
 /// The toolkit's side of a form.
-class FormPeer : public ControlPeer {
+class FormPeer : public virtual ControlPeer {
 public:
     /// Asks the window to close, as its close box does.
     virtual void Close() = 0;
@@ -53,39 +54,39 @@ public:
     virtual int Handle() = 0;
 };
 
-/// The properties of a file dialog that is to be shown.
-struct FileDialogRequest {
-    std::string Title;
-    std::string Filter; ///< pairs of description and pattern, separated by "|"
-    std::string DefaultExt;
-    bool Saving = false;
-    bool FileMustExist = false;
-    bool PathMustExist = false;
-    std::string FileName; ///< the file chosen last; the dialog opens in its folder
+/// The toolkit's side of a label.
+class LabelPeer : public virtual ControlPeer {
+public:
+    /// Lets the arrow keys move on from this label of the form's grid.
+    virtual void MakeCurrent() = 0;
+};
+
+/// The toolkit's side of an option button.
+class OptionPeer : public virtual ControlPeer {
+public:
+    /// Shows the option as the selected one of its container.
+    virtual void Select() = 0;
 };
 
 /// Creates the peers of controls. Each control asks for its peer in its constructor, when its
-/// design is set already; the peer applies the design. `container` is the form, frame or composite
-/// control around the control.
+/// properties are set already; the peer applies them. The control's container has its peer by then.
 class Toolkit {
 public:
     virtual ~Toolkit() = default;
 
     virtual std::unique_ptr<FormPeer> Create(Form& form) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(Label& label, Control& container) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(CommandButton& button, Control& container) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(OptionButton& option, Control& container) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(Frame& frame, Control& container) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(UserControl& control, Control& container) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(Picture& picture, Control& container) = 0;
+    virtual std::unique_ptr<LabelPeer> Create(Label& label) = 0;
+    virtual std::unique_ptr<ControlPeer> Create(CommandButton& button) = 0;
+    virtual std::unique_ptr<OptionPeer> Create(OptionButton& option) = 0;
+    virtual std::unique_ptr<ControlPeer> Create(Frame& frame) = 0;
+    virtual std::unique_ptr<ControlPeer> Create(UserControl& control) = 0;
+    virtual std::unique_ptr<ControlPeer> Create(Picture& picture) = 0;
     virtual std::unique_ptr<ControlPeer> Create(Timer& timer) = 0;
-    /// An entry of the menu bar.
-    virtual std::unique_ptr<ControlPeer> Create(MenuItem& item, Form& form) = 0;
-    /// An entry of a menu; the first one makes `menu` a menu.
-    virtual std::unique_ptr<ControlPeer> Create(MenuItem& item, MenuItem& menu) = 0;
+    /// An entry of the menu bar, if its container is the form, or of the menu that contains it.
+    virtual std::unique_ptr<ControlPeer> Create(MenuItem& item) = 0;
 
     /// Runs the dialog until it is closed. Returns the full path chosen, or nothing when cancelled.
-    virtual std::optional<std::string> RunFileDialog(const FileDialogRequest& request) = 0;
+    virtual std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool saving) = 0;
 };
 
 } // namespace tessarin

@@ -13,7 +13,7 @@ constexpr float SpaceForGrid = 6150;
 // Thirteen lines of this size fit into the information panel.
 const FontStyle PlainFont{.Size = 7.5F};
 
-Design ChillOption(const char* caption, const char* toolTip, float left, float top) {
+ControlProperties ChillOption(const char* caption, const char* toolTip, float left, float top) {
     return {.Name = "optChill",
             .Caption = caption,
             .ToolTipText = toolTip,
@@ -28,8 +28,8 @@ Design ChillOption(const char* caption, const char* toolTip, float left, float t
 
 // clang-format off
 frmTessarin::frmTessarin(Toolkit& toolkit)
-    : Form(toolkit, {.Name = "frmTessarin", .Caption = "Velmora Sudoku Solver", .Visible = false},
-           {.Icon = "tessarin", .MinClientHeight = SpaceForGrid}),
+    : Form(toolkit, {.Name = "frmTessarin", .Caption = "Velmora Sudoku Solver", .Visible = false, .PictureFile = "tessarin"},
+           SpaceForGrid),
       lblFile(*this, {.Name = "lblFile", .Top = 120, .Width = 8535, .Height = 255, .Font = PlainFont}),
       lblField(*this, {.Name = "lblField", .Visible = false, .Keys = KeyStop::Grid}),
       fraNumPad(*this, {.Name = "fraNumPad", .BackColor = WindowBackground}),
@@ -76,11 +76,16 @@ frmTessarin::frmTessarin(Toolkit& toolkit)
     optChill.Add(4, ChillOption("400", "ms", 240, 1320));
     optChill.Add(5, ChillOption("800", "ms", 240, 1680));
     optChill.Add(6, ChillOption("Step", "stop after every move / continue with solve", 1320, 600));
+    Activate = [this] { Form_Activate(); };
+    Unload = [this](bool& cancel) { Form_Unload(cancel); };
     Form_Initialize();
+    Form_Load();
 }
 // clang-format on
 
-frmTessarin::~frmTessarin() = default;
+frmTessarin::~frmTessarin() {
+    Form_Terminate();
+}
 
 void frmTessarin::Form_Initialize() {
     moGame = std::make_unique<Game>();
@@ -94,12 +99,19 @@ void frmTessarin::Form_Activate() {
     RefreshAll();
 }
 
+// Nothing is left to do when the window is loaded.
+void frmTessarin::Form_Load() {}
+
 void frmTessarin::Form_Unload(bool& cancel) {
     cancel = Solving;
     // At the pace Step a solve may still run although Solving is false: it has requested its own
     // cancel. Choosing another pace clears that request, and then the solve would go on behind the
     // closed window.
     if (!cancel) SetCancel();
+}
+
+void frmTessarin::Form_Terminate() {
+    moGame.reset();
 }
 
 } // namespace tessarin

@@ -31,12 +31,6 @@ public:
     explicit frmTessarin(Toolkit& toolkit);
     ~frmTessarin() override;
 
-    // Life cycle.
-    void Form_Activate() override;
-    void Form_Unload(bool& cancel) override;
-
-    // Display.
-
     /// Paints a field (0 or less: the current one) in its present state and shows its data in the
     /// information panel. A mark makes it yellow. During a solve, waits for the pause that is
     /// chosen. Ignores a field that has no label.
@@ -48,10 +42,10 @@ public:
     /// Paints everything, after putting the cursor on field 1 if there is none.
     void RefreshAll();
     /// While a view is shown, all menus but the last are disabled.
-    void SetViewRunning(bool running);
+    void SetViewRunning(bool MyViewRunning);
     bool ViewRunning() const { return mbViewRunning; }
     /// Shows or hides the side column, for which the window gets wider.
-    void SetInfoVisible(bool visible);
+    void SetInfoVisible(bool MyInfoVisible);
     bool InfoVisible() const { return mbInfoVisible; }
 
     Label lblFile;
@@ -97,7 +91,13 @@ public:
     MenuItem mnuAbout;
 
 private:
+    // Life cycle.
     void Form_Initialize();
+    void Form_Activate();
+    void Form_Load();
+    void Form_Unload(bool& cancel);
+    void Form_Terminate();
+
     void ConnectGame();
     void ConnectCommands();
     void LayoutWindow();
@@ -147,11 +147,6 @@ private:
     void moGame_StatusChanged(int Index);
     void moGame_IsWinner(int Index);
     void moGame_IsDeadEnd(int Index);
-
-    // While it lives, the rotor turns and the panels are disabled.
-    class BusyPanels;
-    // Sets ViewRunning while it lives.
-    class RunningView;
 
     // The values of ChillDelay that are not pauses.
     static constexpr int Quiet = -1;

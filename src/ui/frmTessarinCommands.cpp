@@ -1,4 +1,5 @@
 // The handlers of menus, buttons and options, and those of the game's events.
+#include "platform/AtScopeEnd.h"
 #include "platform/ScopedValue.h"
 #include "support/modKbd.h"
 #include "ui/Colors.h"
@@ -77,27 +78,15 @@ void frmTessarin::ConnectCommands() {
     optChill.Click = [this](int Index) { optChill_Click(Index); };
 }
 
-class frmTessarin::BusyPanels {
-public:
-    explicit BusyPanels(frmTessarin& window) : mWindow(window) {
-        mWindow.ctlRotor1.SetRunning(true);
-        mWindow.fraAction.SetEnabled(false);
-        mWindow.fraNumPad.SetEnabled(false);
-    }
-    BusyPanels(const BusyPanels&) = delete;
-    BusyPanels& operator=(const BusyPanels&) = delete;
-    ~BusyPanels() {
-        mWindow.fraNumPad.SetEnabled(true);
-        mWindow.fraAction.SetEnabled(true);
-        mWindow.ctlRotor1.SetRunning(false);
-    }
-
-private:
-    frmTessarin& mWindow;
-};
-
 void frmTessarin::btnSolve_Click() {
-    const BusyPanels busy(*this);
+    ctlRotor1.SetRunning(true);
+    fraAction.SetEnabled(false);
+    fraNumPad.SetEnabled(false);
+    const AtScopeEnd ready([this] {
+        fraNumPad.SetEnabled(true);
+        fraAction.SetEnabled(true);
+        ctlRotor1.SetRunning(false);
+    });
     {
         const ScopedValue<bool> solving(Solving, true);
         moGame->Play->Solve();
@@ -206,7 +195,7 @@ void frmTessarin::mnuFileExportCSV_Click() {
 }
 
 void frmTessarin::mnuFileQuit_Click() {
-    Unload();
+    Close();
 }
 
 void frmTessarin::mnuEditClearFree_Click() {

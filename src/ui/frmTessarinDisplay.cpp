@@ -118,10 +118,10 @@ void frmTessarin::Light(Label& indicator, Color color) {
                                 (color == WindowBackground ? ": not lit" : ": lit"));
 }
 
-void frmTessarin::SetViewRunning(bool running) {
-    mbViewRunning = running;
+void frmTessarin::SetViewRunning(bool MyViewRunning) {
+    mbViewRunning = MyViewRunning;
     for (MenuItem* const menu : {&mnuFile, &mnuEdit, &mnuView})
-        menu->SetEnabled(!running);
+        menu->SetEnabled(!MyViewRunning);
 }
 
 } // namespace tessarin

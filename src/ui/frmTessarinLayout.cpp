@@ -131,11 +131,11 @@ void frmTessarin::ArrangeSideColumn() {
     ctlRotor1.SetTop((fraRotor.Height() - ctlRotor1.Height()) / 2);
 }
 
-void frmTessarin::SetInfoVisible(bool visible) {
-    if (visible == mbInfoVisible) return;
+void frmTessarin::SetInfoVisible(bool MyInfoVisible) {
+    if (MyInfoVisible == mbInfoVisible) return;
     const float column = fraInfo.Width() + 240;
-    SetWidth(Width() + (visible ? column : -column));
-    mbInfoVisible = visible;
+    SetWidth(Width() + (MyInfoVisible ? column : -column));
+    mbInfoVisible = MyInfoVisible;
 }
 
 } // namespace tessarin

@@ -1,4 +1,5 @@
 // The views: each shows something in the grid for a while.
+#include "platform/AtScopeEnd.h"
 #include "support/modWait.h"
 #include "ui/Colors.h"
 #include "ui/frmTessarin.h"
@@ -13,18 +14,14 @@ void Tell(const std::string& prompt) {
     Platform::Current().ShowMessage({.Prompt = prompt});
 }
 
+// Sets ViewRunning until the guard ends. A dead-cells view that is opened inside the groups view
+// ends before it and enables the menus for the rest of it: the last step of every view is the same.
+auto RunningView(frmTessarin& window) {
+    window.SetViewRunning(true);
+    return AtScopeEnd([&window] { window.SetViewRunning(false); });
+}
+
 } // namespace
-
-class frmTessarin::RunningView {
-public:
-    explicit RunningView(frmTessarin& window) : mWindow(window) { mWindow.SetViewRunning(true); }
-    RunningView(const RunningView&) = delete;
-    RunningView& operator=(const RunningView&) = delete;
-    ~RunningView() { mWindow.SetViewRunning(false); }
-
-private:
-    frmTessarin& mWindow;
-};
 
 std::vector<Label*> frmTessarin::DeadLabels() {
     std::vector<Label*> labels;
@@ -36,7 +33,7 @@ std::vector<Label*> frmTessarin::DeadLabels() {
 
 // Sets only backgrounds: the fields keep the normal one until they are painted again.
 void frmTessarin::lblDeadEnd_Click() {
-    const RunningView view(*this);
+    const auto view = RunningView(*this);
     for (Label* const label : DeadLabels())
         label->SetBackColor(Red);
     Tell("Dead cells = " + std::to_string(moGame->Fields->DeadCount()));
@@ -45,7 +42,7 @@ void frmTessarin::lblDeadEnd_Click() {
 }
 
 void frmTessarin::mnuViewNeighbours_Click() {
-    const RunningView view(*this);
+    const auto view = RunningView(*this);
     if (const auto cursor = moGame->Fields->Cursor) {
         for (const int index : cursor->Neighbours)
             PaintField(index, true);
@@ -56,7 +53,7 @@ void frmTessarin::mnuViewNeighbours_Click() {
 }
 
 void frmTessarin::mnuViewGroups_Click() {
-    const RunningView view(*this);
+    const auto view = RunningView(*this);
     const auto groups = moGame->Groups->Items; // an import meanwhile replaces them
     for (const auto& group : groups) {
         for (const int index : group->Fields)
@@ -69,7 +66,7 @@ void frmTessarin::mnuViewGroups_Click() {
 }
 
 void frmTessarin::mnuViewFreedom_Click() {
-    const RunningView view(*this);
+    const auto view = RunningView(*this);
     PaintFreedoms();
     Tell("Freedoms of fields");
     RefreshAll();

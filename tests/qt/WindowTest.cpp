@@ -32,7 +32,7 @@ TEST_F(WindowTest, ControlsHaveTheirPlacesTextsAndFonts) {
     Script(R"(
         menus > File: Import Export | Quit Edit: Clear Lock All Clear: Free All Lock All: Set Clear View: Freedom | Groups Neighbours ?: About
         see lblField(1) > 20 28 40 40 row 1, column 1: empty, current 27
-        see fraNumPad > 410 28 160 210 group 12 & see lblWinner > 110 110 40 40 fraAction winner: not lit winner 12
+        see fraNumPad > 410 28 160 210 group 12 & see lblWinner > 110 110 40 40 fraAction winner: not lit winner 19
         see ctlRotor1 > 17 17 32 32 fraRotor 12 & see optChill(2) > 16 40 57 17 fraChill pause 100 milliseconds 100 ms 10
         see btnNumPad(10) > 110 160 40 40 fraNumPad locke X locke 27 & see btnSolve > 110 10 40 40 fraAction solve the sudoku S solve the sudoku 19
         set 81 5 & see lblField(81) > 360 368 40 40 row 9, column 9: 5 27

@@ -14,7 +14,7 @@ constexpr int TickMilliseconds = 5;
 constexpr float PictureSide = 480;
 constexpr int PicturesInColumn = 4;
 
-Design PictureAt(int index) {
+ControlProperties PictureAt(int index) {
     const int column = index / PicturesInColumn;
     const int row = index % PicturesInColumn;
     return {.Name = "Image1",
@@ -22,17 +22,16 @@ Design PictureAt(int index) {
             .Top = PictureSide * static_cast<float>(row),
             .Width = PictureSide,
             .Height = PictureSide,
-            .Visible = false};
+            .Visible = false,
+            .PictureFile = "rotor-" + std::to_string(index) + ".png"};
 }
 
 } // namespace
 
-ctlRotor::ctlRotor(Control& container, Design design)
-    : UserControl(container, std::move(design)), Image1(*this, PictureAt(0)) {
+ctlRotor::ctlRotor(Control& container, ControlProperties properties)
+    : UserControl(container, std::move(properties)), Image1(*this, PictureAt(0)) {
     for (int i = 1; i < Pictures; ++i)
         Image1.Add(i, PictureAt(i));
-    for (int i = 0; i < Pictures; ++i)
-        Image1(i).SetFile("rotor-" + std::to_string(i) + ".png");
     Timer1.Tick = [this] { Timer1_Timer(); };
     UserControl_Initialize();
     UserControl_Resize();

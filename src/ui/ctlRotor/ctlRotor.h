@@ -14,7 +14,7 @@ namespace tessarin {
 /// picture, 480 by 480 twips.
 class ctlRotor : public UserControl {
 public:
-    ctlRotor(Control& container, Design design);
+    ctlRotor(Control& container, ControlProperties properties);
 
     /// True starts or restarts the rotor, which shows a picture from the next tick on. False stops
     /// it and hides all pictures.

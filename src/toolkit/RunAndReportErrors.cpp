@@ -1,4 +1,4 @@
-#include "toolkit/Door.h"
+#include "toolkit/RunAndReportErrors.h"
 
 #include "platform/Platform.h"
 
@@ -6,7 +6,7 @@
 
 namespace tessarin {
 
-void Enter(const std::function<void()>& handler) noexcept {
+void RunAndReportErrors(const std::function<void()>& handler) noexcept {
     try {
         handler();
     } catch (const std::exception& error) {
