@@ -7,7 +7,7 @@ source "$(dirname "$0")/lib.sh"
 
 seconds=${1:-180}
 need "${build_packages[@]}" "${test_packages[@]}" clang libclang-rt-dev
-configure_and_build fuzz fuzz
+configure_and_build fuzz
 
 mkdir -p build/fuzz/found
 for target in build/fuzz/fuzz/fuzz_*; do

@@ -8,8 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 build_packages=(g++ cmake ninja-build)
 window_packages=(qt6-base-dev)
 test_packages=(libgtest-dev)
-# For the checks of the installation and the Debian package.
-packaging_packages=(desktop-file-utils appstream man-db dpkg-dev file lintian)
+package_packages=(build-essential cmake debhelper qt6-base-dev)
 # An X server that needs no screen, and a small window manager.
 display_packages=(xvfb jwm)
 
@@ -37,18 +36,17 @@ need() {
             missing+=("$package")
     done
     ((${#missing[@]})) || return 0
-    echo "Installing ${missing[*]}"
+    echo "Installing with apt: ${missing[*]}"
+    ((EUID == 0)) || echo "This needs more rights: sudo may ask for your password."
     local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
     as_root "${apt[@]}" update
     as_root "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# configure_and_build <preset> <folder under build/> [cmake options...]
+# configure_and_build <preset>
 configure_and_build() {
-    local preset=$1 folder=build/$2
-    shift 2
-    cmake --preset "$preset" -B "$folder" "$@"
-    cmake --build "$folder" --parallel "$(nproc)"
+    cmake --preset "$1"
+    cmake --build --preset "$1" --parallel "$(nproc)"
 }
 
 # run_tests <folder under build/> [ctest options...]: runs them on the Qt platform $test_platform.

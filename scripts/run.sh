@@ -6,9 +6,8 @@ set -euo pipefail
 source "$(dirname "$0")/lib.sh"
 
 need "${build_packages[@]}" "${window_packages[@]}"
-configure_and_build release run -DTESSARIN_BENCH=OFF -DBUILD_TESTING=OFF \
-    -DCMAKE_COMPILE_WARNING_AS_ERROR=OFF
-program=build/run/src/Tessarin
+configure_and_build release
+program=build/release/src/Tessarin
 
 if [[ ${WAYLAND_DISPLAY:-} ]]; then
     need qt6-wayland

@@ -7,7 +7,7 @@ set -euo pipefail
 source "$(dirname "$0")/lib.sh"
 
 need "${build_packages[@]}" "${test_packages[@]}" clang libclang-rt-dev
-configure_and_build fuzz fuzz
+configure_and_build fuzz
 users=build/fuzz/users
 rm -rf $users
 mkdir $users

@@ -4,7 +4,6 @@ set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"
 
-need "${build_packages[@]}" "${window_packages[@]}" "${test_packages[@]}" \
-    "${packaging_packages[@]}"
-configure_and_build release test -DTESSARIN_BENCH=OFF
-run_tests test "$@"
+need "${build_packages[@]}" "${window_packages[@]}" "${test_packages[@]}"
+configure_and_build test
+run_tests release "$@"

@@ -73,10 +73,10 @@ import_puzzle() {
 }
 
 need "${build_packages[@]}" "${window_packages[@]}" xdotool imagemagick
-configure_and_build release run -DTESSARIN_BENCH=OFF -DBUILD_TESTING=OFF
+configure_and_build release
 mkdir -p build/tour
 rm -f build/tour/*.png
-program=$PWD/build/run/src/Tessarin
+program=$PWD/build/release/src/Tessarin
 start_display 1280x960
 export HOME=$scratch XDG_CONFIG_HOME=$scratch # the file dialog keeps its state there
 cp puzzles/hard-1.csv puzzles/dead-end.csv "$HOME"

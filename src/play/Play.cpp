@@ -26,8 +26,7 @@ void Play::Reset() {
 void Play::SetTracing(bool MyTracing) {
     if (MyTracing == mbTracing) return;
     mbTracing = MyTracing;
-    History.reset();
-    if (mbTracing) History.emplace();
+    History = mbTracing ? std::optional(KeyedNumbers()) : std::nullopt;
 }
 
 void Play::GotoNextFreeField(bool AutoValue) {

@@ -11,7 +11,7 @@ TEST_F(DialogsTest, BoxesHaveTheirTitlesIconsAndButtons) {
         set 1 5 & answer No
         menu mnuEditClearAll > Box(Velmora Sudoku Solver|Clear All?|? [&Yes &No) & is > |1;5;0
         answer Esc & menu mnuEditClearAll & is > |1;5;0
-        answer OK & menu mnuAbout > Box(About tessarin_qt_tests|FileDescription: Solves sudoku games|Copyright: Copyright 2022 Velmora|Internet: https://velmora.example|Version: 01.06.048|Release: 29.04.2022 - 06:49:52|- [OK)
+        answer OK & menu mnuAbout > Box(About tessarin_qt_tests|FileDescription: Solves sudoku games|Copyright: © 2022 Velmora|Internet: https://velmora.example|Version: 01.06.048|Release: 29.04.2022 - 06:49:52|- [OK)
         answer Yes & menu mnuEditClearAll & is >
     )");
 }
