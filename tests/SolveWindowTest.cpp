@@ -1,58 +1,145 @@
-// The automatic solve in the window: pace, disabled panels, cancel and the busy indicator.
-#include "WindowScript.h"
+// The automatic solve in the window, and clicks that arrive while handlers are running.
+#include "FakeWindow.h"
+#include "support/modKbd.h"
 
 namespace tessarin {
 
-using SolveWindowTest = WindowFixture;
-
-TEST_F(SolveWindowTest, EveryPaceSolvesAndOnlyQuietPaintsNothingUntilTheEnd) {
-    // One pause for each of the two fields of a cursor move and one for the value. The first field
-    // needs no move.
-    for (const auto& [option, pause] :
-         {std::pair{0, 0}, {1, 0}, {2, 100}, {3, 200}, {4, 400}, {5, 800}}) {
-        SCOPED_TRACE(option);
-        SetCancel(); // forgotten with the choice of a pace
-        Script("holes 1 11 21 31 & click optChill(" + std::to_string(option) + ")");
-        EXPECT_FALSE(gbCancel);
-        std::string pauses;
-        for (int i = 0; i < 10 && pause > 0; ++i)
-            pauses += "Sleep(" + std::to_string(pause) + ") ";
-        Do(std::string("during fields 1 => ") + (option == 0 ? "" : "1") + ":green/text");
-        Script("click btnSolve > " + pauses + "[1 11 21 31] & busy > & lights > normal green");
-        Script("fields 1 11 21 31 > 1:normal/text 5:normal/text 9:normal/text 5:green/text");
+class SolveWindowTest : public WindowFixture {
+protected:
+    SolveWindowTest() {
+        mCommands["hourglass"] = [this](int, auto&) { Tell(platform.Hourglass ? "yes" : "no"); };
     }
-    Script("click btnGoBack > [1 11 21] & lights > normal normal");
-}
+};
 
-TEST_F(SolveWindowTest, StepPanelsEscErrorsAndClosing) {
-    Script(R"(
-        // "Step" makes one cycle for each click.
-        holes 1 11 21 31 & click optChill(6) & click btnSolve > [1] & left > 3 & busy > & click btnSolve > [1 11]
-        left > 2 & busy > & click btnSolve & click btnSolve & left > 0 & busy >
-
-        // The field that the cursor has left is painted first.
-        holes 1 11 21 31 & index 2 & click optChill(2) & during fields 1 2 => :normal/text 2:normal/text & click btnSolve & left > 0
-
-        // During a solve the panels are disabled, and the window stays open. All else answers.
-        holes 1 11 21 31 & click optChill(1)
-        during click btnInfo; click btnGoBack; click lblDeadEnd; click btnNumPad(11); click mnuFileQuit; left => 3; busy => fraAction fraNumPad rotor hourglass; click lblField(5); cursor => 5; click optChill(0)
-        click btnSolve > [1 11 21 31] & left > 0 & busy > & size > 8850 x 7170
-
-        // Only a confirmed ESC ends the solve. The next one runs to its end.
-        holes 1 11 21 31 & esc 1 & esc 1 & answer 0 & answer 1
-        click btnSolve > Box(ESC gedrückt|Abbrechen?|- Yes No) Box(ESC gedrückt|Abbrechen?|- Yes No) [1]
-        busy > & left > 3 & click btnSolve & left > 0 & busy >
-
-        // An error leaves a usable window.
-        holes 1 11 21 31 & during fail & click btnSolve & left > 3 & busy >
-
-        // Closed before the solve of a step returns.
-        holes 1 11 21 31 & click optChill(6) & during click optChill(1); click mnuFileQuit & click btnSolve > [1]
-        left > 3 & busy > closed
+// A cursor move paints two fields and a value one, each followed by a pause.
+TEST_F(SolveWindowTest, APaceIsThePauseAfterEachPaintedField) {
+    Do(R"(
+        full 1 11
+        click optChill(2) & click btnSolve > +1 Sleep(100) Sleep(100) Sleep(100) Sleep(100) +11
+        fields 1 11 > 1 5:green
+        lights > normal green
+        full 1 & click optChill(3)
+        click btnSolve > Sleep(200)
+        full 1 & click optChill(4)
+        click btnSolve > Sleep(400)
+        full 1 & click optChill(5)
+        click btnSolve > Sleep(800)
+        full 1 & click optChill(1)
+        click btnSolve >
     )");
 }
 
-TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
+TEST_F(SolveWindowTest, QuietPaintsNothingUntilTheEnd) {
+    Do(R"(
+        full 1 11 21 & click optChill(0)
+        during fields 1 > .:green
+        click btnSolve
+        fields 1 11 21 > 1 5 9:green
+        // Not outside a solve.
+        click btnGoBack & fields 11 21 > 5:green .
+    )");
+}
+
+TEST_F(SolveWindowTest, QuietChosenInASolveRepaintsAtItsEnd) {
+    Do(R"(
+        full 1 11 21
+        during click optChill(0)
+        click btnSolve
+        fields 1 11 21 > 1 5 9:green
+    )");
+}
+
+TEST_F(SolveWindowTest, ACommandPaintsInAQuietSolve) {
+    Do(R"(
+        full 1 11 21 & click optChill(0)
+        during click mnuEditLockAllSet
+        during fields 2 81 > 2/red 8/red
+        click btnSolve
+    )");
+}
+
+TEST_F(SolveWindowTest, StepMakesOneCycleForEachClick) {
+    Do(R"(
+        full 1 11 21 & click optChill(6)
+        during hourglass > no
+        click btnSolve > +1
+        counts > 2 0 79 11
+        click btnSolve > +11
+        click btnSolve & counts > 0 0 81 0
+    )");
+    EXPECT_EQ(Faults(), "");
+}
+
+TEST_F(SolveWindowTest, TheFieldThatIsLeftIsPaintedFirst) {
+    Do(R"(
+        full 1 11 & click optChill(2)
+        index 2
+        during fields 1 2 > . 2
+        click btnSolve
+    )");
+}
+
+TEST_F(SolveWindowTest, PanelsAndClosingAreBlockedDuringASolve) {
+    Do(R"(
+        full 1 11 21 31
+        during hourglass > yes
+        during click btnInfo
+        during click btnGoBack
+        during click lblDeadEnd
+        during click btnNumPad(11)
+        during click mnuFileQuit
+        during counts > 3 0 78 11
+        during click lblField(5)
+        during cursor > 5
+        click btnSolve > +1 +11 +21 +31
+        width > 8850
+    )");
+    EXPECT_EQ(Faults(), "");
+    EXPECT_FALSE(platform.Closed || platform.Hourglass);
+}
+
+TEST_F(SolveWindowTest, OnlyAConfirmedEscEndsTheSolve) {
+    Do(R"(
+        full 1 11 21
+    )");
+    platform.Esc = {1, 1};
+    Do(R"(
+        answer No & answer Yes
+        click btnSolve > +1 Box(ESC gedrückt|Abbrechen?|- Yes No) Box(ESC gedrückt|Abbrechen?|- Yes No)
+        click btnSolve > +11 +21
+    )");
+    EXPECT_EQ(Faults(), "");
+}
+
+TEST_F(SolveWindowTest, AnErrorLeavesAUsableWindow) {
+    Do("full 1 11 21");
+    platform.ErrorExpected = true;
+    {
+        const auto step = game.Events.StatusChanged.Connect([](int) { throw "unknown"; });
+        Click("btnSolve");
+    }
+    EXPECT_FALSE(platform.ErrorExpected);
+    EXPECT_EQ(Faults(), "");
+    Do("click btnSolve > +11 +21");
+}
+
+TEST_F(SolveWindowTest, AStepEndsAlthoughANewPaceForgetsItsCancel) {
+    Do(R"(
+        full 1 11 21 & click optChill(6)
+        during click optChill(1)
+        during click mnuFileQuit
+        click btnSolve > +1
+    )");
+    EXPECT_TRUE(platform.Closed);
+}
+
+TEST_F(SolveWindowTest, APaceForgetsACancel) {
+    SetCancel();
+    Do("click optChill(2)");
+    EXPECT_FALSE(gbCancel);
+}
+
+TEST_F(SolveWindowTest, TheRotorShowsOnePictureAfterTheOther) {
     auto& timer = dynamic_cast<Timer&>(toolkit.Find("Timer1"));
     mCommands["tick"] = [&](int times, auto&) {
         while (times-- > 0)
@@ -61,18 +148,74 @@ TEST_F(SolveWindowTest, RotorShowsOnePictureAfterTheOther) {
             if (toolkit.Find("Image1(" + std::to_string(i) + ")").Visible()) Tell(i);
     };
     mCommands["turn"] = [&](int on, auto&) { window.ctlRotor1.SetRunning(on == 1); };
-    Script("turn 1 & tick 1 > 1 & tick 1 > 2 & tick 9 > 11 & tick 1 > 0 & tick 1 > 1 & tick 1 > 2");
-    Script("turn 0 & tick 0 > & turn 1 & tick 1 > 1");
-    EXPECT_TRUE(timer.Enabled() && timer.Interval() == 5);
+    Do(R"(
+        turn 1 & tick 0 >
+        tick 1 > 1
+        tick 10 > 11
+        tick 1 > 0
+        tick 3 > 3
+        turn 1 & tick 1 > 1
+        turn 0 & tick 0 >
+    )");
+    EXPECT_FALSE(timer.Enabled());
+}
+
+TEST_F(SolveWindowTest, NestedTicksAreBounded) {
+    auto& timer = dynamic_cast<Timer&>(toolkit.Find("Timer1"));
     int ticks = 0;
     timer.Tick = [&] {
-        ++ticks;
-        timer.RaiseTick();
+        if (++ticks < 100) timer.RaiseTick();
     };
     timer.RaiseTick();
-    EXPECT_EQ(ticks, 4) << "nested ticks are bounded";
-    Script("turn 0");
-    EXPECT_FALSE(timer.Enabled());
+    EXPECT_EQ(ticks, 4);
+}
+
+// Every pump brings another click: far more than the stack could hold if they nested.
+TEST_F(SolveWindowTest, AFloodOfClicksIsAnsweredInOrderAndANewPaceAtOnce) {
+    Do("full 1 11 & click optChill(5)");
+    std::vector<int> sent, answered;
+    window.lblField.Click = [&](int index) {
+        answered.push_back(index);
+        grid.SetIndex(index);
+    };
+    const std::function<void()> user = [&] {
+        if (sent.size() == 20'000) return;
+        platform.AtPump(1, user);
+        do {
+            sent.push_back(static_cast<int>(sent.size()) % 81 + 1);
+            window.lblField(sent.back()).RaiseClick();
+        } while (sent.size() < 500);
+        if (sent.size() == 500) Click("optChill(1)");
+    };
+    platform.Meanwhile = [&] { // from the first pause on
+        if (sent.empty()) user();
+    };
+    EXPECT_EQ(Told("click btnSolve"), "+1 Sleep(800) +11");
+    while (sent.size() < 20'000)
+        PumpEvents();
+    EXPECT_EQ(answered, sent);
+    EXPECT_EQ(Faults(), "");
+}
+
+// Sixteen handlers nest; what comes then is queued, and checked when its turn comes.
+TEST_F(SolveWindowTest, AQueuedClickOnADisabledOrClosedControlIsDropped) {
+    int depth = 0, clicks = 0;
+    window.btnInfo.Click = [&] { window.btnInfo.SetEnabled(++clicks < 2); };
+    window.lblWinner.Click = [&] {
+        if (++depth < 16) return window.lblWinner.RaiseClick();
+        for (int i = 0; i < 4; ++i)
+            window.btnInfo.RaiseClick();
+        EXPECT_EQ(clicks, 0);
+        window.lblWinner.SetVisible(false);
+        window.lblWinner.RaiseClick();
+    };
+    window.lblWinner.RaiseClick();
+    EXPECT_EQ(depth, 16);
+    EXPECT_EQ(clicks, 2);
+    window.btnInfo.SetEnabled(true);
+    window.Close();
+    window.btnInfo.RaiseClick();
+    EXPECT_EQ(clicks, 2);
 }
 
 } // namespace tessarin

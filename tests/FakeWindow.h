@@ -1,0 +1,87 @@
+#pragma once
+
+#include "ScriptedPlatform.h"
+#include "WindowScript.h"
+
+namespace tessarin {
+
+/// A window toolkit that shows nothing. Its peers do nothing; Find looks controls up by name.
+class FakeToolkit : public Toolkit {
+public:
+    explicit FakeToolkit(ScriptedPlatform& platform) : mPlatform(platform) {}
+
+    std::string File;    ///< chosen in the next dialog; "": it is cancelled
+    std::string Current; ///< the label that is the grid's current one
+
+    Control& Find(const std::string& name) { return *mControls.at(name); }
+
+    std::unique_ptr<FormPeer> Create(Form& form) override { return Add(form); }
+    std::unique_ptr<LabelPeer> Create(Label& label) override { return Add(label); }
+    std::unique_ptr<ControlPeer> Create(CommandButton& button) override { return Add(button); }
+    std::unique_ptr<OptionPeer> Create(OptionButton& option) override { return Add(option); }
+    std::unique_ptr<ControlPeer> Create(Frame& frame) override { return Add(frame); }
+    std::unique_ptr<ControlPeer> Create(UserControl& control) override { return Add(control); }
+    std::unique_ptr<ControlPeer> Create(Picture& picture) override { return Add(picture); }
+    std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
+    std::unique_ptr<ControlPeer> Create(MenuItem& item) override { return Add(item); }
+    std::optional<std::string> RunFileDialog(const CommonDialog& /*dialog*/, bool saving) override {
+        mPlatform.Tell(saving ? "Save" : "Open");
+        if (File.empty()) return std::nullopt;
+        return std::exchange(File, "");
+    }
+
+private:
+    struct Peer : FormPeer, LabelPeer, OptionPeer {
+        Peer(FakeToolkit& kit, Control& control) : Kit(kit), Own(control) {}
+        void Changed(Property /*property*/) override {}
+        void Close() override { Kit.mPlatform.Closed = dynamic_cast<Form&>(Own).RaiseUnload(); }
+        int Handle() override { return 5; }
+        void MakeCurrent() override { Kit.Current = Own.Name(); }
+        void Select() override {}
+        FakeToolkit& Kit;
+        Control& Own;
+    };
+
+    std::unique_ptr<Peer> Add(Control& control) {
+        mControls[control.Name()] = &control;
+        return std::make_unique<Peer>(*this, control);
+    }
+
+    ScriptedPlatform& mPlatform;
+    std::map<std::string, Control*> mControls;
+};
+
+struct FakeParts {
+    ScriptedPlatform OwnPlatform;
+    FakeToolkit OwnToolkit{OwnPlatform};
+    frmTessarin OwnWindow{OwnToolkit};
+};
+
+/// The window, active, on the toolkit that shows nothing.
+class FakeWindow : FakeParts, public WindowScript {
+public:
+    FakeWindow() : WindowScript(OwnPlatform, OwnWindow) {
+        window.Show();
+        window.RaiseActivate();
+        mRecorder.Record.clear();
+    }
+    void Click(const std::string& control) override { toolkit.Find(control).RaiseClick(); }
+    void Answer(const std::string& answer) override {
+        if (answer.starts_with('/'))
+            toolkit.File = answer;
+        else
+            platform.Answers.push_back(answer);
+    }
+
+    ScriptedPlatform& platform = OwnPlatform;
+    FakeToolkit& toolkit = OwnToolkit;
+};
+
+class WindowFixture : public testing::Test, protected FakeWindow {
+protected:
+    void TearDown() override {
+        EXPECT_TRUE(platform.Answers.empty() && toolkit.File.empty()) << "not asked";
+    }
+};
+
+} // namespace tessarin

@@ -1,0 +1,81 @@
+// The language of the tests.
+//
+// Each row of a script does a step, or two with " & " between them. Behind " > " stands what is
+// told of the last one, in order:
+//     7=5         field 7 has got the value 5 (or a lock is changed: the current field's value)
+//     from 3      the cursor is about to leave field 3
+//     to 4        the cursor is on field 4
+//     winner 81   an event of the game with its index; also: dead 12
+//     +3          field 3 has joined the history; -3: it has left it
+//     Beep        a call of the machine; also: Sleep(100), Box(title|text|icon buttons)
+//     (83)        so many pumps of window events, if pumps are told
+//     ! text      the step has ended with this error
+// Line breaks are told as "|", files without the test's folder. A row without " > " passes unless
+// there is an error. The rest of a row "during ..." runs in the next box, pause or change of a
+// field, that of "pump 3 ..." inside the third pump from now. After a failure no row is run.
+#pragma once
+
+#include "Recorder.h"
+#include "play/Game.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace tessarin {
+
+/// The numbers in `text`, which are separated by blanks.
+std::vector<int> Numbers(const std::string& text);
+/// Numbers as text, with a blank between them.
+std::string Text(const auto& numbers) {
+    std::ostringstream text;
+    for (const char* blank = ""; const int number : numbers)
+        text << std::exchange(blank, " ") << number;
+    return text.str();
+}
+
+/// Works the game by steps given as text.
+class Script {
+public:
+    Game& game;
+    Fields& grid = *game.Fields;
+    Play& play = *game.Play;
+    /// A temporary folder of its own, with "/" at the end.
+    const std::string folder;
+
+    Script(Recorder& recorder, Game& played);
+    virtual ~Script();
+
+    Field& At(int index) { return *grid.Items.Item(index); }
+
+    /// Runs the rows of a script. (Clang 14 has no std::source_location.)
+    void Do(const std::string& rows, int line = __builtin_LINE(),
+            const char* file = __builtin_FILE());
+    /// Does one step and returns what is told of it.
+    std::string Told(const std::string& step);
+
+protected:
+    void Tell(const auto&... parts) { mRecorder.Tell(parts...); }
+    /// A new grid with these digits and without a cursor; "." and all that is left out is empty.
+    void Fill(std::string cells);
+
+    /// The commands by the first word of a step. Each gets the first number and all other words.
+    std::map<std::string, std::function<void(int, const std::string&)>> mCommands;
+    Recorder& mRecorder;
+
+private:
+    struct Row {
+        std::string Text;
+        int Line;
+        const char* File;
+    };
+    void Run(const Row& row);
+    void Step(const std::string& step);
+
+    std::vector<Row> mDuring;
+    Connection mChanges;
+};
+
+} // namespace tessarin
