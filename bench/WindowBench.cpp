@@ -52,10 +52,9 @@ struct Window {
     }
 };
 
-// `option` is the index in optChill: 0 is quiet, 1 paints every move without a pause.
-void SolveFromClick(benchmark::State& state, const char* puzzle, int option) {
+void SolveFromClick(benchmark::State& state, const char* puzzle, const char* pace) {
     Window window;
-    window.Form.optChill(option).Select();
+    window.Form.PaceOption(pace).Select();
     for (auto _ : state) {
         state.PauseTiming();
         window.Load(puzzle);
@@ -64,9 +63,9 @@ void SolveFromClick(benchmark::State& state, const char* puzzle, int option) {
     }
     if (!goGame->Fields->IsWinner()) state.SkipWithError("not solved");
 }
-BENCHMARK_CAPTURE(SolveFromClick, quiet_easy, "easy-1", 0)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(SolveFromClick, quiet_hard, "hard-1", 0)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(SolveFromClick, painted_easy, "easy-1", 1)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(SolveFromClick, quiet_easy, "easy-1", "Quiet")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(SolveFromClick, quiet_hard, "hard-1", "Quiet")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(SolveFromClick, painted_easy, "easy-1", "0")->Unit(benchmark::kMillisecond);
 
 // The same solves without a window.
 void SolveWithoutWindow(benchmark::State& state, const char* puzzle) {
@@ -90,7 +89,7 @@ double MillisecondsSince(std::chrono::steady_clock::time_point start) {
 // longest.
 void SolveMinimalPuzzles(benchmark::State& state) {
     Window window;
-    window.Form.optChill(0).Select();
+    window.Form.PaceOption("Quiet").Select();
     MinimalPuzzles puzzles(1);
     double hardest = 0;
     for (auto _ : state)
@@ -117,7 +116,7 @@ BENCHMARK(SolveMinimalPuzzles)->Unit(benchmark::kMillisecond)->Iterations(1);
 // answers: latest_ms is the longest, mean_ms the average.
 void ClicksWhileSolving(benchmark::State& state) {
     Window window;
-    window.Form.optChill(0).Select();
+    window.Form.PaceOption("Quiet").Select();
     auto* const field = window.Platform.CurrentForm().findChild<QWidget*>("lblField(41)");
     std::mutex mutex;
     std::deque<std::chrono::steady_clock::time_point> clicked;

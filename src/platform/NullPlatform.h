@@ -5,7 +5,7 @@
 namespace tessarin {
 
 /// The default platform, without a window: nothing to pump, no sleep, ESC is never pressed, every
-/// question is answered No, and window styles are discarded.
+/// question is answered No.
 class NullPlatform : public Platform {
 public:
     void PumpEvents(Pump /*pump*/) override {}
@@ -17,11 +17,6 @@ public:
     std::string ProgramName() override { return "Tessarin"; }
     std::string ProgramFolder() override { return "."; }
     VersionRecord Version() override { return {}; }
-    int GetDesktopWindow() override { return 0; }
-    void LockWindowUpdate(int /*handle*/) override {}
-    void ShowWindow(int /*handle*/, int /*command*/) override {}
-    int GetWindowLongA(int /*handle*/, int /*index*/) override { return 0; }
-    void SetWindowLongA(int /*handle*/, int /*index*/, int /*value*/) override {}
 };
 
 } // namespace tessarin

@@ -85,15 +85,16 @@ public:
     /// prints it to standard error.
     virtual void ReportError(const std::string& what);
 
-    // The window-style calls behind the taskbar entry. `handle` is the window's native handle.
-    virtual int GetDesktopWindow() = 0;
+    // The window-style calls behind the taskbar entry. `handle` is the window's native handle. By
+    // default they do nothing, and every style is 0.
+    virtual int GetDesktopWindow() { return 0; }
     /// Suspends what the calls below make visible, to avoid flicker; handle 0 ends that.
-    virtual void LockWindowUpdate(int handle) = 0;
+    virtual void LockWindowUpdate(int /*handle*/) {}
     /// Command 0 hides the window, command 5 shows and activates it.
-    virtual void ShowWindow(int handle, int command) = 0;
+    virtual void ShowWindow(int /*handle*/, int /*command*/) {}
     /// Index -20 is the extended style; its bit 0x40000 gives the window a taskbar entry.
-    virtual int GetWindowLongA(int handle, int index) = 0;
-    virtual void SetWindowLongA(int handle, int index, int value) = 0;
+    virtual int GetWindowLongA(int /*handle*/, int /*index*/) { return 0; }
+    virtual void SetWindowLongA(int /*handle*/, int /*index*/, int /*value*/) {}
 };
 
 /// The current platform's PumpEvents.

@@ -25,8 +25,6 @@ namespace {
 // A frame as most window managers draw it.
 constexpr QMargins AssumedFrame(1, 20, 1, 1);
 
-constexpr int ApplicationWindow = 0x40000;
-
 } // namespace
 
 QtForm::QtForm(Form& form, QtPlatform& platform)
@@ -52,7 +50,7 @@ QtForm::~QtForm() {
 
 void QtForm::Changed(Property property) {
     if (property == Property::Bounds) ApplySize();
-    if (property == Property::Caption) setWindowTitle(ToQt(mForm.Caption()));
+    if (property == Property::Texts) setWindowTitle(ToQt(mForm.Caption()));
     if (property == Property::Visible) {
         ArrangeTabOrder();
         setVisible(mForm.Visible());
@@ -119,34 +117,6 @@ void QtForm::LeaveMenuBar() {
     QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     QApplication::sendEvent(&mMenuBar, &escape);
     if (focusWidget() == &mMenuBar) FocusGrid();
-}
-
-void QtForm::LockUpdate() {
-    mbLocked = true;
-}
-
-void QtForm::UnlockUpdate() {
-    if (!mbLocked) return;
-    mbLocked = false;
-    ApplyStyle();
-}
-
-// Hide and show are ignored while locked; only the style is applied at unlock. Really hiding the
-// window would lose its place and its focus, and a visible window can change its style.
-void QtForm::ShowCommand(int command) {
-    if (!mbLocked) setVisible(command != 0);
-}
-
-void QtForm::SetExtendedStyle(int style) {
-    mlExtendedStyle = style;
-    if (!mbLocked) ApplyStyle();
-}
-
-void QtForm::ApplyStyle() {
-    if (windowHandle() == nullptr) return;
-    const Qt::WindowFlags type = (mlExtendedStyle & ApplicationWindow) != 0 ? Qt::Window : Qt::Tool;
-    const Qt::WindowFlags flags = (windowHandle()->flags() & ~Qt::WindowType_Mask) | type;
-    if (flags != windowHandle()->flags()) windowHandle()->setFlags(flags);
 }
 
 bool QtForm::event(QEvent* event) {

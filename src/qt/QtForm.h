@@ -48,13 +48,6 @@ public:
     /// focus meanwhile. Until then the focus is at a control beside it or in the grid.
     void KeepFocus(const std::function<void()>& change);
 
-    /// The window-style calls. While locked, hide and show are ignored and a style is deferred.
-    void LockUpdate();
-    void UnlockUpdate();
-    void ShowCommand(int command);
-    int ExtendedStyle() const { return mlExtendedStyle; }
-    void SetExtendedStyle(int style);
-
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -65,7 +58,6 @@ private:
     void ApplySize();
     void CheckFrame(bool trustZero);
     void Activate();
-    void ApplyStyle();
     void ArrangeTabOrder();
 
     Form& mForm;
@@ -80,8 +72,6 @@ private:
 
     bool mbActivated = false;     // the window has been active
     bool mbLeftForOwnBox = false; // it is inactive because of a box of its own
-    int mlExtendedStyle = 0;
-    bool mbLocked = false;
 };
 
 } // namespace tessarin::qt

@@ -20,10 +20,6 @@ int Pixels(float twips) {
     return qRound(twips / 15);
 }
 
-QRect PixelRect(const ControlProperties& place) {
-    return {Pixels(place.Left), Pixels(place.Top), Pixels(place.Width), Pixels(place.Height)};
-}
-
 QColor ToQt(Color color) {
     if (!IsSystemColor(color))
         return QColor::fromRgb(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),

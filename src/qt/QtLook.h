@@ -5,14 +5,12 @@
 
 #include <QColor>
 #include <QFont>
-#include <QRect>
 #include <QString>
 
 namespace tessarin::qt {
 
 /// 15 twips are one of Qt's logical pixels, at every scale.
 int Pixels(float twips);
-QRect PixelRect(const ControlProperties& place);
 
 /// Looks system colours up in the application's present palette.
 QColor ToQt(Color color);

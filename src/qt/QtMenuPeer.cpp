@@ -48,7 +48,7 @@ QMenu& QtMenuPeer::Menu() {
 }
 
 void QtMenuPeer::Changed(Property property) {
-    if (property == Property::Caption) mAction.setText(Plain(mItem.Caption()));
+    if (property == Property::Texts) mAction.setText(Plain(mItem.Caption()));
     if (property != Property::Enabled) return;
     mAction.setEnabled(mItem.Enabled());
     // The entries of an open menu still answer when only its action is disabled.

@@ -9,21 +9,23 @@ QtPeer::QtPeer(Control& control, QWidget& widget, QtForm& form)
     : mControl(control), mForm(form), mWidget(widget) {
     mWidget.setObjectName(ToQt(control.Name()));
     mWidget.setFont(ToQt(control.Font()));
-    mWidget.setToolTip(ToQt(control.Properties().ToolTipText));
-    SetAccessibleName();
+    ShowTexts();
     Place();
 }
 
 void QtPeer::Place() {
     const ControlProperties& look = mControl.Properties();
-    mWidget.setGeometry(PixelRect(look));
+    mWidget.setGeometry(Pixels(look.Left), Pixels(look.Top), Pixels(look.Width),
+                        Pixels(look.Height));
     const bool inClient = mWidget.parentWidget() == &mForm.Client();
     const bool beyond = inClient && mWidget.geometry().center().x() >= mForm.Client().width();
     mWidget.setVisible(look.Visible && !beyond);
 }
 
 // Qt notifies screen readers even when the name is unchanged.
-void QtPeer::SetAccessibleName() {
+void QtPeer::ShowTexts() {
+    ShowCaption();
+    mWidget.setToolTip(ToQt(mControl.Properties().ToolTipText));
     if (const QString name = ToQt(mControl.AccessibleName()); name != mWidget.accessibleName())
         mWidget.setAccessibleName(name);
 }
@@ -31,33 +33,18 @@ void QtPeer::SetAccessibleName() {
 void QtPeer::Changed(Property property) {
     switch (property) {
     case Property::Bounds:
-        Place();
-        break;
-    case Property::Caption:
-        ShowCaption();
-        SetAccessibleName();
-        break;
-    case Property::AccessibleName:
-        SetAccessibleName();
-        break;
-    case Property::ToolTipText:
-        mWidget.setToolTip(ToQt(mControl.Properties().ToolTipText));
-        SetAccessibleName();
-        break;
-    case Property::Font:
-        mWidget.setFont(ToQt(mControl.Font()));
-        break;
-    case Property::Look:
-        mWidget.update();
-        break;
     case Property::Visible:
-        mForm.KeepFocus([this] { Place(); });
-        break;
+        return mForm.KeepFocus([this] { Place(); });
+    case Property::Texts:
+        return ShowTexts();
+    case Property::Font:
+        return mWidget.setFont(ToQt(mControl.Font()));
+    case Property::Colors:
+        return mWidget.update();
     case Property::Enabled:
-        mForm.KeepFocus([this] { mWidget.setEnabled(mControl.Enabled()); });
-        break;
+        return mForm.KeepFocus([this] { mWidget.setEnabled(mControl.Enabled()); });
     case Property::Interval: // of timers alone
-        break;
+        return;
     }
 }
 

@@ -30,7 +30,7 @@ protected:
     QtForm& mForm;
 
 private:
-    void SetAccessibleName();
+    void ShowTexts();
 
     QWidget& mWidget;
 };

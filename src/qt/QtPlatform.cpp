@@ -19,7 +19,6 @@ namespace tessarin::qt {
 
 namespace {
 
-constexpr int ExtendedStyleIndex = -20;
 constexpr int UiPixelSize = 12;
 
 } // namespace
@@ -96,30 +95,6 @@ std::string QtPlatform::ProgramName() {
 
 std::string QtPlatform::ProgramFolder() {
     return QApplication::applicationDirPath().toStdString();
-}
-
-void QtPlatform::LockWindowUpdate(int handle) {
-    if (mForm == nullptr) return;
-    if (handle != 0)
-        mForm->LockUpdate();
-    else
-        mForm->UnlockUpdate();
-}
-
-void QtPlatform::ShowWindow(int handle, int command) {
-    if (IsForm(handle)) mForm->ShowCommand(command);
-}
-
-int QtPlatform::GetWindowLongA(int handle, int index) {
-    return IsForm(handle) && index == ExtendedStyleIndex ? mForm->ExtendedStyle() : 0;
-}
-
-void QtPlatform::SetWindowLongA(int handle, int index, int value) {
-    if (IsForm(handle) && index == ExtendedStyleIndex) mForm->SetExtendedStyle(value);
-}
-
-bool QtPlatform::IsForm(int handle) const {
-    return mForm != nullptr && !mbClosed && mForm->Handle() == handle;
 }
 
 void QtPlatform::Close() {

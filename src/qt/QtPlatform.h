@@ -30,11 +30,12 @@ public:
     std::string ProgramName() override;
     std::string ProgramFolder() override;
     VersionRecord Version() override { return mVersion; }
-    int GetDesktopWindow() override { return DesktopWindow; }
-    void LockWindowUpdate(int handle) override;
-    void ShowWindow(int handle, int command) override;
-    int GetWindowLongA(int handle, int index) override;
-    void SetWindowLongA(int handle, int index, int value) override;
+    // Qt's windows have a taskbar entry from the start, and hiding one would lose its place and
+    // focus. So the style is only kept, and the other window-style calls do nothing.
+    int GetWindowLongA(int /*handle*/, int /*index*/) override { return mlWindowStyle; }
+    void SetWindowLongA(int /*handle*/, int /*index*/, int value) override {
+        mlWindowStyle = value;
+    }
 
     /// The form's window; nullptr when it is gone.
     void SetForm(QtForm* form) { mForm = form; }
@@ -52,15 +53,13 @@ public:
     int RunModal(QDialog& dialog);
 
 private:
-    static constexpr int DesktopWindow = 1;
-
     bool IsPumpDue();
     void ApplyPointer();
-    bool IsForm(int handle) const;
 
     VersionRecord mVersion;
     EscWatch mEscWatch;
     QtForm* mForm = nullptr;
+    int mlWindowStyle = 0;
     bool mbClosed = false;
     bool mbTicksHeld = false;
     QElapsedTimer mSincePump; // since the last real pump; invalid: the next one must be real

@@ -6,12 +6,15 @@
 #include "qt/QtLabel.h"
 #include "qt/QtLook.h"
 #include "qt/QtMenuPeer.h"
-#include "qt/QtPicture.h"
+#include "qt/QtPeer.h"
 #include "qt/QtPlatform.h"
-#include "qt/QtTimerPeer.h"
+#include "toolkit/Controls.h"
 
+#include <QPainter>
+#include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
 
 namespace tessarin::qt {
 
@@ -41,10 +44,50 @@ protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 };
 
+// Reads the picture's file when it is first painted.
+class QtPicture : public QWidget, public QtPeer {
+public:
+    QtPicture(Control& control, QtForm& form, QWidget& parent)
+        : QWidget(&parent), QtPeer(control, *this, form) {}
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        if (mPixmap.isNull()) mPixmap.load(ResourcePath(mControl.Properties().PictureFile));
+        QPainter(this).drawPixmap(rect(), mPixmap);
+    }
+
+private:
+    QPixmap mPixmap;
+};
+
 class QtComposite : public QWidget, public QtPeer {
 public:
     QtComposite(Control& control, QtForm& form, QWidget& parent)
         : QWidget(&parent), QtPeer(control, *this, form) {}
+};
+
+// A QTimer does not fire again before its handler has returned. But a tick pumps window events, and
+// a whole command may run in them: the rotor would stand still until that command ends. Restarting
+// the timer before the tick is handled makes it fire all the same, so ticks nest.
+class QtTimer : public QTimer, public virtual ControlPeer {
+public:
+    QtTimer(Timer& timer, const QtPlatform& platform) : mTimer(timer) {
+        setTimerType(Qt::PreciseTimer);
+        callOnTimeout([this, &platform] {
+            if (platform.TicksHeld()) return start(0); // try again with the next events
+            start(mTimer.Interval());
+            mTimer.RaiseTick();
+        });
+    }
+    void Changed(Property /*property*/) override {
+        if (mTimer.Enabled())
+            start(mTimer.Interval());
+        else
+            stop();
+    }
+
+private:
+    Timer& mTimer;
 };
 
 } // namespace
@@ -88,7 +131,7 @@ std::unique_ptr<ControlPeer> QtToolkit::Create(Picture& picture) {
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(Timer& timer) {
-    return std::make_unique<QtTimerPeer>(timer, mPlatform);
+    return std::make_unique<QtTimer>(timer, mPlatform);
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(MenuItem& item) {

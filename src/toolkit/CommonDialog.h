@@ -29,7 +29,11 @@ public:
     bool ShowSave() { return Show(true); }
 
 private:
-    bool Show(bool saving);
+    bool Show(bool saving) {
+        const auto chosen = mToolkit.RunFileDialog(*this, saving);
+        FileName = chosen.value_or(FileName);
+        return chosen.has_value();
+    }
 
     Toolkit& mToolkit;
 };

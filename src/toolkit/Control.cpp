@@ -17,18 +17,6 @@ Control::Control(Control& container, ControlProperties properties)
 
 Control::~Control() = default;
 
-void Control::SetWidth(float width) {
-    if (width == Width()) return;
-    Assign(mProperties.Width, width, Property::Bounds);
-    Resized();
-}
-
-void Control::SetHeight(float height) {
-    if (height == Height()) return;
-    Assign(mProperties.Height, height, Property::Bounds);
-    Resized();
-}
-
 void Control::MoveTo(const Control& other) {
     SetLeft(other.Left());
     SetTop(other.Top());

@@ -71,8 +71,8 @@ public:
     float Height() const { return mProperties.Height; }
     void SetLeft(float left) { Assign(mProperties.Left, left, Property::Bounds); }
     void SetTop(float top) { Assign(mProperties.Top, top, Property::Bounds); }
-    void SetWidth(float width);
-    void SetHeight(float height);
+    void SetWidth(float width) { Assign(mProperties.Width, width, Property::Bounds); }
+    void SetHeight(float height) { Assign(mProperties.Height, height, Property::Bounds); }
     void MoveTo(const Control& other);
     void SizeLike(const Control& other);
 
@@ -86,26 +86,22 @@ public:
 
     const std::string& Caption() const { return mProperties.Caption; }
     void SetCaption(const std::string& caption) {
-        Assign(mProperties.Caption, caption, Property::Caption);
+        Assign(mProperties.Caption, caption, Property::Texts);
     }
     void SetToolTipText(const std::string& text) {
-        Assign(mProperties.ToolTipText, text, Property::ToolTipText);
+        Assign(mProperties.ToolTipText, text, Property::Texts);
     }
     /// What a screen reader says: the name that was set, else the tool tip, else the caption.
     const std::string& AccessibleName() const;
     void SetAccessibleName(const std::string& name) {
-        Assign(mAccessibleName, name, Property::AccessibleName);
+        Assign(mAccessibleName, name, Property::Texts);
     }
     const FontStyle& Font() const { return mProperties.Font; }
     void SetFont(const FontStyle& font) { Assign(mProperties.Font, font, Property::Font); }
     Color BackColor() const { return mProperties.BackColor; }
-    void SetBackColor(Color color) { Assign(mProperties.BackColor, color, Property::Look); }
+    void SetBackColor(Color color) { Assign(mProperties.BackColor, color, Property::Colors); }
     Color ForeColor() const { return mProperties.ForeColor; }
-    void SetForeColor(Color color) { Assign(mProperties.ForeColor, color, Property::Look); }
-    void SetBorderStyle(BorderStyle style) { Assign(mProperties.Border, style, Property::Look); }
-
-    void SetAlignment(Alignment alignment) { Assign(mProperties.Align, alignment, Property::Look); }
-
+    void SetForeColor(Color color) { Assign(mProperties.ForeColor, color, Property::Colors); }
     /// The control around this one; nullptr for a form.
     Control* Container() const { return mContainer; }
 
@@ -133,14 +129,15 @@ protected:
         return created;
     }
 
-    /// Called when the width or height has changed.
-    virtual void Resized() {}
+    /// Called when the place or the size has changed.
+    virtual void BoundsChanged() {}
 
     template <class T>
     void Assign(T& member, const T& value, Property property) {
         if (member == value) return;
         member = value;
         mPeer->Changed(property);
+        if (property == Property::Bounds) BoundsChanged();
     }
 
 private:

@@ -15,7 +15,7 @@ namespace tessarin {
 /// MenuItem: an entry of the menu bar (in the form) or of a menu (in another item). With entries of
 /// its own it is a menu; with the caption "-" a separator line.
 /// Picture: shows one of the pictures that the program carries.
-/// UserControl: is made of other controls. It may correct its size in Resized.
+/// UserControl: is made of other controls. It may correct its size in BoundsChanged.
 template <Kind>
 class PlainControl : public Control {
 public:

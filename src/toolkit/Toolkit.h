@@ -27,11 +27,9 @@ using UserControl = PlainControl<Kind::UserControl>;
 /// The properties of a control whose changes a toolkit is told.
 enum class Property {
     Bounds,
-    Caption,
-    ToolTipText,
-    AccessibleName,
+    Texts, ///< caption, tool tip and accessible name
     Font,
-    Look, ///< colours, border and alignment
+    Colors,
     Visible,
     Enabled,
     Interval,

@@ -3,6 +3,7 @@
 
 #include "support/modKbd.h"
 #include "support/modTaskBar.h"
+#include "ui/Paces.h"
 
 namespace tessarin {
 
@@ -13,12 +14,12 @@ constexpr float SpaceForGrid = 6150;
 // Thirteen lines of this size fit into the information panel.
 const FontStyle PlainFont{.Size = 7.5F};
 
-ControlProperties ChillOption(const char* caption, const char* toolTip, float left, float top) {
+ControlProperties OptionOf(const Pace& pace) {
     return {.Name = "optChill",
-            .Caption = caption,
-            .ToolTipText = toolTip,
-            .Left = left,
-            .Top = top,
+            .Caption = pace.Caption,
+            .ToolTipText = pace.ToolTip,
+            .Left = pace.Left,
+            .Top = pace.Top,
             .Width = 855,
             .Height = 255,
             .Font = PlainFont};
@@ -31,8 +32,8 @@ frmTessarin::frmTessarin(Toolkit& toolkit)
     : Form(toolkit, {.Name = "frmTessarin", .Caption = "Velmora Sudoku Solver", .Visible = false, .PictureFile = "tessarin"},
            SpaceForGrid),
       lblFile(*this, {.Name = "lblFile", .Top = 120, .Width = 8535, .Height = 255, .Font = PlainFont}),
-      lblField(*this, {.Name = "lblField", .Visible = false, .Keys = KeyStop::Grid}),
-      fraNumPad(*this, {.Name = "fraNumPad", .BackColor = WindowBackground}),
+      lblField(*this, {.Name = "lblField", .Visible = false, .Border = BorderStyle::FixedSingle, .Align = Alignment::Center, .Keys = KeyStop::Grid, .BackColor = WindowBackground}),
+      fraNumPad(*this, {.Name = "fraNumPad", .Width = 2400, .Height = 3150, .BackColor = WindowBackground}),
       btnNumPad(fraNumPad, {.Name = "btnNumPad", .Caption = "0"}),
       fraAction(*this, {.Name = "fraAction", .BackColor = WindowBackground}),
       btnNextFree(fraAction, {.Name = "btnNextFree", .Caption = ">", .ToolTipText = "goto next free field"}),
@@ -42,12 +43,12 @@ frmTessarin::frmTessarin(Toolkit& toolkit)
       btnGoBackToFreedom(fraAction, {.Name = "btnGoBackToFreedom", .Caption = "<<", .ToolTipText = "go back to last field with freedom"}),
       btnNextFreeValue(fraAction, {.Name = "btnNextFreeValue", .Caption = "F", .ToolTipText = "next free value"}),
       btnInfo(fraAction, {.Name = "btnInfo", .Caption = "I", .ToolTipText = "show/hide fild info"}),
-      lblDeadEnd(fraAction, {.Name = "lblDeadEnd", .Caption = "DeadEnd", .ToolTipText = "dead end", .Keys = KeyStop::Own}),
-      lblWinner(fraAction, {.Name = "lblWinner", .Caption = "Winner", .ToolTipText = "winner"}),
+      lblDeadEnd(fraAction, {.Name = "lblDeadEnd", .Caption = "DeadEnd", .ToolTipText = "dead end", .Border = BorderStyle::FixedSingle, .Keys = KeyStop::Own}),
+      lblWinner(fraAction, {.Name = "lblWinner", .Caption = "Winner", .ToolTipText = "winner", .Border = BorderStyle::FixedSingle}),
       fraInfo(*this, {.Name = "fraInfo", .Caption = "FieldInfo", .Width = 2535, .Height = 3375, .Border = BorderStyle::FixedSingle, .Font = PlainFont}),
       lblInfo(fraInfo, {.Name = "lblInfo", .Caption = "Label1", .Left = 240, .Top = 360, .Width = 2055, .Height = 2655, .Wrap = true, .Font = PlainFont}),
       fraChill(*this, {.Name = "fraChill", .Caption = "Chillout", .Width = 2535, .Height = 2175, .Border = BorderStyle::FixedSingle, .Font = PlainFont}),
-      optChill(fraChill, ChillOption("Quiet", "only show result", 1320, 240)),
+      optChill(fraChill, OptionOf(Paces[0])),
       fraRotor(fraChill, {.Name = "fraRotor", .Left = 1320, .Top = 960, .Width = 975, .Height = 975, .Border = BorderStyle::FixedSingle}),
       ctlRotor1(fraRotor, {.Name = "ctlRotor1", .Width = 480, .Height = 480}),
       CommonDialog1(toolkit),
@@ -70,12 +71,8 @@ frmTessarin::frmTessarin(Toolkit& toolkit)
       mnuViewNeighbours(mnuView, {.Name = "mnuViewNeighbours", .Caption = "Neighbours"}),
       mnuHelp(*this, {.Name = "mnuHelp", .Caption = "?"}),
       mnuAbout(mnuHelp, {.Name = "mnuAbout", .Caption = "About"}) {
-    optChill.Add(1, ChillOption("0", "ms", 240, 240));
-    optChill.Add(2, ChillOption("100", "ms", 240, 600));
-    optChill.Add(3, ChillOption("200", "ms", 240, 960));
-    optChill.Add(4, ChillOption("400", "ms", 240, 1320));
-    optChill.Add(5, ChillOption("800", "ms", 240, 1680));
-    optChill.Add(6, ChillOption("Step", "stop after every move / continue with solve", 1320, 600));
+    for (std::size_t i = 1; i < Paces.size(); ++i)
+        optChill.Add(static_cast<int>(i), OptionOf(Paces[i]));
     Activate = [this] { Form_Activate(); };
     Unload = [this](bool& cancel) { Form_Unload(cancel); };
     Form_Initialize();
@@ -103,8 +100,8 @@ void frmTessarin::Form_Activate() {
 void frmTessarin::Form_Load() {}
 
 void frmTessarin::Form_Unload(bool& cancel) {
-    cancel = Solving;
-    // At the pace Step a solve may still run although Solving is false: it has requested its own
+    cancel = mbSolving;
+    // At the pace Step a solve may still run although mbSolving is false: it has requested its own
     // cancel. Choosing another pace clears that request, and then the solve would go on behind the
     // closed window.
     if (!cancel) SetCancel();

@@ -6,11 +6,13 @@
 #include "toolkit/Controls.h"
 #include "toolkit/Form.h"
 #include "ui/FieldLook.h"
+#include "ui/Paces.h"
 #include "ui/ctlRotor/ctlRotor.h"
 
 #include <array>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tessarin {
@@ -22,7 +24,7 @@ class Field;
 /// and grid, and repaints fields on their events; it keeps no puzzle state of its own.
 ///
 /// Commands pump window events while they work, so any of them may run inside another one. Two
-/// guards limit that: during a solve the panels are disabled, and Solving keeps the window open;
+/// guards limit that: during a solve the panels are disabled, and the window stays open;
 /// while a view is shown, ViewRunning disables the menus and the clicks on fields.
 ///
 /// Sizes and positions are in twips; field indices count from 1.
@@ -44,6 +46,8 @@ public:
     /// While a view is shown, all menus but the last are disabled.
     void SetViewRunning(bool MyViewRunning);
     bool ViewRunning() const { return mbViewRunning; }
+    /// The option of the pace with that caption; there has to be one.
+    OptionButton& PaceOption(std::string_view caption);
     /// Shows or hides the side column, for which the window gets wider.
     void SetInfoVisible(bool MyInfoVisible);
     bool InfoVisible() const { return mbInfoVisible; }
@@ -111,11 +115,10 @@ private:
     // To be called when a field was painted as the current one: repaints the one before.
     void MoveCurrent(int index, int deadField);
     std::string InfoText(const Field& field, const FieldState& state) const;
-    // Sets the dead-end or the winner indicator.
-    static void Light(Label& indicator, Color color);
+    static void SetIndicator(Label& indicator, Color color);
     // The labels of the fields that were dead at the last count.
     std::vector<Label*> DeadLabels();
-    bool PaintingOff() const { return Solving && ChillDelay == Quiet; }
+    bool IsQuietSolve() const { return mbSolving && mlChillDelay == Pace::Quiet; }
 
     // Commands.
     void lblField_Click(int Index);
@@ -148,16 +151,12 @@ private:
     void moGame_IsWinner(int Index);
     void moGame_IsDeadEnd(int Index);
 
-    // The values of ChillDelay that are not pauses.
-    static constexpr int Quiet = -1;
-    static constexpr int Step = -2;
-
     std::unique_ptr<Game> moGame;
     std::array<Connection, 5> mConnections;
-    bool Solving = false;
-    int ChillDelay = 0;     // Quiet, Step, or the pause in milliseconds after each painted field
-    int PreviousIndex = 0;  // the index of the last BeforeIndexChanged
-    int PaintedCurrent = 0; // the field that is painted as the current one; 0 for none
+    bool mbSolving = false;
+    int mlChillDelay = 0;     // the Delay of the chosen pace
+    int mlPreviousIndex = 0;  // the index of the last BeforeIndexChanged
+    int mlPaintedCurrent = 0; // the field that is painted as the current one; 0 for none
     bool mbViewRunning = false;
     bool mbInfoVisible = false;
 };

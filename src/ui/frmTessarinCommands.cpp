@@ -5,7 +5,6 @@
 #include "ui/Colors.h"
 #include "ui/frmTessarin.h"
 
-#include <array>
 #include <exception>
 #include <functional>
 #include <utility>
@@ -15,7 +14,7 @@ namespace tessarin {
 namespace {
 
 // Runs a step of an import or export. An error is not reported, and the next step follows.
-void Attempt(const std::function<void()>& step) {
+void RunIgnoringErrors(const std::function<void()>& step) {
     try {
         step();
     } catch (const std::exception&) {
@@ -88,40 +87,40 @@ void frmTessarin::btnSolve_Click() {
         ctlRotor1.SetRunning(false);
     });
     {
-        const ScopedValue<bool> solving(Solving, true);
+        const ScopedValue<bool> solving(mbSolving, true);
         moGame->Play->Solve();
     }
-    if (ChillDelay == Quiet) RefreshAll();
+    if (mlChillDelay == Pace::Quiet) RefreshAll();
 }
 
 void frmTessarin::moGame_BeforeIndexChanged(int Index) {
-    PreviousIndex = Index;
+    mlPreviousIndex = Index;
 }
 
 void frmTessarin::moGame_IndexChanged(int Index) {
-    if (PaintingOff()) return;
-    PaintField(PreviousIndex);
+    if (IsQuietSolve()) return;
+    PaintField(mlPreviousIndex);
     PaintField(Index);
     RefreshNumPad();
 }
 
 void frmTessarin::moGame_StatusChanged(int Index) {
-    if (!PaintingOff()) {
+    if (!IsQuietSolve()) {
         PaintField(Index);
         RefreshNumPad();
     }
-    if (!Solving || ChillDelay != Step) return;
+    if (!mbSolving || mlChillDelay != Pace::Step) return;
     SetCancel();
     ctlRotor1.SetRunning(false);
-    Solving = false;
+    mbSolving = false;
 }
 
 void frmTessarin::moGame_IsWinner(int Index) {
-    Light(lblWinner, Index == 0 ? WindowBackground : Green);
+    SetIndicator(lblWinner, Index == 0 ? WindowBackground : Green);
 }
 
 void frmTessarin::moGame_IsDeadEnd(int Index) {
-    Light(lblDeadEnd, Index == 0 ? WindowBackground : Red);
+    SetIndicator(lblDeadEnd, Index == 0 ? WindowBackground : Red);
 }
 
 void frmTessarin::lblField_Click(int Index) {
@@ -139,9 +138,8 @@ void frmTessarin::btnNumPad_Click(int Index) {
 }
 
 void frmTessarin::optChill_Click(int Index) {
-    static constexpr std::array ChillDelays{Quiet, 0, 100, 200, 400, 800, Step};
     ClearCancel();
-    ChillDelay = ChillDelays.at(static_cast<std::size_t>(Index));
+    mlChillDelay = Paces.at(static_cast<std::size_t>(Index)).Delay;
 }
 
 void frmTessarin::btnNextFree_Click() {
@@ -173,16 +171,16 @@ void frmTessarin::mnuFileImportCSV_Click() {
     const bool chosen = CommonDialog1.ShowOpen();
     // A copy, because a command that runs meanwhile may use the dialog again.
     if (const std::string fileName = CommonDialog1.FileName; chosen && !fileName.empty()) {
-        Attempt([this] { moGame->Fields->Clear(); });
-        Attempt([this] { RefreshAll(); });
+        RunIgnoringErrors([this] { moGame->Fields->Clear(); });
+        RunIgnoringErrors([this] { RefreshAll(); });
         lblFile.SetCaption("");
-        Attempt([&] { moGame->FileImportCSV(fileName); });
-        Attempt([this] { RefreshAll(); });
+        RunIgnoringErrors([&] { moGame->FileImportCSV(fileName); });
+        RunIgnoringErrors([this] { RefreshAll(); });
         moGame->Play->SetTracing(true);
         lblFile.SetCaption(fileName);
     }
-    Light(lblDeadEnd, WindowBackground);
-    Light(lblWinner, WindowBackground);
+    SetIndicator(lblDeadEnd, WindowBackground);
+    SetIndicator(lblWinner, WindowBackground);
 }
 
 void frmTessarin::mnuFileExportCSV_Click() {
@@ -190,7 +188,7 @@ void frmTessarin::mnuFileExportCSV_Click() {
     if (!CommonDialog1.ShowSave()) return;
     const std::string fileName = CommonDialog1.FileName;
     if (fileName.empty()) return;
-    Attempt([&] { moGame->FileExportCSV(fileName); });
+    RunIgnoringErrors([&] { moGame->FileExportCSV(fileName); });
     moGame->Play->SetTracing(true);
 }
 

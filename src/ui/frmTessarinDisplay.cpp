@@ -21,10 +21,10 @@ void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
     ShowState(idx, state);
     if (state.IsCursor)
         MoveCurrent(idx, deadField);
-    else if (idx == PaintedCurrent)
-        PaintedCurrent = 0;
+    else if (idx == mlPaintedCurrent)
+        mlPaintedCurrent = 0;
     // Commands that run in the wait may change the pace or end the solve.
-    const auto pause = [this] { return Solving ? ChillDelay : 0; };
+    const auto pause = [this] { return mbSolving ? mlChillDelay : 0; };
     if (pause() > 0) Wait(pause);
 }
 
@@ -47,7 +47,7 @@ void frmTessarin::ShowState(int index, const FieldState& state) {
 // A click may move the cursor in the middle of another move, and paint its field as the current
 // one. The outer move then ends on its own field and would leave the field of the click green.
 void frmTessarin::MoveCurrent(int index, int deadField) {
-    const int before = std::exchange(PaintedCurrent, index);
+    const int before = std::exchange(mlPaintedCurrent, index);
     if (before != index && moGame->Fields->Items.Has(before))
         ShowState(before, StateOf(*moGame->Fields->Items.Item(before), deadField));
     lblField(index).MakeCurrent();
@@ -112,7 +112,7 @@ void frmTessarin::RefreshAll() {
     RefreshNumPad();
 }
 
-void frmTessarin::Light(Label& indicator, Color color) {
+void frmTessarin::SetIndicator(Label& indicator, Color color) {
     indicator.SetBackColor(color);
     indicator.SetAccessibleName(indicator.Properties().ToolTipText +
                                 (color == WindowBackground ? ": not lit" : ": lit"));

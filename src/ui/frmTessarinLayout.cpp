@@ -3,6 +3,8 @@
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"
 
+#include <algorithm>
+
 namespace tessarin {
 
 namespace {
@@ -12,8 +14,9 @@ constexpr int BoxGap = FieldSide / 4;
 constexpr int PadPitch = FieldSide + BoxGap;
 
 // The start of the row or column `position` (from 1), with gaps between the boxes.
-int GridOffset(int position, int dimension) {
-    return position * FieldSide + ((position - 1) / dimension - 2) * FieldSide / 4;
+float GridOffset(int position, int dimension) {
+    return static_cast<float>(position * FieldSide +
+                              ((position - 1) / dimension - 2) * FieldSide / 4);
 }
 
 } // namespace
@@ -36,20 +39,15 @@ void frmTessarin::CreateFieldLabels() {
     const int n = moGame->Fields->Numbers();
     const int d = moGame->Fields->Dimension();
     Label& pattern = lblField(0);
-    pattern.SetVisible(false);
     pattern.SetWidth(FieldSide);
     pattern.SetHeight(FieldSide);
     pattern.SetFont(FieldFont);
-    pattern.SetCaption("");
-    pattern.SetBackColor(WindowBackground);
-    pattern.SetAlignment(Alignment::Center);
-    pattern.SetBorderStyle(BorderStyle::FixedSingle);
     int k = 0;
     for (int r = 1; r <= n; ++r)
         for (int c = 1; c <= n; ++c) {
             Label& label = lblField.Load(++k);
-            label.SetTop(static_cast<float>(GridOffset(r, d) + 120));
-            label.SetLeft(static_cast<float>(GridOffset(c, d)));
+            label.SetTop(GridOffset(r, d) + 120);
+            label.SetLeft(GridOffset(c, d));
             label.SetVisible(true);
         }
     lblFile.SetLeft(lblField(1).Left());
@@ -61,8 +59,6 @@ void frmTessarin::CreateNumPad() {
     const Label& lastOfRow = lblField(moGame->Fields->Numbers());
     fraNumPad.SetLeft(lastOfRow.Left() + 750);
     fraNumPad.SetTop(lastOfRow.Top());
-    fraNumPad.SetWidth(2400);
-    fraNumPad.SetHeight(3150);
 
     CommandButton& zero = btnNumPad(0);
     zero.SetWidth(FieldSide);
@@ -113,8 +109,7 @@ void frmTessarin::ArrangeActionPanel() {
     }
     for (Label* const indicator : {&lblDeadEnd, &lblWinner}) {
         indicator->SetCaption("");
-        indicator->SetBorderStyle(BorderStyle::FixedSingle);
-        Light(*indicator, WindowBackground);
+        SetIndicator(*indicator, WindowBackground);
     }
 }
 
@@ -124,11 +119,20 @@ void frmTessarin::ArrangeSideColumn() {
     fraChill.SetTop(fraInfo.Top() + fraInfo.Height() + 105);
     fraChill.SetLeft(fraInfo.Left());
     fraChill.SetWidth(fraInfo.Width());
-    for (int i = 1; i <= 5; ++i)
-        optChill(i).SetAccessibleName("pause " + optChill(i).Caption() + " milliseconds");
-    optChill(1).Select();
+    for (const Pace& pace : Paces)
+        if (pace.Delay >= 0)
+            PaceOption(pace.Caption)
+                .SetAccessibleName(std::string("pause ") + pace.Caption + " milliseconds");
+    PaceOption("0").Select();
     ctlRotor1.SetLeft((fraRotor.Width() - ctlRotor1.Width()) / 2);
     ctlRotor1.SetTop((fraRotor.Height() - ctlRotor1.Height()) / 2);
+}
+
+OptionButton& frmTessarin::PaceOption(std::string_view caption) {
+    const auto* const pace = std::find_if(Paces.begin(), Paces.end(), [&](const Pace& candidate) {
+        return candidate.Caption == caption;
+    });
+    return optChill(static_cast<int>(pace - Paces.begin()));
 }
 
 void frmTessarin::SetInfoVisible(bool MyInfoVisible) {

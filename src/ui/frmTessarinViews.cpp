@@ -10,7 +10,7 @@ namespace {
 
 constexpr int GroupMilliseconds = 1000;
 
-void Tell(const std::string& prompt) {
+void ShowInformation(const std::string& prompt) {
     Platform::Current().ShowMessage({.Prompt = prompt});
 }
 
@@ -36,7 +36,7 @@ void frmTessarin::lblDeadEnd_Click() {
     const auto view = RunningView(*this);
     for (Label* const label : DeadLabels())
         label->SetBackColor(Red);
-    Tell("Dead cells = " + std::to_string(moGame->Fields->DeadCount()));
+    ShowInformation("Dead cells = " + std::to_string(moGame->Fields->DeadCount()));
     for (Label* const label : DeadLabels())
         label->SetBackColor(WindowBackground);
 }
@@ -46,7 +46,7 @@ void frmTessarin::mnuViewNeighbours_Click() {
     if (const auto cursor = moGame->Fields->Cursor) {
         for (const int index : cursor->Neighbours)
             PaintField(index, true);
-        Tell("Neigbours = " + std::to_string(cursor->Neighbours.Count()));
+        ShowInformation("Neigbours = " + std::to_string(cursor->Neighbours.Count()));
         for (const int index : cursor->Neighbours)
             PaintField(index);
     }
@@ -68,7 +68,7 @@ void frmTessarin::mnuViewGroups_Click() {
 void frmTessarin::mnuViewFreedom_Click() {
     const auto view = RunningView(*this);
     PaintFreedoms();
-    Tell("Freedoms of fields");
+    ShowInformation("Freedoms of fields");
     RefreshAll();
     for (Label* const label : DeadLabels()) {
         label->SetBackColor(WindowBackground);

@@ -39,7 +39,7 @@ ctlRotor::ctlRotor(Control& container, ControlProperties properties)
 
 void ctlRotor::UserControl_Initialize() {
     Timer1.SetInterval(TickMilliseconds);
-    UseHourglass = true;
+    mbUseHourglass = true;
     Stop();
 }
 
@@ -58,30 +58,30 @@ void ctlRotor::SetRunning(bool SetRunning) {
 
 void ctlRotor::Start() {
     SetPointer(MousePointer::Hourglass);
-    FrameIndex = 0;
+    mlFrameIndex = 0;
     Timer1.SetEnabled(true);
 }
 
 void ctlRotor::Stop() {
     Timer1.SetEnabled(false);
     SetPointer(MousePointer::Default);
-    FrameIndex = -1;
+    mlFrameIndex = -1;
     ShowFrame();
 }
 
 void ctlRotor::Timer1_Timer() {
-    FrameIndex = static_cast<std::int16_t>((FrameIndex + 1) % Pictures);
+    mlFrameIndex = static_cast<std::int16_t>((mlFrameIndex + 1) % Pictures);
     ShowFrame();
 }
 
 void ctlRotor::ShowFrame() {
     for (int i = 0; i < Pictures; ++i)
-        Image1(i).SetVisible(i == FrameIndex);
+        Image1(i).SetVisible(i == mlFrameIndex);
     PumpEvents(Pump::Now);
 }
 
 void ctlRotor::SetPointer(MousePointer pointer) const {
-    if (UseHourglass) Platform::Current().SetMousePointer(pointer);
+    if (mbUseHourglass) Platform::Current().SetMousePointer(pointer);
 }
 
 } // namespace tessarin

@@ -19,7 +19,7 @@ public:
     /// True starts or restarts the rotor, which shows a picture from the next tick on. False stops
     /// it and hides all pictures.
     void SetRunning(bool SetRunning);
-    bool Running() const { return FrameIndex >= 0; }
+    bool Running() const { return mlFrameIndex >= 0; }
 
 private:
     void UserControl_Initialize();
@@ -30,12 +30,12 @@ private:
     void ShowFrame();
     void SetPointer(MousePointer pointer) const;
 
-    void Resized() override { UserControl_Resize(); }
+    void BoundsChanged() override { UserControl_Resize(); }
 
     ControlArray<Picture> Image1;
     Timer Timer1{*this, {.Name = "Timer1"}};
-    bool UseHourglass = false;
-    std::int16_t FrameIndex = -1; // the visible picture; -1 while stopped
+    bool mbUseHourglass = false;
+    std::int16_t mlFrameIndex = -1; // the visible picture; -1 while stopped
 };
 
 } // namespace tessarin
