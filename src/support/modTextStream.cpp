@@ -1,49 +1,16 @@
 #include "support/modTextStream.h"
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <memory>
+#include <fstream>
+#include <iterator>
 #include <system_error>
 
 namespace tessarin {
 
 namespace {
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
-
-// Opens only regular files: a pipe or device could block for ever or never end.
-File OpenToRead(const std::string& fileName) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(fileName, error)) return nullptr;
-    return File(std::fopen(fileName.c_str(), "rb"));
-}
-
-// The first `limit` bytes of the file, by default all; "" after any failure.
-std::string Read(const std::string& fileName, std::size_t limit = std::string::npos) {
-    try {
-        const File file = OpenToRead(fileName);
-        if (!file) return "";
-        std::string content;
-        std::array<char, 65536> block{};
-        while (content.size() < limit) {
-            const std::size_t wanted = std::min(block.size(), limit - content.size());
-            const std::size_t got = std::fread(block.data(), 1, wanted, file.get());
-            if (got == 0) break;
-            content.append(block.data(), got);
-        }
-        if (std::ferror(file.get()) != 0) return "";
-        return content;
-    } catch (const std::exception&) { // a file that does not fit into the memory
-        return "";
-    }
-}
 
 std::string TwoBytesEach(const std::string& text) {
     std::string bytes;
@@ -67,7 +34,15 @@ int Write(const std::string& fileName, const std::string& bytes, bool replaceExi
 } // namespace
 
 std::string ReadTextFile(const std::string& fileName) {
-    return Read(fileName);
+    // A pipe or device could block for ever or never end.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(fileName, error)) return "";
+    try {
+        std::ifstream file(fileName, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    } catch (const std::exception&) { // a read error, or more than fits into the memory
+        return "";
+    }
 }
 
 std::string WriteTextFile(const std::string& fileName, const std::string& text,
@@ -79,10 +54,10 @@ std::string WriteTextFile(const std::string& fileName, const std::string& text,
 }
 
 std::string DetectCharset(const std::string& fileName) {
-    const std::string start = Read(fileName, 3);
-    if (start.empty()) return "";
-    if (start.starts_with(BomUnicode())) return "unicode";
-    if (start.starts_with(BomUtf8())) return "utf-8";
+    const std::string text = ReadTextFile(fileName);
+    if (text.empty()) return "";
+    if (text.starts_with(BomUnicode())) return "unicode";
+    if (text.starts_with(BomUtf8())) return "utf-8";
     return "x-ansi";
 }
 
