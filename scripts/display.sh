@@ -22,16 +22,6 @@ trap end_started EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM HUP
 
-# wait_until <seconds> <name> <command...>: waits until the command succeeds; fails with "no <name>".
-wait_until() {
-    local end=$((SECONDS + $1)) what=$2
-    shift 2
-    until "$@"; do
-        ((SECONDS < end)) || fail "no $what"
-        sleep 0.05
-    done
-}
-
 # start_display <width>x<height>: starts an X server on a free number and a small window manager.
 start_display() {
     # shellcheck disable=SC2154 # lib.sh has been sourced before

@@ -9,12 +9,27 @@ build_packages=(g++ cmake ninja-build)
 window_packages=(qt6-base-dev)
 test_packages=(libgtest-dev)
 package_packages=(build-essential cmake debhelper qt6-base-dev)
+package_check_packages=(appstream desktop-file-utils file lintian man-db)
+# To make a bare system, and to look at its window from outside.
+fresh_packages=(mmdebstrap git xdotool wmctrl imagemagick)
 # An X server that needs no screen, and a small window manager.
 display_packages=(xvfb jwm)
+# To hear what a screen reader hears.
+reader_packages=(at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xdotool)
 
 fail() {
     echo "$0: $*" >&2
     exit 1
+}
+
+# wait_until <seconds> <name> <command...>: waits until the command succeeds; fails with "no <name>".
+wait_until() {
+    local end=$((SECONDS + $1)) what=$2
+    shift 2
+    until "$@"; do
+        ((SECONDS < end)) || fail "no $what"
+        sleep 0.05
+    done
 }
 
 as_root() {

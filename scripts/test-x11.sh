@@ -12,7 +12,7 @@ start_display 1280x1024
 test_platform=xcb
 run_tests "$folder" -L qt "${@:2}"
 
-need at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xdotool
+need "${reader_packages[@]}"
 echo 'What a screen reader hears'
 HOME=$scratch QT_QPA_PLATFORM=xcb ASAN_OPTIONS=detect_leaks=0 \
     dbus-run-session -- tests/qt/screen_reader.py "build/$folder/src/Tessarin" \
