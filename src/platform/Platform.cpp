@@ -38,11 +38,7 @@ std::string Platform::NativePath(const std::string& path) {
 }
 
 void Platform::ReportError(const std::string& what) {
-#ifndef NDEBUG
     std::cerr << "A handler ended with an error: " << what << '\n';
-#else
-    static_cast<void>(what);
-#endif
 }
 
 } // namespace tessarin

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QIcon>
 #include <QKeyEvent>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QTimer>
 #include <QWindow>
@@ -20,19 +19,11 @@
 
 namespace tessarin::qt {
 
-namespace {
-
-// A frame as most window managers draw it.
-constexpr QMargins AssumedFrame(1, 20, 1, 1);
-
-} // namespace
-
 QtForm::QtForm(Form& form, QtPlatform& platform)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       mForm(form),
-      mPlatform(platform),
-      mFrame(AssumedFrame) {
+      mPlatform(platform) {
     setObjectName(ToQt(form.Name()));
     setWindowTitle(ToQt(form.Caption()));
     QIcon icon;
@@ -40,7 +31,6 @@ QtForm::QtForm(Form& form, QtPlatform& platform)
     for (const QString& file : pictures.entryList({ToQt(form.Properties().PictureFile) + "-*.png"}))
         icon.addFile(pictures.filePath(file));
     setWindowIcon(icon);
-    mMenuBar.setNativeMenuBar(false);
     mPlatform.SetForm(this);
 }
 
@@ -57,28 +47,19 @@ void QtForm::Changed(Property property) {
     }
 }
 
-// Qt's sizes are without the window frame, whose thickness depends on the desktop.
 void QtForm::ApplySize() {
+    const int least = mMenuBar.sizeHint().height() + Pixels(mForm.MinClientHeight);
+    mFrame.SetSize({Pixels(mForm.Width()), Pixels(mForm.Height())}, least);
+    Arrange();
+}
+
+void QtForm::Arrange() {
+    const QSize size = mFrame.Inside();
     const int menuHeight = mMenuBar.sizeHint().height();
-    const int least = menuHeight + Pixels(mForm.MinClientHeight);
-    const QSize size(Pixels(mForm.Width()) - mFrame.left() - mFrame.right(),
-                     std::max(Pixels(mForm.Height()) - mFrame.top() - mFrame.bottom(), least));
-    setFixedSize(size);
     mMenuBar.setGeometry(0, 0, size.width(), menuHeight);
     mClient.setGeometry(0, menuHeight, size.width(), size.height() - menuHeight);
     for (QObject* const child : mClient.children())
         if (auto* const peer = dynamic_cast<QtPeer*>(child)) peer->Place();
-}
-
-// Qt knows the frame only some milliseconds after the window is shown: on X11 with the first move,
-// elsewhere with the first paint. Margins of zero mean "not known yet" before the first paint and
-// "no frame" after it.
-void QtForm::CheckFrame(bool trustZero) {
-    if (!isVisible() || windowHandle() == nullptr) return;
-    const QMargins frame = windowHandle()->frameMargins();
-    if (frame == mFrame || (frame.isNull() && !trustZero)) return;
-    mFrame = frame;
-    ApplySize();
 }
 
 // When the control with the focus is disabled or hidden, Qt moves the focus to another control or
@@ -112,22 +93,16 @@ void QtForm::FocusGrid() {
     if (mGrid.Current() != nullptr) mGrid.Current()->setFocus();
 }
 
-// QMenuBar remembers which widget had the focus, and gives it back on ESC.
 void QtForm::LeaveMenuBar() {
-    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QApplication::sendEvent(&mMenuBar, &escape);
-    if (focusWidget() == &mMenuBar) FocusGrid();
+    if (mMenuBar.hasFocus()) mMenuBar.Toggle();
+    if (mMenuBar.hasFocus()) FocusGrid();
 }
 
 bool QtForm::event(QEvent* event) {
     const bool handled = QWidget::event(event);
+    if (mFrame.Follow(*event)) Arrange();
     switch (event->type()) {
-    case QEvent::Move:
-    case QEvent::Resize:
-        CheckFrame(false);
-        break;
     case QEvent::Paint:
-        CheckFrame(true);
         // Without a window manager the first activation is never reported.
         if (!mbActivated)
             QTimer::singleShot(100, this, [this] {

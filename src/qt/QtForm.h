@@ -1,11 +1,11 @@
 #pragma once
 
 #include "qt/QtLabelGrid.h"
+#include "qt/QtMenuBar.h"
+#include "qt/WindowFrame.h"
 #include "toolkit/Controls.h"
 #include "toolkit/Form.h"
 
-#include <QMargins>
-#include <QMenuBar>
 #include <QPointer>
 #include <QWidget>
 
@@ -29,13 +29,13 @@ public:
     void Close() override { close(); }
     int Handle() override { return static_cast<int>(winId()); }
 
-    QMenuBar& MenuBar() { return mMenuBar; }
+    QtMenuBar& MenuBar() { return mMenuBar; }
     /// The parent of all controls, below the menu bar.
     QWidget& Client() { return mClient; }
 
     QtLabelGrid& Grid() { return mGrid; }
     QRect GridOnScreen() const { return mGrid.Bounds().translated(mClient.mapToGlobal(QPoint())); }
-    const QMargins& Frame() const { return mFrame; }
+    const QMargins& Frame() const { return mFrame.Margins(); }
     /// Makes `label` the grid's current label, from which the arrow keys move on.
     void MakeCurrent(QtLabel& label);
     /// Gives the focus to the grid's current label. A control that has lost it gets it no more.
@@ -56,16 +56,16 @@ protected:
 
 private:
     void ApplySize();
-    void CheckFrame(bool trustZero);
+    void Arrange();
     void Activate();
     void ArrangeTabOrder();
 
     Form& mForm;
     QtPlatform& mPlatform;
-    QMenuBar mMenuBar{this};
+    WindowFrame mFrame{*this};
+    QtMenuBar mMenuBar{*this};
     QWidget mClient{this};
     QtLabelGrid mGrid;
-    QMargins mFrame; // the window frame, assumed until it is known
 
     QPointer<QWidget> mLostFocus;    // had the focus until it was disabled or hidden
     QPointer<QWidget> mFocusInstead; // where Qt moved the focus then

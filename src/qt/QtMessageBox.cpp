@@ -33,6 +33,14 @@ QtMessageBox::QtMessageBox(const Message& message, QtForm* form) : QMessageBox(f
     WidenTo(MinWidth, *this);
 }
 
+// QMessageBox fixes its size. But if the desktop maximises it, it must take the size that it is
+// given: see WindowFrame.
+bool QtMessageBox::event(QEvent* event) {
+    const bool handled = QMessageBox::event(event);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    return handled;
+}
+
 void QtMessageBox::showEvent(QShowEvent* event) {
     QMessageBox::showEvent(event); // centres the box
     if (mForm == nullptr) return;

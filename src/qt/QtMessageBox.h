@@ -16,6 +16,7 @@ public:
     QtMessageBox(const Message& message, QtForm* form);
 
 protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
+#include <QSettings>
 #include <QStyleFactory>
 #include <QThread>
 
@@ -28,6 +29,8 @@ QtPlatform::QtPlatform(VersionRecord version) : mVersion(std::move(version)) {
     QFont font = QApplication::font();
     font.setPixelSize(UiPixelSize);
     QApplication::setFont(font);
+    // File dialogs would keep the folders visited in the user's settings.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     Platform::SetCurrent(this);
 }
 

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QMargins>
+#include <QSize>
+
+class QEvent;
+class QWidget;
+
+namespace tessarin::qt {
+
+/// Keeps the outer size of a window fixed. Qt's sizes are without the frame, whose thickness
+/// depends on the desktop and is known only some milliseconds after the window is shown. Until then
+/// a thin one is assumed.
+class WindowFrame {
+public:
+    explicit WindowFrame(QWidget& window) : mWindow(window) {}
+
+    /// `outer` includes the frame. Inside it the window is at least `leastHeight` high. In pixels.
+    void SetSize(QSize outer, int leastHeight);
+    /// What the frame leaves of the outer size.
+    QSize Inside() const;
+    const QMargins& Margins() const { return mMargins; }
+
+    /// To be called after each event of the window. Returns whether Inside has changed.
+    bool Follow(const QEvent& event);
+
+private:
+    bool Measure(bool trustZero);
+    void Fix();
+    void Release();
+
+    QWidget& mWindow;
+    QMargins mMargins{1, 20, 1, 1};
+    QSize mOuter;
+    int mlLeastHeight = 0;
+};
+
+} // namespace tessarin::qt
