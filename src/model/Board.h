@@ -7,20 +7,14 @@ namespace tessarin {
 class Fields;
 class Groups;
 
-/// Where the objects of the model find the grid and its groups: fields and groups refer to each
-/// other by number and look the numbers up here. The program's only Board is its Game.
+/// The grid and its groups. Fields and groups refer to each other by number and look the numbers up
+/// in goBoard.
 struct Board {
-    /// Becomes the current board.
-    Board();
-    Board(const Board&) = delete;
-    Board& operator=(const Board&) = delete;
-    virtual ~Board();
-
-    /// The current board. Throws std::logic_error when there is none.
-    static Board& Current();
-
     std::unique_ptr<tessarin::Fields> Fields;
-    std::unique_ptr<tessarin::Groups> Groups;
+    std::unique_ptr<tessarin::Groups> Groups; ///< none until they are built
 };
+
+/// The board of the one game, for the model, which knows no game. Set and cleared with goGame.
+inline Board* goBoard = nullptr;
 
 } // namespace tessarin

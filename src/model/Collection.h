@@ -35,7 +35,6 @@ public:
 
     auto begin() const { return mItems.begin(); }
     auto end() const { return mItems.end(); }
-    bool operator==(const Collection&) const = default;
 
 private:
     std::vector<T> mItems;

@@ -3,8 +3,7 @@
 #include "model/Board.h"
 #include "model/Fields.h"
 #include "model/Groups.h"
-
-#include <bit>
+#include "model/ValueSet.h"
 
 namespace tessarin {
 
@@ -16,13 +15,13 @@ void Field::Clear() {
 void Field::SetValue(int MyValue) {
     if (MyValue == mlValue) return;
     mlValue = MyValue;
-    Board::Current().Fields->FieldChanged(Index);
+    goBoard->Fields->FieldChanged(Index);
 }
 
 void Field::SetLocked(bool MyLocked) {
     if (MyLocked == mbLocked) return;
     mbLocked = MyLocked;
-    Board::Current().Fields->FieldChanged(0);
+    goBoard->Fields->FieldChanged(0);
 }
 
 void Field::GroupAdd(const Group& Grp) {
@@ -31,31 +30,31 @@ void Field::GroupAdd(const Group& Grp) {
         Neighbours.TryAdd(index);
 }
 
-ValueBits Field::FreeBits(int word) const {
-    const Board& board = Board::Current();
-    ValueBits taken = 0;
-    for (const int index : InGroups)
-        if (const auto* const group = board.Groups->Items.Find(index))
-            taken |= (*group)->HeldValues(board.Fields->Items, word) | BitOf(mlValue, word);
-    return AllValues(board.Fields->Numbers(), word) & ~taken;
+ValueSet Field::TakenValues() const {
+    ValueSet taken(goBoard->Fields->Numbers());
+    for (const int index : InGroups) {
+        const auto* const group = goBoard->Groups ? goBoard->Groups->Items.Find(index) : nullptr;
+        if (group == nullptr) continue;
+        taken.Add(mlValue); // a group that was registered by hand may not list this field
+        for (const int member : (*group)->Fields)
+            if (const auto* const field = goBoard->Fields->Items.Find(member))
+                taken.Add((*field)->Value());
+    }
+    return taken;
 }
 
 KeyedNumbers Field::FreeValues() const {
-    const int numbers = Board::Current().Fields->Numbers();
+    const ValueSet taken = TakenValues();
+    const int numbers = goBoard->Fields->Numbers();
     KeyedNumbers free;
     free.Reserve(numbers);
-    for (int word = 0; word < WordCount(numbers); ++word)
-        for (ValueBits bits = FreeBits(word); bits != 0; bits &= bits - 1)
-            free.Add(word * ValuesInWord + std::countr_zero(bits) + 1);
+    for (int value = 1; value <= numbers; ++value)
+        if (!taken.Contains(value)) free.Add(value);
     return free;
 }
 
 int Field::Freedom() const {
-    const int words = WordCount(Board::Current().Fields->Numbers());
-    int freedom = 0;
-    for (int word = 0; word < words; ++word)
-        freedom += std::popcount(FreeBits(word));
-    return freedom;
+    return goBoard->Fields->Numbers() - TakenValues().Count();
 }
 
 std::string Field::FreeValuesList() const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/KeyedNumbers.h"
-#include "model/ValueBits.h"
 
 #include <string>
 #include <string_view>
@@ -9,10 +8,11 @@
 namespace tessarin {
 
 class Group;
+class ValueSet;
 
 /// One cell of the grid: its value, its lock, and which values are still free for it. It refers to
 /// other fields and to groups by number and reports every change of value or lock to the grid of
-/// the current board. It checks nothing: any value can be stored, a locked field can be changed.
+/// goBoard. It checks nothing: any value can be stored, a locked field can be changed.
 ///
 /// Reporting a change raises the grid's events and pumps window events, so any command can run
 /// before a setter returns, even one that replaces the grid: a caller needs its own shared_ptr.
@@ -54,8 +54,8 @@ public:
     /// "index;value;lock" with lock 1 or 0; "" for an empty field unless WithEmpty.
     std::string TextCSV(bool WithEmpty = false) const;
     /// Clears the field, then sets value and lock from a line with its index, through the setters
-    /// above. Throws TypeMismatchError, std::overflow_error or std::out_of_range (too few items);
-    /// what was set before stays.
+    /// above; ignores WithEmpty. Throws TypeMismatchError, std::overflow_error or std::out_of_range
+    /// (too few items); what was set before stays.
     void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
     /// Clears the field, then stores the number as value and locks the field unless it is 0,
     /// without telling the grid. Throws TypeMismatchError or std::overflow_error; the field is then
@@ -63,7 +63,7 @@ public:
     void SetTextSDK(std::string_view MyTextSDK);
 
 private:
-    ValueBits FreeBits(int word) const;
+    ValueSet TakenValues() const;
 
     int mlValue = 0;
     bool mbLocked = false;

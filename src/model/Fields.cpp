@@ -1,7 +1,8 @@
 #include "model/Fields.h"
 
 #include "model/Board.h"
-#include "model/TakenValues.h"
+#include "model/Groups.h"
+#include "model/ValueSet.h"
 #include "platform/Platform.h"
 #include "platform/ScopedValue.h"
 
@@ -9,6 +10,7 @@
 #include <limits>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace tessarin {
 
@@ -19,6 +21,24 @@ int Square(int side) {
     if (square > std::numeric_limits<int>::max())
         throw std::overflow_error("the square of " + std::to_string(side) + " is above 32 bits");
     return static_cast<int>(square);
+}
+
+// The item at `position`, from 1, or nullptr.
+auto* Find(auto& items, int position) {
+    const auto offset = static_cast<std::size_t>(position) - 1;
+    return offset < items.size() ? &items[offset] : nullptr;
+}
+
+// What each group of the board holds, collected in one walk over the fields: to ask every empty
+// field for its Freedom would take four times as long.
+std::vector<ValueSet> HeldByGroup(const Collection<std::shared_ptr<Field>>& fields, int numbers) {
+    const int groups = goBoard->Groups ? goBoard->Groups->Items.Count() : 0;
+    std::vector<ValueSet> held(static_cast<std::size_t>(groups), ValueSet(numbers));
+    for (const auto& field : fields)
+        if (field->Value() != 0)
+            for (const int group : field->InGroups)
+                if (auto* const values = Find(held, group)) values->Add(field->Value());
+    return held;
 }
 
 } // namespace
@@ -45,17 +65,14 @@ std::string Fields::Init(int MyDimension) {
     Cursor.reset();
     Items = std::move(items);
     Events.Init.Raise();
-    MarkDirty();
+    ++mlChanges;
     return "";
 }
 
 void Fields::Clear(bool FreeOnly) {
-    {
-        const ScopedValue<bool> silence(mbNotify, false);
-        for (const auto& field : Items)
-            if (!FreeOnly || !field->Locked()) field->Clear();
-    }
-    MarkDirty();
+    for (const auto& field : Items)
+        if (!FreeOnly || !field->Locked()) field->Clear();
+    ++mlChanges;
     SetIndex(1);
 }
 
@@ -66,43 +83,35 @@ void Fields::SetLockAll(bool LockState) {
 }
 
 int Fields::FreeCount() {
-    UpdateStatus();
-    return mlFreeCount;
+    return UpdateStatus().Free;
 }
 
 int Fields::LockedCount() {
-    UpdateStatus();
-    return mlLockedCount;
+    return UpdateStatus().Locked;
 }
 
 int Fields::SetCount() {
-    UpdateStatus();
-    return mlSetCount;
+    return UpdateStatus().Set;
 }
 
 int Fields::NextFreeField() {
-    UpdateStatus();
-    return mlNextFreeField;
+    return UpdateStatus().NextFreeField;
 }
 
 bool Fields::IsWinner() {
-    UpdateStatus();
-    return mbIsWinner;
+    return UpdateStatus().IsWinner;
 }
 
 bool Fields::IsDeadEnd() {
-    UpdateStatus();
-    return mbIsDeadEnd;
+    return UpdateStatus().DeadField > 0;
 }
 
 int Fields::Status() {
-    UpdateStatus();
-    return mlStatus;
+    return UpdateStatus().Status;
 }
 
 int Fields::DeadField() {
-    UpdateStatus();
-    return mlDeadField;
+    return UpdateStatus().DeadField;
 }
 
 int Fields::DeadCount() const {
@@ -141,7 +150,7 @@ int Fields::Numbers() const {
 }
 
 void Fields::FieldChanged(int ThisIndex) {
-    MarkDirty();
+    ++mlChanges;
     if (!mbNotify) return;
     const int index = ThisIndex != 0 ? ThisIndex : Index();
     Events.StatusChanged.Raise(index);
@@ -155,30 +164,27 @@ void Fields::FieldChanged(int ThisIndex) {
     PumpEvents();
 }
 
-void Fields::MarkDirty() {
-    mbDirty = true;
-    ++mlChanges;
-}
-
 // Counts before it pumps, so that a count sees one state of the grid. If commands in the pumps have
 // changed the grid, it counts again without pumping: otherwise a stream of changes could go on for
 // ever.
-void Fields::UpdateStatus() {
-    if (!mbDirty) return;
+const Fields::Counts& Fields::UpdateStatus() {
+    if (mlCountedChanges == mlChanges) return mCounts;
     const auto changes = mlChanges;
     Counts counts = CountFields();
     Platform& platform = Platform::Current();
     for (int i = Items.Count(); i > 0; --i)
         platform.PumpEvents(Pump::WhenDue);
-    if (!mbDirty) return; // a command in the pumps has read the status
+    if (mlCountedChanges == mlChanges) return mCounts; // a command in the pumps has read the status
     if (mlChanges != changes) counts = CountFields();
-    TakeOver(std::move(counts));
+    Publish(std::move(counts));
+    return mCounts;
 }
 
 Fields::Counts Fields::CountFields() const {
-    const TakenValues taken(Board::Current());
+    const int numbers = Numbers();
+    const std::vector<ValueSet> held = HeldByGroup(Items, numbers);
     Counts counts;
-    int smallestFreedom = Numbers() + 1;
+    int smallestFreedom = numbers + 1;
     for (const auto& field : Items) {
         if (field->Locked()) ++counts.Locked;
         if (field->Value() != 0) {
@@ -186,7 +192,10 @@ Fields::Counts Fields::CountFields() const {
             continue;
         }
         ++counts.Free;
-        const int freedom = taken.FreedomOfEmpty(*field);
+        ValueSet taken(numbers);
+        for (const int group : field->InGroups)
+            if (const auto* const values = Find(held, group)) taken.Add(*values);
+        const int freedom = numbers - taken.Count();
         if (freedom == 0) {
             counts.DeadFields.Add(field->Index);
         } else if (freedom < smallestFreedom) {
@@ -194,29 +203,22 @@ Fields::Counts Fields::CountFields() const {
             counts.NextFreeField = field->Index;
         }
     }
+    counts.IsWinner = counts.Free == 0;
+    if (counts.DeadFields.Count() > 0) counts.DeadField = counts.DeadFields.Item(1);
     return counts;
 }
 
 // The status compares the new count with the last one, however many changes lie between them.
-void Fields::TakeOver(Counts counts) {
-    const bool isWinner = counts.Free == 0;
-    const int deadField = counts.DeadField();
-    const bool isDeadEnd = deadField > 0;
-    if (isWinner || isWinner != mbIsWinner)
-        mlStatus = 0;
-    else if (isDeadEnd || deadField != mlDeadField)
-        mlStatus = 2;
+void Fields::Publish(Counts counts) {
+    if (counts.IsWinner || mCounts.IsWinner)
+        counts.Status = 0;
+    else if (counts.DeadField > 0 || mCounts.DeadField > 0)
+        counts.Status = 2;
     else
-        mlStatus = 1;
-    mbIsWinner = isWinner;
-    mbIsDeadEnd = isDeadEnd;
-    mlDeadField = deadField;
-    mlFreeCount = counts.Free;
-    mlLockedCount = counts.Locked;
-    mlSetCount = counts.Set;
-    mlNextFreeField = counts.NextFreeField;
+        counts.Status = 1;
     DeadFields = std::move(counts.DeadFields);
-    mbDirty = false;
+    mCounts = std::move(counts);
+    mlCountedChanges = mlChanges;
 }
 
 } // namespace tessarin

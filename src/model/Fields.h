@@ -52,9 +52,9 @@ public:
 
     /// The grid as text: "Index;Value;Locked" and a line for each field with a value (or for all).
     std::string TextCSV(bool WithEmpty = false) const;
-    /// Rebuilds the grid with dimension 3 from such a text. A text with another first line leaves
-    /// it empty. Throws what Field::SetTextCSV throws, and std::out_of_range for an index outside
-    /// 1 to 81; what was loaded before stays. Raises Init only.
+    /// Rebuilds the grid with dimension 3 from such a text; ignores WithEmpty. A text with another
+    /// first line leaves it empty. Throws what Field::SetTextCSV throws, and std::out_of_range for
+    /// an index outside 1 to 81; what was loaded before stays. Raises Init only.
     void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
     /// The grid as text: "\"Sudoku\"" and a line of values for each row.
     std::string TextSDK() const;
@@ -99,33 +99,28 @@ public:
 private:
     // What one pass over all fields counts.
     struct Counts {
-        int Set = 0;
         int Free = 0;
         int Locked = 0;
+        int Set = 0;
         int NextFreeField = 0;
+        int DeadField = 0;
+        bool IsWinner = false;
+        int Status = 0; // found by Publish
         KeyedNumbers DeadFields;
-        int DeadField() const { return DeadFields.Count() > 0 ? DeadFields.Item(1) : 0; }
     };
 
-    void MarkDirty();
-    void UpdateStatus();
+    // Counts the fields if anything has changed since the last count.
+    const Counts& UpdateStatus();
     Counts CountFields() const;
-    void TakeOver(Counts counts);
+    void Publish(Counts counts);
     void LoadCSVLine(std::string_view line);
     void LoadSDKRow(int row, std::string_view line);
 
-    int mlSetCount = 0;
-    int mlFreeCount = 0;
-    int mlLockedCount = 0;
-    int mlNextFreeField = 0;
-    int mlStatus = 0;
-    bool mbIsWinner = false;
-    bool mbIsDeadEnd = false;
-    bool mbDirty = false;
+    Counts mCounts;
     bool mbNotify = true; // false: changes of fields raise no events
     int mlDimension = 0;
-    int mlDeadField = 0;
-    unsigned mlChanges = 0; // how often the status was made dirty
+    unsigned mlChanges = 0;        // of fields, so far
+    unsigned mlCountedChanges = 0; // of them, those that mCounts knows; if fewer, it is out of date
 };
 
 } // namespace tessarin

@@ -1,14 +1,10 @@
 #pragma once
 
 #include "model/Collection.h"
-#include "model/ValueBits.h"
 
-#include <memory>
 #include <string>
 
 namespace tessarin {
-
-class Field;
 
 /// A set of fields of which no two may hold the same value: a row, a column or a box.
 class Group {
@@ -21,10 +17,6 @@ public:
 
     /// The name of the flavor: "horizontal", "vertikal", "diagonal", "box" or "(unbekannt)".
     std::string FlavorText() const;
-
-    /// The values in `word` that the group's fields hold. `items` are the grid's fields; indices
-    /// outside them are ignored.
-    ValueBits HeldValues(const Collection<std::shared_ptr<Field>>& items, int word) const;
 };
 
 } // namespace tessarin

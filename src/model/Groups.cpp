@@ -8,7 +8,7 @@ namespace tessarin {
 namespace {
 
 Fields& Grid() {
-    return *Board::Current().Fields;
+    return *goBoard->Fields;
 }
 
 } // namespace

@@ -12,7 +12,7 @@ class Groups {
 public:
     Collection<std::shared_ptr<Group>> Items; ///< the group with Index g at position g
 
-    /// Builds the groups of the current board's grid.
+    /// Builds the groups of goBoard's grid.
     Groups() { Init(); }
     Groups(const Groups&) = delete;
     Groups& operator=(const Groups&) = delete;

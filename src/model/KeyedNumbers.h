@@ -24,7 +24,6 @@ public:
 
     auto begin() const { return mNumbers.begin(); }
     auto end() const { return mNumbers.end(); }
-    bool operator==(const KeyedNumbers& other) const { return mNumbers == other.mNumbers; }
 
 private:
     std::vector<int> mNumbers;

@@ -16,11 +16,12 @@ std::string_view FirstLine(std::string_view text) {
     return text.substr(0, text.find(LineBreak));
 }
 
-// The dimension of a grid with that number of rows, 0 if there is none. The grid itself refuses
-// dimension 4.
-int DimensionOfRows(std::size_t rows) {
-    for (const std::size_t dimension : {3U, 4U, 5U})
-        if (rows == dimension * dimension) return static_cast<int>(dimension);
+// The dimension of the grid whose SDK text has that number of lines: the header, the rows, and an
+// empty line after the last line break. 0 if there is none; 16 rows would be of dimension 4, which
+// the grid refuses.
+int DimensionOfLines(std::size_t lines) {
+    for (const std::size_t dimension : {3U, 5U})
+        if (lines == 1 + dimension * dimension + 1) return static_cast<int>(dimension);
     return 0;
 }
 
@@ -54,8 +55,9 @@ std::string Fields::TextCSV(bool WithEmpty) const {
 }
 
 void Fields::SetTextCSV(std::string_view MyTextCSV, bool /*WithEmpty*/) {
-    Init(3); // marks the status dirty for all that follows, even for a load that fails
+    Init(3);
     if (FirstLine(MyTextCSV) != HeaderCSV) return;
+    ++mlChanges; // also of a load that fails
     const ScopedValue<bool> silence(mbNotify, false);
     TextItems lines(MyTextCSV, LineBreak);
     for (lines.Next(); !lines.AtEnd();)
@@ -81,10 +83,10 @@ std::string Fields::TextSDK() const {
 void Fields::SetTextSDK(std::string_view MyTextCSV) {
     if (FirstLine(MyTextCSV) != HeaderSDK) return;
     TextItems lines(MyTextCSV, LineBreak);
-    // Two lines are no rows: the header, and the empty one after the last line break.
-    const int dimension = DimensionOfRows(CountItems(lines) - 2);
-    if (dimension == 0 || !Init(dimension).empty()) return;
-    const ScopedValue<bool> silence(mbNotify, false);
+    const int dimension = DimensionOfLines(CountItems(lines));
+    if (dimension == 0) return;
+    Init(dimension);
+    ++mlChanges; // also of a load that fails
     lines.Next();
     for (int row = 1; !lines.AtEnd(); ++row)
         LoadSDKRow(row, lines.Next());

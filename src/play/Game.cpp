@@ -15,8 +15,11 @@ Connection Relay(Event<int>& from, const Event<int>& to) {
 
 } // namespace
 
+// Here the two roads to the game begin, which lead to the same object: play and the window read
+// goGame; the model, which may not include play, reads goBoard.
 Game::Game() {
     goGame = this;
+    goBoard = this;
     Fields = std::make_unique<tessarin::Fields>();
     auto& grid = Fields->Events;
     mConnections = {Relay(grid.BeforeIndexChanged, Events.BeforeIndexChanged),
@@ -33,7 +36,9 @@ Game::~Game() {
     Play.reset();
     Groups.reset();
     Fields.reset();
-    if (goGame == this) goGame = nullptr;
+    if (goGame != this) return; // another game has taken its place
+    goBoard = nullptr;
+    goGame = nullptr;
 }
 
 } // namespace tessarin

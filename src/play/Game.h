@@ -29,7 +29,7 @@ public:
 
     /// An empty grid of dimension 3, its groups and a player without history.
     Game();
-    ~Game() override;
+    ~Game();
 
     GameEvents Events;
     std::unique_ptr<tessarin::Play> Play;

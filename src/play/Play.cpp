@@ -1,22 +1,17 @@
 #include "play/Play.h"
 
-#include "model/Board.h"
-#include "model/Fields.h"
 #include "platform/Platform.h"
+#include "play/Game.h"
 
 namespace tessarin {
 
 namespace {
 
 Fields& Grid() {
-    return *Board::Current().Fields;
+    return *goGame->Fields;
 }
 
 } // namespace
-
-Play::Play()
-    // Connected to every change, but no change needs an action here.
-    : moFields_StatusChanged(Grid().Events.StatusChanged.Connect([](int) {})) {}
 
 void Play::Reset() {
     History.reset();
@@ -47,24 +42,27 @@ bool Play::GoBackToFreedom(bool AutoValue) {
     ++Retries;
     const int oldValue = Value();
     const int start = Grid().Index();
-    for (;;) {
-        const int index = Grid().Index();
-        const int entries = History ? History->Count() : 0;
-        GoBack();
+    const auto hasFreedom = [] {
         const auto field = Grid().Cursor;
-        if (!field) break;
-        if (field->Freedom() > 0) {
-            if (AutoValue) SetValue(0, true);
-            break;
-        }
-        if (!History || History->Count() == 0) break;
-        // No progress: the newest entry is an empty field without free values.
-        if (Grid().Index() == index && History->Count() >= entries) break;
+        return field && field->Freedom() > 0;
+    };
+    while (StepBack() && !hasFreedom()) {
     }
+    if (AutoValue && hasFreedom()) SetValue(0, true);
     if (Grid().Index() != start) return true;
     if (const auto field = Grid().Cursor) field->SetValue(oldValue);
     Platform::Current().Beep();
     return false;
+}
+
+// Goes back, and says whether one more step could lead on: there is a history, and this step has
+// moved the cursor or shortened it. It has not if the newest entry is the cursor field itself, and
+// that field is empty.
+bool Play::StepBack() {
+    const int index = Grid().Index();
+    const int entries = Entries();
+    GoBack();
+    return Entries() > 0 && (Grid().Index() != index || Entries() < entries);
 }
 
 int Play::Value(bool /*AutoValue*/) const {
@@ -78,28 +76,28 @@ void Play::SetValue(int MyValue, bool AutoValue) {
     const int value = AutoValue ? field->NextFreeValue() : MyValue;
     if (AutoValue && value == 0) return;
     if (value != 0)
-        Enter(*field, value);
+        EnterValue(*field, value);
     else if (field->Value() != 0)
-        Empty(*field);
+        EmptyField(*field);
     else
         GotoNewestEntry();
 }
 
-void Play::Enter(Field& field, int value) {
+void Play::EnterValue(Field& field, int value) {
     if (field.Value() == value || !field.FreeValues().Contains(value)) return;
     field.SetValue(value);
     if (mbTracing) AddToHistory(field.Index);
 }
 
-void Play::Empty(Field& field) {
+void Play::EmptyField(Field& field) {
     field.SetValue(0);
     if (mbTracing && History) History->Remove(field.Index);
     GotoNewestEntry();
 }
 
 void Play::GotoNewestEntry() {
-    if (!mbTracing || !History || History->Count() == 0) return;
-    const int newest = History->Item(History->Count());
+    if (!mbTracing || Entries() == 0) return;
+    const int newest = History->Item(Entries());
     if (newest <= Grid().Items.Count()) Grid().SetIndex(newest); // else left from a larger grid
 }
 

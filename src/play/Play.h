@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/Event.h"
 #include "model/KeyedNumbers.h"
 
 #include <memory>
@@ -19,8 +18,8 @@ class Field;
 /// SetValue keeps the field that it began with.
 class Play {
 public:
-    /// Attaches itself to the grid of the current game. Tracing is off.
-    Play();
+    /// A player without history, for the grid of goGame.
+    Play() = default;
     Play(const Play&) = delete;
     Play& operator=(const Play&) = delete;
 
@@ -51,12 +50,12 @@ public:
     /// system beeps. With AutoValue the field with freedom takes its next free value.
     bool GoBackToFreedom(bool AutoValue = false);
 
-    /// The cursor field's value, 0 without a cursor.
+    /// The cursor field's value, 0 without a cursor. AutoValue is ignored.
     int Value(bool AutoValue = false) const;
     /// Enters a free value into the cursor field and, while tracing, adds the field to the history.
     /// 0 empties the field, removes it from the history and moves the cursor to the newest entry
-    /// left; from an empty field it only moves there. With AutoValue the value is the next free
-    /// one, if any.
+    /// left; from an empty field it only moves there. With AutoValue MyValue is ignored and the
+    /// value is the next free one, if any.
     void SetValue(int MyValue, bool AutoValue = false);
 
     /// The cursor field's lock, False without a cursor.
@@ -75,13 +74,14 @@ public:
 
 private:
     void AddToHistory(int Index);
-    void Enter(Field& field, int value);
-    void Empty(Field& field);
+    void EnterValue(Field& field, int value);
+    void EmptyField(Field& field);
     void GotoNewestEntry();
+    int Entries() const { return History ? History->Count() : 0; }
+    bool StepBack();
     void Retreat();
 
     bool mbTracing = false;
-    Connection moFields_StatusChanged;
 };
 
 } // namespace tessarin

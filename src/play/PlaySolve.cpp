@@ -1,13 +1,10 @@
-#include "play/Play.h"
-
-#include "model/Board.h"
-#include "model/Fields.h"
+#include "play/Game.h"
 #include "support/modKbd.h"
 
 namespace tessarin {
 
 void Play::Solve() {
-    auto& grid = *Board::Current().Fields;
+    auto& grid = *goGame->Fields;
     Retries = 0;
     ClearCancel();
     SetTracing(true);
@@ -27,7 +24,7 @@ void Play::Retreat() {
         if (!GoBackToFreedom()) return;
     } while (NextFreeValue() < 1);
     // Not through Play::SetValue: a field that has left the history does not come back into it.
-    if (const auto field = Board::Current().Fields->Cursor) field->SetValue(field->NextFreeValue());
+    if (const auto field = goGame->Fields->Cursor) field->SetValue(field->NextFreeValue());
 }
 
 } // namespace tessarin

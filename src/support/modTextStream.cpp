@@ -21,8 +21,8 @@ std::string TwoBytesEach(const std::string& text) {
 }
 
 // Returns 0 or the system's error number.
-int Write(const std::string& fileName, const std::string& bytes, bool replaceExisting) {
-    std::FILE* const file = std::fopen(fileName.c_str(), replaceExisting ? "wb" : "wbx");
+int Write(const std::string& FileName, const std::string& bytes, bool replaceExisting) {
+    std::FILE* const file = std::fopen(FileName.c_str(), replaceExisting ? "wb" : "wbx");
     if (file == nullptr) return errno;
     const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
     const int error = errno;
@@ -33,28 +33,28 @@ int Write(const std::string& fileName, const std::string& bytes, bool replaceExi
 
 } // namespace
 
-std::string ReadTextFile(const std::string& fileName) {
+std::string ReadTextFile(const std::string& FileName) {
     // A pipe or device could block for ever or never end.
     std::error_code error;
-    if (!std::filesystem::is_regular_file(fileName, error)) return "";
+    if (!std::filesystem::is_regular_file(FileName, error)) return "";
     try {
-        std::ifstream file(fileName, std::ios::binary);
+        std::ifstream file(FileName, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     } catch (const std::exception&) { // a read error, or more than fits into the memory
         return "";
     }
 }
 
-std::string WriteTextFile(const std::string& fileName, const std::string& text,
+std::string WriteTextFile(const std::string& FileName, const std::string& text,
                           const std::string& charset, bool replaceExisting) {
     const int error =
-        Write(fileName, charset == "unicode" ? TwoBytesEach(text) : text, replaceExisting);
+        Write(FileName, charset == "unicode" ? TwoBytesEach(text) : text, replaceExisting);
     if (error == 0) return "";
-    return "File=" + fileName + ", Err=" + std::generic_category().message(error);
+    return "File=" + FileName + ", Err=" + std::generic_category().message(error);
 }
 
-std::string DetectCharset(const std::string& fileName) {
-    const std::string text = ReadTextFile(fileName);
+std::string DetectCharset(const std::string& FileName) {
+    const std::string text = ReadTextFile(FileName);
     if (text.empty()) return "";
     if (text.starts_with(BomUnicode())) return "unicode";
     if (text.starts_with(BomUtf8())) return "utf-8";

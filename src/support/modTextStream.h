@@ -8,19 +8,19 @@ namespace tessarin {
 
 /// The whole content of the file, or "" when it is missing, empty, unreadable or not an ordinary
 /// file (a folder, a device, a pipe).
-std::string ReadTextFile(const std::string& fileName);
+std::string ReadTextFile(const std::string& FileName);
 
 /// Writes `text` to a new file; with `replaceExisting` also over an existing one. The character set
 /// "unicode" writes each character as two bytes, the low one first; any other set writes the text
 /// unchanged. Returns "" or, on failure, "File=" + name + ", Err=" + the system's description. An
 /// existing file that is not to be replaced stays untouched; after a write error the file may be
 /// empty or incomplete.
-std::string WriteTextFile(const std::string& fileName, const std::string& text,
+std::string WriteTextFile(const std::string& FileName, const std::string& text,
                           const std::string& charset, bool replaceExisting);
 
 /// "unicode" or "utf-8" by the file's byte-order mark, "x-ansi" without one, "" when it is empty or
 /// cannot be read.
-std::string DetectCharset(const std::string& fileName);
+std::string DetectCharset(const std::string& FileName);
 
 std::string BomUnicode(); ///< the codes 255, 254
 std::string BomUtf8();    ///< the codes 239, 187, 191
