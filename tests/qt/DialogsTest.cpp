@@ -18,12 +18,12 @@ TEST_F(DialogsTest, BoxesHaveTheirTitlesIconsAndButtons) {
 
 TEST_F(DialogsTest, BoxesDoNotCoverTheGridIfTheScreenHasRoom) {
     const QRect fields = Widget("lblField(1)").geometry() | Widget("lblField(81)").geometry();
-    for (const bool room : {true, false}) {
+    for (const bool onTheRight : {true, false}) {
         const QRect screen = form->screen()->availableGeometry();
-        form->move(room ? screen.topLeft() : screen.topRight() - QPoint(form->width(), 0));
+        form->move(onTheRight ? screen.topLeft() : screen.topRight() - QPoint(form->width(), 0));
         WhileOpen = [&](QDialog& box) {
             const QPoint client = form->mapToGlobal(MenuBar().geometry().bottomLeft());
-            EXPECT_EQ(box.frameGeometry().intersects(fields.translated(client)), !room);
+            EXPECT_FALSE(box.frameGeometry().intersects(fields.translated(client)));
             EXPECT_TRUE(screen.contains(box.frameGeometry()));
         };
         Script("answer OK & menu mnuViewNeighbours & activate");

@@ -90,7 +90,7 @@ TEST_F(SolvingTest, RotorTurnsAfterEachPauseAndDuringACommandInsideItsTick) {
     platform.Sleep(30);
     EXPECT_EQ(ticks, before) << "ticks wait for the next pump";
     window.ctlRotor1.SetRunning(false);
-    EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#2f5d8c"));
+    EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#4a86c8"));
 }
 
 } // namespace tessarin
