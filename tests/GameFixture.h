@@ -26,9 +26,6 @@ protected:
         });
         Listen(game.Events.IsWinner, [this](int i) { Tell("winner ", i); });
         Listen(game.Events.IsDeadEnd, [this](int i) { Tell("dead ", i); });
-        mCommands["init"] = [this](int dimension, auto&) { Tell(grid.Init(dimension)); };
-        mCommands["value"] = [this](int digit, auto&) { play.SetValue(digit); };
-        mCommands["auto"] = [this](int digit, auto&) { play.SetValue(digit, true); };
     }
     void Listen(auto& event, auto handler) { mEvents.push_back(event.Connect(handler)); }
 

@@ -12,16 +12,13 @@ TEST_P(NestingTest, LeavesNothingStuckAndAllPainted) {
     const std::string outer = ReplaceAll(ReplaceAll(GetParam(), "#", "50"), "*", "5");
     for (const std::string inner :
          {"click lblField(40)", "click btnNumPad(11)", "click btnNextFreeAuto", "click btnSolve",
-          "click btnGoBackToFreedom", "click mnuEditClearAll", "click mnuEditLockAllSet",
-          "click mnuViewNeighbours", "import 5;3;1|41;4;0", "click mnuFileQuit"})
-        for (const int pump : {1, 2, 3, 5, 8, 13, 21, 34, 55, 89, 144, 233, 377, 610}) {
+          "click mnuEditClearAll", "click mnuViewNeighbours", "import 5;3;1|41;4;0",
+          "click mnuFileQuit"})
+        for (const int pump : {1, 2, 3, 5, 8, 13, 34, 89, 233, 610}) {
             SCOPED_TRACE(outer + " with " + inner + " in pump " + std::to_string(pump));
             FakeWindow user;
-            user.Do(R"(
-                full 41 1 9 21 45 62 80 81 & trace 3 40
-                lock 3 1 & click optChill(2)
-                click lblField(40) & click lblField(3)
-            )");
+            user.Do("full 41 1 9 21 45 80 & trace 3 40");
+            user.Do("click optChill(2) & click lblField(3)");
             user.platform.Answers.assign(9, "Yes");
             bool ran = false;
             user.platform.AtPump(pump, [&] {

@@ -46,60 +46,59 @@ Script::Script(Recorder& recorder, Game& played)
       mRecorder(recorder) {
     std::filesystem::create_directory(folder);
     recorder.History = [this] {
-        return play.History ? std::vector(play.History->begin(), play.History->end())
-                            : std::vector<int>();
+        const KeyedNumbers history = play.History.value_or(KeyedNumbers());
+        return std::vector(history.begin(), history.end());
     };
     recorder.Meanwhile = [this] {
         for (const Row& row : std::exchange(mDuring, {}))
             Run(row);
     };
     mChanges = game.Events.StatusChanged.Connect([this](int) { mRecorder.Meanwhile(); });
+    AddCommands();
+}
+
+void Script::AddCommands() {
+    const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
     const auto lines = [](const auto& text) { return ReplaceAll(text, "|", "\r\n"); };
-    mCommands = {
-        {"fill", [&](int, auto& cells) { Fill(cells); }},
-        // A full grid but for some fields; the first of them becomes the current one.
-        {"full",
-         [&](int first, auto& empty) {
-             Fill("123456789 456789123 789123456 234567891 567891234 891234567 345678912 "
-                  "678912345 912345678");
-             for (const int index : Numbers(empty))
-                 At(index).SetValue(0);
-             grid.SetIndex(first);
-         }},
-        {"index", [&](int i, auto&) { grid.SetIndex(i); }},
-        {"set", [&](int i, auto& text) { At(i).SetValue(Numbers(text).at(1)); }},
-        {"lock", [&](int i, auto& text) { At(i).SetLocked(Numbers(text).at(1) == 1); }},
-        {"csv", [&, lines](int, auto& text) { grid.SetTextCSV(lines(text)); }},
-        {"is", [&](int, auto&) { Tell(grid.TextCSV().substr(18)); }},
-        {"cursor", [&](int, auto&) { Tell(grid.Index()); }},
-        // How many fields are empty, locked and entered, the next free field, and all dead fields.
-        {"counts",
-         [&](int, auto&) {
-             std::vector counts{grid.FreeCount(), grid.LockedCount(), grid.SetCount(),
-                                grid.NextFreeField()};
-             counts.insert(counts.end(), grid.DeadFields->begin(), grid.DeadFields->end());
-             Tell(Text(counts));
-         }},
-        {"history", [&](int, auto&) { Tell(play.History ? Text(*play.History) : "off"); }},
-        {"trace", // with this history
-         [&](int, auto& history) {
-             play.Reset();
-             play.SetTracing(true);
-             for (const int index : Numbers(history))
-                 play.History->Add(index);
-         }},
-        {"write", // a file: its name, and lines separated by "|"
-         [&, lines](int, auto& text) {
-             const auto end = std::min(text.find(' '), text.size() - 1);
-             const auto name = folder + text.substr(0, end);
-             WriteTextFile(name, lines(text.substr(end + 1)), "", true);
-         }},
-        {"read", [&](int, auto& name) { Tell(ReadTextFile(folder + name)); }},
-        {"pump", // runs a step in a later one
-         [&](int n, auto& text) {
-             mRecorder.AtPump(n, [this, step = text.substr(text.find(' ') + 1)] { Step(step); });
-         }},
-    };
+    // Nine groups of nine make a whole grid; "." and all that is left out is empty.
+    add("fill", [this](int, auto& cells) { Fill(cells); });
+    // A full grid but for some fields; the first of them becomes the current one.
+    add("full", [this](int first, auto& empty) {
+        Fill("123456789456789123789123456234567891567891234891234567345678912678912345912345678");
+        for (const int index : Numbers(empty))
+            At(index).SetValue(0);
+        grid.SetIndex(first);
+    });
+    add("index", [this](int i, auto&) { grid.SetIndex(i); });
+    add("set", [this](int i, auto& text) { At(i).SetValue(Numbers(text).at(1)); });
+    add("lock", [this](int i, auto& text) { At(i).SetLocked(Numbers(text).at(1) == 1); });
+    add("csv", [=, this](int, auto& text) { grid.SetTextCSV(lines(text)); });
+    add("is", [this](int, auto&) { Tell(grid.TextCSV().substr(18)); });
+    add("cursor", [this](int, auto&) { Tell(grid.Index()); });
+    // How many fields are empty, locked and entered, the next free field, and all dead fields.
+    add("counts", [this](int, auto&) {
+        std::vector counts{grid.FreeCount(), grid.LockedCount(), grid.SetCount(),
+                           grid.NextFreeField()};
+        counts.insert(counts.end(), grid.DeadFields->begin(), grid.DeadFields->end());
+        Tell(Text(counts));
+    });
+    add("history", [this](int, auto&) { Tell(play.History ? Text(*play.History) : "off"); });
+    add("trace", [this](int, auto& history) { // with this history
+        play.Reset();
+        play.SetTracing(true);
+        for (const int index : Numbers(history))
+            play.History->Add(index);
+    });
+    add("write", [=, this](int, auto& text) { // a file: its name, and lines separated by "|"
+        std::istringstream words(text);
+        std::string name, content;
+        std::getline(words >> name >> std::ws, content);
+        WriteTextFile(folder + name, lines(content), "", true);
+    });
+    add("read", [this](int, auto& name) { Tell(ReadTextFile(folder + name)); });
+    add("pump", [this](int n, auto& text) {
+        mRecorder.AtPump(n, [this, step = text.substr(text.find(' '))] { Step(step); });
+    });
 }
 
 Script::~Script() {
@@ -127,18 +126,13 @@ void Script::Run(const Row& row) {
     if (row.Text.starts_with("during "))
         return mDuring.push_back({row.Text.substr(7), row.Line, row.File});
     const testing::ScopedTrace trace(row.File, row.Line, row.Text);
-    const auto end = std::min(row.Text.find(" >"), row.Text.size());
-    const std::string steps = row.Text.substr(0, end);
-    std::string told;
-    for (std::size_t begin = 0, next = 0; next != std::string::npos; begin = next + 3) {
-        next = steps.find(" & ", begin);
-        told = Told(steps.substr(begin, next - begin));
-        if (next != std::string::npos || end == row.Text.size()) {
-            EXPECT_EQ(told.find("! "), std::string::npos) << told;
-        }
-    }
-    if (end < row.Text.size()) {
-        EXPECT_EQ(told, row.Text.substr(std::min(end + 3, row.Text.size())));
+    std::istringstream steps(ReplaceAll(row.Text, " & ", "\n"));
+    for (std::string step; std::getline(steps, step);) {
+        const auto end = std::min(step.find(" >"), step.size());
+        const std::string told = Told(step.substr(0, end));
+        const bool checked = end < step.size();
+        EXPECT_EQ(told, checked ? step.substr(std::min(end + 3, step.size())) : told) << step;
+        EXPECT_TRUE(checked || told.find("! ") == std::string::npos) << step << ": " << told;
     }
 }
 
@@ -160,6 +154,17 @@ void Script::Step(const std::string& step) {
         Tell("! ", error.what());
     }
     Tell(""); // what has changed without being told
+}
+
+std::vector<Story> SplitStories(const std::string& text, int line, const char* file) {
+    std::vector<Story> stories;
+    std::istringstream rows(text);
+    for (std::string row; std::getline(rows, row); ++line)
+        if (row.ends_with(':'))
+            stories.push_back({row.substr(4, row.size() - 5), "", line, file});
+        else if (!stories.empty())
+            stories.back().Rows += "\n" + row;
+    return stories;
 }
 
 } // namespace tessarin

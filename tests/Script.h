@@ -10,9 +10,9 @@
 //     Beep        a call of the machine; also: Sleep(100), Box(title|text|icon buttons)
 //     (83)        so many pumps of window events, if pumps are told
 //     ! text      the step has ended with this error
-// Line breaks are told as "|", files without the test's folder. A row without " > " passes unless
-// there is an error. The rest of a row "during ..." runs in the next box, pause or change of a
-// field, that of "pump 3 ..." inside the third pump from now. After a failure no row is run.
+// Line breaks are told as "|", files without the test's folder. A step without " > " passes unless
+// it ends with an error. The rest of a row "during ..." runs in the next box, pause or change of a
+// field, a step behind "pump 3" inside the third pump from now. After a failure no row is run.
 #pragma once
 
 #include "Recorder.h"
@@ -71,11 +71,41 @@ private:
         int Line;
         const char* File;
     };
+    void AddCommands();
     void Run(const Row& row);
     void Step(const std::string& step);
 
     std::vector<Row> mDuring;
     Connection mChanges;
+};
+
+/// A test that is nothing but a script.
+struct Story {
+    std::string Name;
+    std::string Rows;
+    int Line;
+    const char* File;
+};
+/// Splits a text into stories: a row that ends with ":" is the name of the one below it.
+std::vector<Story> SplitStories(const std::string& text, int line, const char* file);
+
+/// Makes each story of a text a test of its own.
+template <class Fixture>
+class Stories {
+public:
+    Stories(const char* suite, const std::string& text, int line = __builtin_LINE(),
+            const char* file = __builtin_FILE()) {
+        for (const Story& story : SplitStories(text, line, file))
+            testing::RegisterTest(suite, story.Name.c_str(), nullptr, nullptr, file, story.Line,
+                                  [=]() -> Fixture* { return new Test(story); });
+    }
+
+private:
+    struct Test : Fixture {
+        explicit Test(Story story) : mStory(std::move(story)) {}
+        void TestBody() override { this->Do(mStory.Rows, mStory.Line, mStory.File); }
+        Story mStory;
+    };
 };
 
 } // namespace tessarin

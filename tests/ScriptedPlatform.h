@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <utility>
+#include <vector>
 
 namespace tessarin {
 
@@ -17,8 +17,8 @@ public:
     ScriptedPlatform() { Platform::SetCurrent(this); }
     ~ScriptedPlatform() override { Platform::SetCurrent(nullptr); }
 
-    std::deque<int> Esc;             ///< the next answers to EscPressed; not pressed after them
-    std::deque<std::string> Answers; ///< to the next questions, "Yes" or "No"
+    std::vector<int> Esc;             ///< the next answers to EscPressed; not pressed after them
+    std::vector<std::string> Answers; ///< to the next questions, "Yes" or "No"
     std::string Folder = ".";
     bool Hourglass = false;     ///< the mouse pointer
     bool Closed = false;        ///< the window is closed: no pumps, sleeps and questions
@@ -65,10 +65,10 @@ public:
 
 private:
     template <class T>
-    static T Next(std::deque<T>& list) {
+    static T Next(std::vector<T>& list) {
         if (list.empty()) return {};
         T next = std::move(list.front());
-        list.pop_front();
+        list.erase(list.begin());
         return next;
     }
     int mWindowStyle = 0x10;

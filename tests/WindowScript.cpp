@@ -48,17 +48,15 @@ WindowScript::WindowScript(Recorder& recorder, frmTessarin& worked)
         for (const int index : Numbers(indices))
             Tell(Field(index));
     });
-    add("marked", [this](int, auto&) {
-        for (int i = 1; i <= 81; ++i)
-            if (window.lblField(i).BackColor() == Yellow) Tell(i);
-    });
-    add("pad", [this](int, auto&) { Tell(Pad()); });
     // The dead-end and the winner light.
     add("lights", [this](int, auto&) {
         Tell(NameOf(window.lblDeadEnd.BackColor()), " ", NameOf(window.lblWinner.BackColor()));
     });
-    add("file", [this](int, auto&) { Tell(window.lblFile.Caption()); });
-    add("width", [this](int, auto&) { Tell(window.Width()); });
+    add("export", [this](int, auto& file) {
+        Answer(folder + file);
+        Click("mnuFileExportCSV");
+    });
+    add("faults", [this](int, auto&) { Tell(Faults()); });
 }
 
 std::string WindowScript::Field(int index) {
@@ -72,7 +70,6 @@ std::string WindowScript::Field(int index) {
     return look.str();
 }
 
-// The visible keys, the enabled keys and the background.
 std::string WindowScript::Pad() {
     std::string visible, enabled;
     for (int key = 0; key <= 11; ++key) {

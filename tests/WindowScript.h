@@ -24,8 +24,9 @@ public:
     /// What is wrong while no command runs: something is stuck, or grid and window do not agree.
     std::string Faults();
 
-private:
+protected:
     std::string Field(int index);
+    /// The visible keys, the enabled keys and the background.
     std::string Pad();
 };
 

@@ -9,6 +9,7 @@ QtPeer::QtPeer(Control& control, QWidget& widget, QtForm& form)
     : mControl(control), mForm(form), mWidget(widget) {
     mWidget.setObjectName(ToQt(control.Name()));
     mWidget.setFont(ToQt(control.Font()));
+    ShowTexts();
     Place();
 }
 

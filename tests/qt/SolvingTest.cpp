@@ -5,38 +5,64 @@ namespace tessarin {
 
 class SolvingTest : public QtFixture {
 protected:
-    // A puzzle with four empty fields.
-    SolvingTest() { Do("import nearly-complete.csv"); }
-
-    // Sends an event of the ESC key with its time in milliseconds.
+    // Sends a press or release of ESC with its time in milliseconds.
     static void Esc(QWidget& top, QEvent::Type type, quint64 time, bool repeat = false) {
-        QKeyEvent event(type, Qt::Key_Escape, {}, {}, repeat);
-        event.setTimestamp(time);
-        QCoreApplication::sendEvent(top.windowHandle(), &event);
+        SendKey(top, type, Qt::Key_Escape, time, repeat);
     }
 };
 
 TEST_F(SolvingTest, PanelsAreDisabledDuringASolveAndTheWindowStaysOpen) {
-    const auto step = game.Events.StatusChanged.Connect([this, first = true](int) mutable {
-        if (!std::exchange(first, false)) return;
-        WhileOpen = [this](QDialog&) { Script("busy >"); };
-        EXPECT_FALSE(form->close());
-        Script(R"(
-            click btnInfo & click btnGoBack & click lblDeadEnd & click btnNumPad(11)
-            menu mnuFileQuit > & left > 3 & click lblField(1) & cursor > 1
-            answer OK & menu mnuAbout & busy > hourglass
-        )");
-    });
-    Script("click btnSolve & left > 0 & busy > & menu mnuFileQuit > & busy > closed");
+    mCommands["close"] = [this](int, auto&) { form->close(); };
+    mCommands["pointer"] = [this](int, auto&) {
+        const QCursor* const pointer = QApplication::overrideCursor();
+        Tell(pointer == nullptr ? "none" : pointer->shape() == Qt::WaitCursor ? "wait" : "other");
+    };
+    Do(R"(
+        full 1 11 21 31
+        during click btnInfo
+        during click btnGoBack
+        during click lblDeadEnd
+        during click btnNumPad(11)
+        during close
+        during click mnuFileQuit
+        during counts > 3 0 78 11
+        during pointer > wait
+        during click lblField(5)
+        during cursor > 5
+        click btnSolve & counts > 0 0 81 0
+        pointer > none
+    )");
+    EXPECT_TRUE(form->isVisible());
+    Do("click mnuFileQuit");
+    EXPECT_FALSE(form->isVisible());
 }
 
-TEST_F(SolvingTest, OnlyAnEscThatClosesNothingAsks) {
+TEST_F(SolvingTest, ABoxInASolveHasTheUsualPointer) {
+    Do("full 1 11");
+    const auto step = game.Events.StatusChanged.Connect([this, first = true](int) mutable {
+        if (!std::exchange(first, false)) return;
+        platform.Meanwhile = [] { EXPECT_EQ(QApplication::overrideCursor(), nullptr); };
+        Click("mnuAbout");
+        platform.Meanwhile = [] {};
+        EXPECT_NE(QApplication::overrideCursor(), nullptr);
+    });
+    Click("btnSolve");
+}
+
+TEST_F(SolvingTest, AnEscThatClosesSomethingDoesNotAsk) {
     // ESC closes a submenu alone: the next keys go to its menu.
-    Script(R"(
-        answer Esc & menu mnuEditLockAll & key Esc & key Up & key Right & key Return & activate
-        answer Esc & menu mnuFileExportCSV & activate & menu mnuFile & key Esc & key Alt & key Esc
+    Do(R"(
+        click mnuEditLockAll & key Esc
+        answer Esc & key Up
+        key Right & key Return
+        click mnuFileExportCSV
+        click mnuFile & key Esc
+        key Alt & key Esc
     )");
     EXPECT_FALSE(platform.EscPressed());
+}
+
+TEST_F(SolvingTest, APressCountsOnceAndWhileItIsHeld) {
     QTest::mouseMove(form->windowHandle(), MenuBar().mapTo(form, QPoint(12, 6)));
     ASSERT_NE(MenuBar().activeAction(), nullptr) << "the pointer is over a title";
     for (const quint64 time : {0U, 0U, 1000U, 1200U, 0U}) {
@@ -46,51 +72,60 @@ TEST_F(SolvingTest, OnlyAnEscThatClosesNothingAsks) {
         Esc(*form, QEvent::KeyRelease, time);
         EXPECT_FALSE(platform.EscPressed());
     }
+}
+
+TEST_F(SolvingTest, APressCountsAfterASwitchToAnotherProgram) {
     Esc(*form, QEvent::KeyPress, 2000);
-    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); // the release goes elsewhere
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); // the release goes there
     EXPECT_TRUE(platform.EscPressed());
     EXPECT_FALSE(platform.EscPressed());
+    Esc(*form, QEvent::KeyPress, 3000);
+    EXPECT_TRUE(platform.EscPressed());
 }
 
 TEST_F(SolvingTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
+    Do("full 1 11");
     Esc(*form, QEvent::KeyPress, 1000);
-    WhileOpen = [](QDialog& box) {
-        Esc(box, QEvent::KeyPress, 1500);
+    platform.Meanwhile = [] {
+        Esc(Box(), QEvent::KeyPress, 1500);
         // The first repeat after the focus has changed is not marked as a repeat.
         for (const quint64 time : {1600U, 1630U, 1660U}) {
-            Esc(box, QEvent::KeyRelease, time, time > 1600);
-            Esc(box, QEvent::KeyPress, time, time > 1600);
+            Esc(Box(), QEvent::KeyRelease, time, time > 1600);
+            Esc(Box(), QEvent::KeyPress, time, time > 1600);
         }
-        EXPECT_TRUE(box.isVisible());
-        Esc(box, QEvent::KeyRelease, 1700);
+        EXPECT_TRUE(Box().isVisible());
+        Esc(Box(), QEvent::KeyRelease, 1700);
     };
-    Script("answer Yes & click btnSolve > Box(ESC gedrückt|Abbrechen?|- [&Yes &No) [1] & left > 4");
+    Do("answer Yes & click btnSolve > +1 Box(ESC gedrückt|Abbrechen?|- Yes No)");
 }
 
-TEST_F(SolvingTest, RotorTurnsAfterEachPauseAndDuringACommandInsideItsTick) {
+TEST_F(SolvingTest, TheRotorTurnsInPausesAndInsideItsTick) {
+    Do("full 1 11 21 & click btnInfo");
     platform.ReallySleeps = true;
     int seen = -1, turns = 0;
-    platform.AtPump = [&] {
+    platform.EachPump = [&] {
         for (int i = 0; i < 12; ++i)
             if (!Widget("Image1(" + std::to_string(i) + ")").isHidden())
                 turns += std::exchange(seen, i) == i ? 0 : 1;
     };
-    window.optChill(2).Select();
-    Do("click btnSolve");
-    EXPECT_GE(turns, 11);
+    Do("click optChill(2) & click btnSolve");
+    EXPECT_GE(turns, 7);
     int ticks = 0; // each tick pumps
-    platform.AtPump = [&] {
-        if (++ticks > 1) return;
-        QTest::qWait(100);
-        EXPECT_GE(ticks, 5);
+    platform.EachPump = [&] {
+        if (++ticks == 1) QTest::qWait(100); // a command inside the tick
     };
     window.ctlRotor1.SetRunning(true);
     EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 5; }));
-    const int before = ticks;
-    platform.Sleep(30);
-    EXPECT_EQ(ticks, before) << "ticks wait for the next pump";
     window.ctlRotor1.SetRunning(false);
-    EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#4a86c8"));
+    EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#2f5d8c"));
+}
+
+TEST_F(SolvingTest, ASleepLasts) {
+    platform.ReallySleeps = true;
+    QElapsedTimer time;
+    time.start();
+    platform.Sleep(60);
+    EXPECT_GE(time.elapsed(), 60);
 }
 
 } // namespace tessarin
