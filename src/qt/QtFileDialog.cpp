@@ -5,6 +5,8 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
+#include <QSplitter>
 #include <QTreeView>
 
 #include <utility>
@@ -33,7 +35,10 @@ QTreeView* FileList(const QFileDialog& dialog) {
 // Makes the dialog wide enough for name, size, type and date.
 void ShowColumnsWhole(QFileDialog& dialog) {
     constexpr int NameColumn = 0;
-    dialog.resize(740, 460);
+    const int line = dialog.fontMetrics().height();
+    dialog.resize(QSize(50 * line, 31 * line).boundedTo(dialog.screen()->availableSize() * 0.9));
+    if (auto* const splitter = dialog.findChild<QSplitter*>())
+        splitter->setSizes({8 * line, 42 * line}); // folders and files
     if (const auto* const list = FileList(dialog)) {
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
         list->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);

@@ -26,6 +26,7 @@ QtForm::QtForm(Form& form, QtPlatform& platform)
       mPlatform(platform) {
     setObjectName(ToQt(form.Name()));
     setWindowTitle(ToQt(form.Caption()));
+    setFont(ToQt(form.Font())); // also of the menus; boxes and dialogs have the desktop's
     QIcon icon;
     const QDir pictures(ResourcePath(""));
     for (const QString& file : pictures.entryList({ToQt(form.Properties().PictureFile) + "-*.png"}))

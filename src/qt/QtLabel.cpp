@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <utility>
 
@@ -38,16 +39,26 @@ void QtLabel::paintEvent(QPaintEvent* /*event*/) {
         ring(Qt::black, 2);
     }
     painter.fillRect(inside, ToQt(look.BackColor));
+    mbShortened = false;
     if (look.Caption.empty()) return;
     painter.setPen(TextColor(look.ForeColor, look.BackColor));
-    const QString text = ToQt(look.Caption);
-    if (look.Align == Alignment::Center)
-        painter.drawText(space, Qt::AlignCenter, text);
-    else if (look.Wrap)
-        painter.drawText(space, Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere, text);
-    else
-        painter.drawText(space, Qt::AlignLeft | Qt::AlignVCenter,
-                         painter.fontMetrics().elidedText(text, Qt::ElideMiddle, space.width()));
+    QString text = ToQt(look.Caption);
+    if (look.Align == Alignment::Center) return painter.drawText(space, Qt::AlignCenter, text);
+    if (look.Wrap) {
+        text.replace(QLatin1Char(';'), QStringLiteral(";\u200B")); // where a line may end
+        return painter.drawText(space, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
+    }
+    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideMiddle, space.width());
+    mbShortened = shown != text;
+    painter.drawText(space, Qt::AlignLeft | Qt::AlignVCenter, shown);
+}
+
+// As HTML, because the lines of a plain tip are never broken.
+bool QtLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !mbShortened) return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                       "<p>" + ToQt(mControl.Caption()).toHtmlEscaped() + "</p>", this);
+    return true;
 }
 
 void QtLabel::mousePressEvent(QMouseEvent* event) {

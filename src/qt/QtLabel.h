@@ -15,7 +15,12 @@ public:
 
     void MakeCurrent() override;
 
+    void Press() { mControl.RaiseClick(); }
+    /// Whether it is there to be clicked, so that it has a place for the focus.
+    bool IsClickable() const { return mControl.Properties().Keys != KeyStop::None; }
+
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     // A click is a left press and a left release inside. The second press of a double click counts
     // like any other.
@@ -29,6 +34,7 @@ private:
     bool IsInGrid() const { return mControl.Properties().Keys == KeyStop::Grid; }
 
     bool mbPressed = false;
+    bool mbShortened = false; // the text is painted without its middle
 };
 
 } // namespace tessarin::qt

@@ -52,7 +52,7 @@ QFont ToQt(const FontStyle& font) {
     } else if (!font.Name.empty()) {
         result.setFamily(ToQt(font.Name));
     }
-    if (font.Size > 0) result.setPixelSize(Pixels(font.Size * 20)); // a point is 20 twips
+    result.setPixelSize(Pixels(font.Size * 20)); // a point is 20 twips
     result.setItalic(font.Italic);
     return result;
 }

@@ -42,6 +42,7 @@ QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form) : mItem(item), mForm(form),
 QMenu& QtMenuPeer::Menu() {
     if (!mMenu) {
         mMenu = std::make_unique<BarMenu>(mForm);
+        mMenu->setFont(mForm.font());
         mAction.setMenu(mMenu.get());
     }
     return *mMenu;

@@ -6,12 +6,14 @@
 #include <QGridLayout>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace tessarin::qt {
 
 namespace {
 
 // Wide enough for the title of a box whose text is short.
-constexpr int MinWidth = 280;
+constexpr int MinWidthInLines = 19;
 
 void WidenTo(int width, QMessageBox& box) {
     if (auto* const grid = qobject_cast<QGridLayout*>(box.layout()))
@@ -30,7 +32,7 @@ QtMessageBox::QtMessageBox(const Message& message, QtForm* form) : QMessageBox(f
     setStandardButtons(question ? Yes | No : Ok);
     // Unless it is set, the default button depends on the desktop.
     setDefaultButton(question ? Yes : Ok);
-    WidenTo(MinWidth, *this);
+    WidenTo(MinWidthInLines * fontMetrics().height(), *this);
 }
 
 // QMessageBox fixes its size. But if the desktop maximises it, it must take the size that it is
@@ -42,16 +44,31 @@ bool QtMessageBox::event(QEvent* event) {
 }
 
 void QtMessageBox::showEvent(QShowEvent* event) {
-    QMessageBox::showEvent(event); // centres the box
-    if (mForm == nullptr) return;
-    const QRect grid = mForm->GridOnScreen();
-    const QRect free = mForm->screen()->availableGeometry();
-    const QMargins frame = mForm->Frame();
-    QRect place = QRect(QPoint(), size()).marginsAdded(frame);
-    place.moveCenter(grid.center());
+    QMessageBox::showEvent(event);
+    if (mForm == nullptr || mForm->GridOnScreen().isEmpty()) return;
     // With a margin: some window managers put the box there, and its frame around it.
-    place.moveLeft(grid.right() + 1 + frame.left());
-    if (!grid.isEmpty() && free.contains(place)) move(place.topLeft());
+    const QRect grid = mForm->GridOnScreen().marginsAdded(mForm->Frame());
+    const QRect screen = mForm->screen()->availableGeometry();
+    QRect box = QRect(QPoint(), size()).marginsAdded(mForm->Frame());
+    box.moveCenter(grid.center());
+    const auto onScreen = [&](const QPoint& place) {
+        const QPoint most = screen.bottomRight() + QPoint(1, 1) - QPoint(box.width(), box.height());
+        return QRect(QPoint(std::max(std::min(place.x(), most.x()), screen.x()),
+                            std::max(std::min(place.y(), most.y()), screen.y())),
+                     box.size());
+    };
+    const auto covered = [&](const QPoint& place) {
+        const QRect both = onScreen(place) & grid;
+        return both.width() * both.height();
+    };
+    const int left = grid.x() - box.width(), above = grid.y() - box.height();
+    const int right = grid.x() + grid.width(), below = grid.y() + grid.height();
+    const auto place =
+        std::ranges::min({QPoint(right, box.y()), QPoint(left, box.y()), QPoint(box.x(), above),
+                          QPoint(box.x(), below), QPoint(right, above), QPoint(right, below),
+                          QPoint(left, above), QPoint(left, below)},
+                         {}, covered);
+    move(onScreen(place).topLeft());
 }
 
 } // namespace tessarin::qt

@@ -8,8 +8,9 @@ namespace tessarin::qt {
 
 class QtForm;
 
-/// A message box that opens on the right of the form's grid of labels, which its text is about and
-/// which it must not cover. If the screen has no room there, it opens in the middle of the window.
+/// A message box that keeps off the form's grid of labels, which its text is about: it opens on the
+/// right of it, on the left, above or below, where the screen has room. Without room it covers the
+/// grid as little as possible.
 class QtMessageBox : public QMessageBox {
 public:
     /// Without a form the box has no parent window.

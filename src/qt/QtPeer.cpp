@@ -9,7 +9,6 @@ QtPeer::QtPeer(Control& control, QWidget& widget, QtForm& form)
     : mControl(control), mForm(form), mWidget(widget) {
     mWidget.setObjectName(ToQt(control.Name()));
     mWidget.setFont(ToQt(control.Font()));
-    ShowTexts();
     Place();
 }
 

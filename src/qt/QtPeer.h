@@ -21,7 +21,8 @@ public:
     void Place();
 
 protected:
-    /// Gives `widget`, which is this object, the properties of `control`.
+    /// Gives `widget`, which is this object, the properties of `control`, except the texts: a
+    /// screen reader may ask for the whole object as soon as it has a name.
     QtPeer(Control& control, QWidget& widget, QtForm& form);
 
     virtual void ShowCaption() { mWidget.update(); }

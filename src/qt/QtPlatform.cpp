@@ -18,17 +18,8 @@
 
 namespace tessarin::qt {
 
-namespace {
-
-constexpr int UiPixelSize = 12;
-
-} // namespace
-
 QtPlatform::QtPlatform(VersionRecord version) : mVersion(std::move(version)) {
     QApplication::setStyle(QStyleFactory::create("fusion"));
-    QFont font = QApplication::font();
-    font.setPixelSize(UiPixelSize);
-    QApplication::setFont(font);
     // File dialogs would keep the folders visited in the user's settings.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     Platform::SetCurrent(this);

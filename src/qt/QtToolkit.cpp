@@ -10,6 +10,7 @@
 #include "qt/QtPlatform.h"
 #include "toolkit/Controls.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
@@ -20,12 +21,35 @@ namespace tessarin::qt {
 
 namespace {
 
+// Offers the action "press" for a label that is there to be clicked.
+class PressableLabel : public QAccessibleWidget {
+public:
+    explicit PressableLabel(QtLabel& label)
+        : QAccessibleWidget(&label, QAccessible::StaticText), mLabel(label) {}
+
+    QStringList actionNames() const override {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override {
+        if (name == pressAction()) return mLabel.Press();
+        QAccessibleWidget::doAction(name);
+    }
+
+private:
+    QtLabel& mLabel;
+};
+
+// Qt owns what it returns.
+QAccessibleInterface* CreateAccessible(const QString& /*className*/, QObject* object) {
+    auto* const label = dynamic_cast<QtLabel*>(object);
+    return label != nullptr && label->IsClickable() ? new PressableLabel(*label) : nullptr;
+}
+
 template <class Button>
 class QtButton : public Button, public QtPeer {
 public:
     QtButton(Control& control, QtForm& form, QWidget& parent)
         : Button(&parent), QtPeer(control, *this, form) {
-        QtButton::ShowCaption();
         // "clicked" is emitted for every click, even on an option that is selected already.
         QObject::connect(this, &QAbstractButton::clicked, [&control] { control.RaiseClick(); });
     }
@@ -96,11 +120,14 @@ template <class Widget>
 std::unique_ptr<Widget> QtToolkit::Make(Control& control) {
     QtForm& form = mPlatform.CurrentForm();
     auto* const container = dynamic_cast<QtPeer*>(&control.Container()->Peer());
-    return std::make_unique<Widget>(control, form,
-                                    container != nullptr ? container->Inside() : form.Client());
+    auto widget = std::make_unique<Widget>(
+        control, form, container != nullptr ? container->Inside() : form.Client());
+    widget->Changed(Property::Texts);
+    return widget;
 }
 
 std::unique_ptr<FormPeer> QtToolkit::Create(Form& form) {
+    QAccessible::installFactory(CreateAccessible);
     return std::make_unique<QtForm>(form, mPlatform);
 }
 

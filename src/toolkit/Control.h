@@ -12,11 +12,10 @@ namespace tessarin {
 
 class Form;
 
-/// A typeface by name with its size in points. Without a name it is the toolkit's own, without a
-/// size the toolkit's own size.
+/// A typeface by name with its size in points. Without a name it is the toolkit's own.
 struct FontStyle {
     std::string Name = {};
-    float Size = 0;
+    float Size = 9;
     bool Italic = false;
     bool operator==(const FontStyle&) const = default;
 };
@@ -40,7 +39,8 @@ struct ControlProperties {
     bool Visible = true;
     BorderStyle Border = BorderStyle::None;
     Alignment Align = Alignment::Left;
-    /// Whether a label breaks a long text into lines; if not, it leaves out the middle.
+    /// Whether a label breaks a long text into lines, after a blank or a semicolon; if not, it
+    /// leaves out the middle and shows the whole text in a tool tip.
     bool Wrap = false;
     KeyStop Keys = KeyStop::None;
     FontStyle Font = {};

@@ -112,8 +112,10 @@ private:
 
     FieldState StateOf(const Field& field, int deadField) const;
     void ShowState(int index, const FieldState& state);
-    // To be called when a field was painted as the current one: repaints the one before.
-    void MoveCurrent(int index, int deadField);
+    // The cursor has left the field that is painted as the current one: arrow keys, focus and
+    // screen reader move to the cursor's label.
+    void MakeCursorCurrent(int deadField);
+    void RepaintFormerCurrent(int index, int deadField);
     std::string InfoText(const Field& field, const FieldState& state) const;
     static void SetIndicator(Label& indicator, Color color);
     // The labels of the fields that were dead at the last count.

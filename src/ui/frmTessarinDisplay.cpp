@@ -18,11 +18,15 @@ void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
     FieldState state = StateOf(*field, deadField);
     state.IsMarked = neighbourMark || groupMark;
     lblInfo.SetCaption(InfoText(*field, state));
-    ShowState(idx, state);
-    if (state.IsCursor)
-        MoveCurrent(idx, deadField);
-    else if (idx == mlPaintedCurrent)
+    if (idx == mlPaintedCurrent && !state.IsCursor) {
+        MakeCursorCurrent(deadField);
         mlPaintedCurrent = 0;
+    }
+    ShowState(idx, state);
+    if (state.IsCursor) {
+        lblField(idx).MakeCurrent();
+        RepaintFormerCurrent(std::exchange(mlPaintedCurrent, idx), deadField);
+    }
     // Commands that run in the wait may change the pace or end the solve.
     const auto pause = [this] { return mbSolving ? mlChillDelay : 0; };
     if (pause() > 0) Wait(pause);
@@ -44,13 +48,22 @@ void frmTessarin::ShowState(int index, const FieldState& state) {
     lblField(index).SetAccessibleName(SpokenName(state));
 }
 
+// Before the label that had the focus gets its new look and name: a screen reader tells a focus
+// that moves, and a name that changes where the focus is.
+void frmTessarin::MakeCursorCurrent(int deadField) {
+    const auto cursor = moGame->Fields->Cursor;
+    if (!cursor || !lblField.Has(cursor->Index)) return;
+    Label& label = lblField(cursor->Index);
+    label.SetAccessibleName(SpokenName(StateOf(*cursor, deadField)));
+    label.MakeCurrent();
+}
+
 // A click may move the cursor in the middle of another move, and paint its field as the current
 // one. The outer move then ends on its own field and would leave the field of the click green.
-void frmTessarin::MoveCurrent(int index, int deadField) {
-    const int before = std::exchange(mlPaintedCurrent, index);
-    if (before != index && moGame->Fields->Items.Has(before))
-        ShowState(before, StateOf(*moGame->Fields->Items.Item(before), deadField));
-    lblField(index).MakeCurrent();
+void frmTessarin::RepaintFormerCurrent(int index, int deadField) {
+    const auto& fields = moGame->Fields->Items;
+    if (index != mlPaintedCurrent && fields.Has(index))
+        ShowState(index, StateOf(*fields.Item(index), deadField));
 }
 
 std::string frmTessarin::InfoText(const Field& field, const FieldState& state) const {

@@ -117,7 +117,7 @@ TEST_F(SolvingTest, TheRotorTurnsInPausesAndInsideItsTick) {
     window.ctlRotor1.SetRunning(true);
     EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 5; }));
     window.ctlRotor1.SetRunning(false);
-    EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#2f5d8c"));
+    EXPECT_EQ(Widget("Image1(0)").grab().toImage().pixelColor(16, 16), QColor("#4a86c8"));
 }
 
 TEST_F(SolvingTest, ASleepLasts) {
