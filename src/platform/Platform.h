@@ -53,9 +53,9 @@ public:
     /// ownership.
     static void SetCurrent(Platform* platform);
 
-    /// Handles the waiting window events once. Any handler of the window may run inside. Long
-    /// computations call it thousands of times a second with Pump::WhenDue; a platform may then
-    /// skip a pump if the last one ended less than a millisecond ago.
+    /// Handles the waiting window events once. Any handler of the window may run inside. With
+    /// Pump::WhenDue, for computations that call it thousands of times a second, a platform may
+    /// skip all calls in the millisecond after a real pump, and then up to seven more in a row.
     virtual void PumpEvents(Pump pump) = 0;
     /// Sleeps for `milliseconds` (above 0); ends early when a handler closes the window. The window
     /// may be painted and activated meanwhile. User input and timers wait, unless the activation
