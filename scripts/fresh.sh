@@ -55,13 +55,13 @@ $(tail -n 50 "$scratch/log")"
     begin=$SECONDS
 }
 
+window_closed() { ! kill -0 "$running" 2>/dev/null; }
 window_open() {
-    kill -0 "$running" 2>/dev/null || finish 'scripts/run.sh without a window'
+    ! window_closed || fail "scripts/run.sh ended without a window: $(tail -n 50 "$scratch/log")"
     DISPLAY=$(sed -n 's/.* on the virtual display \(:[0-9]*\)\..*/\1/p' "$scratch/log")
     export DISPLAY
     [[ $DISPLAY ]] && xdotool search --onlyvisible --name "^$title\$" >/dev/null 2>&1
 }
-window_closed() { ! kill -0 "$running" 2>/dev/null; }
 
 # try_both_commands <name> [variables for them]
 try_both_commands() {
