@@ -71,7 +71,7 @@ void frmTessarin::ConnectCommands() {
         {btnSolve, &frmTessarin::btnSolve_Click},
         {btnInfo, &frmTessarin::btnInfo_Click}};
     for (const auto& [control, handler] : commands)
-        control.Click = [this, handler = handler] { (this->*handler)(); };
+        control.Click = [this, command = handler] { (this->*command)(); };
     lblField.Click = [this](int Index) { lblField_Click(Index); };
     btnNumPad.Click = [this](int Index) { btnNumPad_Click(Index); };
     optChill.Click = [this](int Index) { optChill_Click(Index); };
