@@ -7,6 +7,7 @@
 #include "support/modWait.h"
 
 #include <filesystem>
+#include <iostream>
 #include <sys/stat.h>
 
 namespace tessarin {
@@ -79,6 +80,14 @@ TEST_F(GameTest, TextFilesKeepEveryByteAndAreReadWhole) {
     EXPECT_EQ(ReadTextFile(folder + "pipe"), "");
     EXPECT_EQ(WriteTextFile("/dev/full", "x", "", true),
               "File=/dev/full, Err=No space left on device");
+}
+
+TEST_F(GameTest, AnErrorOfAHandlerIsPrinted) {
+    std::ostringstream printed;
+    auto* const screen = std::cerr.rdbuf(printed.rdbuf());
+    NullPlatform().ReportError("the reason");
+    std::cerr.rdbuf(screen);
+    EXPECT_NE(printed.str().find("the reason"), std::string::npos);
 }
 
 TEST_F(GameTest, TextsArePaddedCutAndJoined) {

@@ -105,8 +105,8 @@ const Stories<PlayTest> stories("PlayTest", R"(
         index 1 & pump 1 index 9
         value 0 > 1=0 from 1 to 9 -1 from 9 to 2
     TheFillGoesWhereAClickHasMovedTheCursor:
-        index 80 & pump 1 index 9
-        goto 1 > from 80 to 9 from 9 to 1 1=1
+        index 80 & counts
+        pump 3 index 9 & goto 1 > from 80 to 1 from 1 to 9 9=1
     // Field 2 leads to a dead end, and the retreat raises field 28.
     ASolveGoesOnWhereTheFewestValuesAreFree:
         fill 4..815.29 92734685. .58.9..64 3152.9648 .92...517 846571293 6394..1.2 271963485 584127936
@@ -133,5 +133,20 @@ const Stories<PlayTest> stories("PlayTest", R"(
         solve > 1=1 +1 & answer Yes
         solve > Box(ESC gedrückt|Abbrechen?|- Yes No)
 )");
+
+TEST_F(PlayTest, ACommandHoldsTheFieldsThatItWorksOn) {
+    const std::function<void()> enter = [this] { play.SetValue(3); };
+    const std::function<void()> lock = [this] { grid.SetLockAll(true); };
+    for (const auto& command : {enter, lock}) {
+        Do("fill .2 & index 1");
+        const std::weak_ptr<Field> one = grid.Items.Item(1), two = grid.Items.Item(2);
+        platform.AtPump(1, [&] {
+            grid.Init();
+            EXPECT_FALSE(one.expired() && two.expired());
+        });
+        command();
+        EXPECT_TRUE(two.expired());
+    }
+}
 
 } // namespace tessarin

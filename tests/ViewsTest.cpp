@@ -48,10 +48,10 @@ const Stories<ViewsTest> stories("ViewsTest", R"(
         click mnuViewFreedom > Box(|Freedoms of fields|- OK) & fields 1 19 80 9 > . . . 8:green
     ThePanelDescribesTheFieldPaintedLast:
         fill .12345678 . & set 10 9
-        lock 11 1 & click lblField(11)
-        click btnGoBackToFreedom & click btnNumPad(10)
-        info > Index=11|Value=0||Freedom=6|FreeValuesList=3;4;5;6;7;8;||IsCursor=True|IsLocked=False|IsEmpty=True|IsDeadCell=False||Retries=1|DeadCount=1
-        paint 10 & info > Index=10|Value=9||Freedom=6|FreeValuesList=3;4;5;6;7;8;||IsCursor=False|IsLocked=False|IsEmpty=False|IsDeadCell=False||Retries=1|DeadCount=1
+        click lblField(2) & click btnGoBackToFreedom > Beep
+        info > Index=2|Value=1||Freedom=0|FreeValuesList=||IsCursor=True|IsLocked=False|IsEmpty=False|IsDeadCell=False||Retries=1|DeadCount=1
+        lock 1 1 & paint 1
+        info > Index=1|Value=0||Freedom=0|FreeValuesList=||IsCursor=False|IsLocked=True|IsEmpty=True|IsDeadCell=True||Retries=1|DeadCount=1
     OneFieldIsGreenAfterAClickInsideAMove:
         pump 1 click lblField(60) & index 50
         fields 50 60 1 > .:green . .

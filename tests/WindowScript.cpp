@@ -26,7 +26,7 @@ const std::vector<std::string> WindowScript::Commands{
     "click lblDeadEnd",        "click mnuViewFreedom",     "click mnuViewGroups",
     "click mnuViewNeighbours", "click mnuEditClearFree",   "click mnuEditClearAll",
     "click mnuEditLockAllSet", "click mnuEditLockClear",   "click mnuFileExportCSV",
-    "click mnuAbout",          "import 5;3;1|#;4;0|7;7;1", "click mnuFileQuit"};
+    "click mnuAbout",          "import 3;7;1|#;4;0",       "click mnuFileQuit"};
 
 WindowScript::WindowScript(Recorder& recorder, frmTessarin& worked)
     : Script(recorder, *goGame), window(worked) {

@@ -33,8 +33,10 @@ TEST_F(DialogsTest, ABoxDoesNotCoverTheGridIfTheScreenHasRoom) {
         EXPECT_TRUE(screen.contains(Box().frameGeometry()));
         EXPECT_GE(Box().width(), 280) << "wide enough for its title";
     };
-    form->move(screen.topLeft());
-    Do("click mnuViewNeighbours");
+    for (const QPoint place : {screen.topLeft(), screen.topRight() - QPoint(form->width(), 0)}) {
+        form->move(place);
+        Do("click mnuViewNeighbours");
+    }
 }
 
 TEST_F(DialogsTest, AFileDialogOffersTwoKindsOfFiles) {
@@ -64,6 +66,7 @@ TEST_F(DialogsTest, ADialogOpensInTheFolderOfTheFileBeforeAndLeavesNoSettings) {
         EXPECT_EQ(dialog.directory().path().toStdString() + "/", folder);
     };
     Do("click mnuFileExportCSV");
+    EXPECT_TRUE(QDir(qEnvironmentVariable("XDG_CONFIG_HOME")).isEmpty());
 }
 
 TEST_F(DialogsTest, FileNamesOfAllKinds) {

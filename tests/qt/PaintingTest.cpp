@@ -73,6 +73,8 @@ TEST_P(PaintingTest, BordersAndCaptionsCanBeSeen) {
                                            {{20, bottom}, {20, bottom - 1}}})
             EXPECT_GT(Contrast(image, {edge, edge}, inside), 3) << name;
     }
+    const QImage rotor = Widget("Image1(0)").grab().toImage();
+    EXPECT_GT(Contrast(rotor, rotor.rect(), {0, 0}), 3);
     EXPECT_GT(Contrast(Picture("fraInfo"), {8, 2, 60, 10}, {4, 2}), 3) << "caption";
     EXPECT_EQ(Contrast(Picture("fraInfo"), {9, 0, 1, 12}, {9, 0}), 1) << "no line behind it";
     EXPECT_EQ(Contrast(Picture("fraAction"), {0, 0, 160, 9}, {0, 0}), 1) << "no border";

@@ -54,12 +54,17 @@ TEST_F(WindowTest, AReturnFromAnotherWindowActivatesButNotFromAnOwnBox) {
     Do("activate > Activated");
 }
 
-TEST_F(WindowTest, AFieldHasItsNewNameBeforeItGetsTheFocus) {
+TEST_F(WindowTest, ScreenReadersHearTheNewNameAndPressFields) {
     QWidget& field = Widget("lblField(2)");
     QObject::connect(qApp, &QApplication::focusChanged, &field, [&] {
         EXPECT_EQ(field.accessibleName().toStdString(), "row 1, column 2: empty, current");
     });
     Do("key Right & focus > lblField(2)");
+    auto* const spoken = QAccessible::queryAccessibleInterface(&field);
+    ASSERT_NE(spoken->actionInterface(), nullptr);
+    Do("click lblField(40)");
+    spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    Do("cursor > 2");
     auto* const panel = QAccessible::queryAccessibleInterface(&Widget("fraNumPad"));
     EXPECT_EQ(panel->role(), QAccessible::Grouping);
 }
