@@ -93,9 +93,7 @@ TEST_F(GameTest, AnErrorOfAHandlerIsPrinted) {
 TEST_F(GameTest, TextsArePaddedCutAndJoined) {
     EXPECT_EQ(PadLeft(" 12 ", 4, "0") + PadLeft(" 12 ", 1, "0") + PadLeft(" 12 "), "00122  12");
     EXPECT_EQ(PadNumber(7, 4, "") + PadNumber(12345, 4, "") + PadNumber(-5, 4, ""), "0007234500-5");
-    EXPECT_EQ(ReplaceAll("aaa", "a", "aa") + ReplaceAll("abc", "", "x"), "aaaaaaabc");
     EXPECT_EQ(DeleteChars("abcde", 2, 2) + DeleteChars("abcde", -1, 3), "adebcde");
-    EXPECT_EQ(InsertText("abc", "X", 4) + InsertText("abc", "X", 5), "abcXabc");
     EXPECT_EQ(JoinPath(" C:\\a b\\", "\\b ") + JoinPath("", "b"), "C:\\a b\\b\\b");
     EXPECT_EQ(DateTimeStamp({2022, 4, 29, 6, 49, 5}) + DateTimeStamp({}),
               "20220429 064905               ");

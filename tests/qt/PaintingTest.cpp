@@ -93,7 +93,16 @@ TEST_P(PaintingTest, LongTextsFitIntoTheirPlaces) {
         window.lblFile.SetCaption("/home" + folders + middle + folders + "puzzle.csv");
         return Picture("lblFile");
     };
+    const auto tip = [this] {
+        QHelpEvent event(QEvent::ToolTip, {}, {});
+        QApplication::sendEvent(&Widget("lblFile"), &event);
+        return QToolTip::text().toStdString();
+    };
+    window.lblFile.SetCaption("/home/puzzle.csv");
+    Picture("lblFile");
+    EXPECT_EQ(tip(), "") << "a path that fits";
     const QImage path = show("here");
+    EXPECT_NE(tip().find(window.lblFile.Caption()), std::string::npos) << "shown whole in the tip";
     EXPECT_TRUE(path == show("there"));
     EXPECT_GT(Contrast(path, path.rect().adjusted(path.width() - 20, 0, 0, 0), {0, 0}), 3);
 }

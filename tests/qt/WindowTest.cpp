@@ -91,21 +91,6 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     Do("is > |1;5;0"); // the question was not answered
 }
 
-TEST_F(WindowTest, APumpThatIsDueLaterMayBeSkipped) {
-    int handled = 0;
-    const auto pumped = [&](Pump pump) {
-        QTimer::singleShot(0, form, [&] { ++handled; });
-        platform.PumpEvents(pump);
-        return std::exchange(handled, 0) > 0;
-    };
-    EXPECT_TRUE(pumped(Pump::Now));
-    EXPECT_TRUE(pumped(Pump::WhenDue)) << "the first one after it";
-    int pumps = 0;
-    for (int i = 0; i < 800; ++i)
-        pumps += pumped(Pump::WhenDue) ? 1 : 0;
-    EXPECT_LE(pumps, 100);
-}
-
 TEST_F(WindowTest, ThePlatformOutlivesItsForm) {
     {
         qt::QtPlatform machine;

@@ -23,20 +23,35 @@ STEPS = [
 ]
 
 said = []
+wrong = []
 
 
 def hear(event):
-    if event.type.endswith("accessible-name") or event.detail1 == 1:
-        said.append(event.source.get_name())
+    name = event.source.get_name()
+    if event.type.endswith("accessible-name"):
+        if ("name", name) in said:
+            wrong.append(f"told again: {name}")
+        said.append(("name", name))
+    elif event.detail1 == 1:
+        if name.startswith("row") and "current" not in name:
+            wrong.append(f"focus before the new name: {name}")
+        said.append(("focus", name))
+
+
+def listen_until(over, seconds):
+    end = time.monotonic() + seconds
+    while not over() and time.monotonic() < end:
+        GLib.MainContext.default().iteration(False)
+        time.sleep(0.01)
 
 
 def say_until(text):
-    end = time.monotonic() + 20
-    while text not in said:
-        if time.monotonic() > end:
-            sys.exit(f"screen_reader.py: not heard: {text!r}, but {said[-5:]}")
-        GLib.MainContext.default().iteration(False)
-        time.sleep(0.01)
+    listen_until(lambda: ("focus", text) in said or ("name", text) in said, 20)
+    if ("focus", text) not in said and ("name", text) not in said:
+        sys.exit(f"screen_reader.py: not heard: {text!r}, but {said[-5:]}")
+    listen_until(lambda: False, 0.3)  # what comes too much
+    if wrong:
+        sys.exit(f"screen_reader.py: {wrong}")
     said.clear()
 
 
