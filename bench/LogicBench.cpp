@@ -2,7 +2,9 @@
 // which grid they use. Compare only cases of one run.
 #include "Yardstick.h"
 
+#include "model/Fields.h"
 #include "play/Game.h"
+#include "play/Play.h"
 #include "support/modTextStream.h"
 
 #include <benchmark/benchmark.h>

@@ -2,6 +2,8 @@
 // from the start of a process to its first painted window.
 #include "MinimalPuzzles.h"
 
+#include "model/Fields.h"
+#include "play/Play.h"
 #include "qt/QtForm.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtToolkit.h"

@@ -1,5 +1,6 @@
 // Loads any text into a grid in both formats. It may throw only the errors of a bad text.
 // Afterwards the status can be read, and the text that the grid writes loads into the same grid.
+#include "model/Fields.h"
 #include "play/Game.h"
 
 #include <cstdint>

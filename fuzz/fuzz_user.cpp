@@ -1,5 +1,6 @@
 // Works the window with a random user who takes every choice from the input.
 #include "FakeWindow.h"
+#include "model/Fields.h"
 #include "support/modStringLibrary.h"
 
 #include <fuzzer/FuzzedDataProvider.h>

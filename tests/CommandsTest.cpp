@@ -1,5 +1,6 @@
 // The commands of buttons and menus.
 #include "FakeWindow.h"
+#include "model/Fields.h"
 
 namespace tessarin {
 

@@ -2,6 +2,8 @@
 
 #include "Script.h"
 #include "ScriptedPlatform.h"
+#include "model/Fields.h"
+#include "play/Play.h"
 
 namespace tessarin {
 

@@ -1,5 +1,6 @@
 // The grid: fields, groups, cursor, counts and status.
 #include "GameFixture.h"
+#include "model/Groups.h"
 
 namespace tessarin {
 

@@ -1,5 +1,7 @@
 #include "Script.h"
 
+#include "model/Fields.h"
+#include "play/Play.h"
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
 
@@ -35,6 +37,10 @@ void Recorder::Pumped() {
     if (++mPumps == mPumpOfAction && mAction) std::exchange(mAction, nullptr)();
 }
 
+Field& Script::At(int index) {
+    return *grid.Items.Item(index);
+}
+
 std::vector<int> Numbers(const std::string& text) {
     std::istringstream words(text);
     return {std::istream_iterator<int>(words), {}};
@@ -42,6 +48,8 @@ std::vector<int> Numbers(const std::string& text) {
 
 Script::Script(Recorder& recorder, Game& played)
     : game(played),
+      grid(*game.Fields),
+      play(*game.Play),
       folder(testing::TempDir() + "tessarin-" + std::to_string(std::random_device{}()) + "/"),
       mRecorder(recorder) {
     std::filesystem::create_directory(folder);

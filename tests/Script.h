@@ -26,6 +26,9 @@
 
 namespace tessarin {
 
+class Field;
+class Play;
+
 /// The numbers in `text`, which are separated by blanks.
 std::vector<int> Numbers(const std::string& text);
 /// Numbers as text, with a blank between them.
@@ -40,15 +43,15 @@ std::string Text(const auto& numbers) {
 class Script {
 public:
     Game& game;
-    Fields& grid = *game.Fields;
-    Play& play = *game.Play;
+    Fields& grid;
+    Play& play;
     /// A temporary folder of its own, with "/" at the end.
     const std::string folder;
 
     Script(Recorder& recorder, Game& played);
     virtual ~Script();
 
-    Field& At(int index) { return *grid.Items.Item(index); }
+    Field& At(int index);
 
     /// Runs the rows of a script. (Clang 14 has no std::source_location.)
     void Do(const std::string& rows, int line = __builtin_LINE(),

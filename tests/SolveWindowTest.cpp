@@ -1,5 +1,6 @@
 // The automatic solve in the window, and clicks that arrive while handlers are running.
 #include "FakeWindow.h"
+#include "model/Fields.h"
 
 namespace tessarin {
 

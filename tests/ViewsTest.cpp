@@ -1,5 +1,6 @@
 // What fields and panels show, and the views.
 #include "FakeWindow.h"
+#include "model/Fields.h"
 #include "support/modStringLibrary.h"
 
 namespace tessarin {

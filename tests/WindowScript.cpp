@@ -1,5 +1,6 @@
 #include "WindowScript.h"
 
+#include "model/Fields.h"
 #include "ui/Colors.h"
 
 namespace tessarin {

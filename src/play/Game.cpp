@@ -1,6 +1,9 @@
 #include "play/Game.h"
 
+#include "model/Fields.h"
+#include "model/Groups.h"
 #include "platform/Platform.h"
+#include "play/Play.h"
 
 namespace tessarin {
 
@@ -30,6 +33,10 @@ Game::Game() {
                     grid.Init.Connect([this] { Fields_Init(); })};
     Groups = std::make_unique<tessarin::Groups>();
     Play = std::make_unique<tessarin::Play>();
+}
+
+void Game::Fields_Init() {
+    Groups->Init();
 }
 
 Game::~Game() {

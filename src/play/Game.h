@@ -2,9 +2,6 @@
 
 #include "model/Board.h"
 #include "model/Event.h"
-#include "model/Fields.h"
-#include "model/Groups.h"
-#include "play/Play.h"
 #include "play/modGame.h"
 
 #include <array>
@@ -12,6 +9,8 @@
 #include <string>
 
 namespace tessarin {
+
+class Play;
 
 /// Owns the puzzle being worked: grid, groups and player. It passes the grid's events on to the
 /// window, each followed by one pump of window events, and rebuilds the groups when the grid has
@@ -50,7 +49,7 @@ public:
     void FileImportSDK(const std::string& FileName);
 
 private:
-    void Fields_Init() { Groups->Init(); }
+    void Fields_Init();
 
     std::array<Connection, 6> mConnections;
 };

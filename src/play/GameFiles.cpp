@@ -1,6 +1,8 @@
 #include "play/Game.h"
 
+#include "model/Fields.h"
 #include "platform/Platform.h"
+#include "play/Play.h"
 #include "support/modDateTime.h"
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"

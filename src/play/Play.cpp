@@ -1,5 +1,6 @@
 #include "play/Play.h"
 
+#include "model/Fields.h"
 #include "platform/Platform.h"
 #include "play/Game.h"
 

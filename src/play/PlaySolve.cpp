@@ -1,3 +1,6 @@
+#include "play/Play.h"
+
+#include "model/Fields.h"
 #include "play/Game.h"
 #include "support/modKbd.h"
 

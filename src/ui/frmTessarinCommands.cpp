@@ -1,6 +1,8 @@
 // The handlers of menus, buttons and options, and those of the game's events.
+#include "model/Fields.h"
 #include "platform/AtScopeEnd.h"
 #include "platform/ScopedValue.h"
+#include "play/Play.h"
 #include "support/modKbd.h"
 #include "ui/Colors.h"
 #include "ui/frmTessarin.h"

@@ -1,4 +1,6 @@
 // Painting: fields, information panel, number pad.
+#include "model/Fields.h"
+#include "play/Play.h"
 #include "support/modWait.h"
 #include "ui/Colors.h"
 #include "ui/frmTessarin.h"

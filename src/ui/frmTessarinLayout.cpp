@@ -1,4 +1,5 @@
 // The layout of the window, for the dimension that the grid has at start-up.
+#include "model/Fields.h"
 #include "ui/Colors.h"
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"

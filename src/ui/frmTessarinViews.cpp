@@ -1,4 +1,6 @@
 // The views: each shows something in the grid for a while.
+#include "model/Fields.h"
+#include "model/Groups.h"
 #include "platform/AtScopeEnd.h"
 #include "support/modWait.h"
 #include "ui/Colors.h"
