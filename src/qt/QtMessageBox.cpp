@@ -63,11 +63,11 @@ void QtMessageBox::showEvent(QShowEvent* event) {
     };
     const int left = grid.x() - box.width(), above = grid.y() - box.height();
     const int right = grid.x() + grid.width(), below = grid.y() + grid.height();
-    const auto place =
-        std::ranges::min({QPoint(right, box.y()), QPoint(left, box.y()), QPoint(box.x(), above),
-                          QPoint(box.x(), below), QPoint(right, above), QPoint(right, below),
-                          QPoint(left, above), QPoint(left, below)},
-                         {}, covered);
+    const QPoint place =
+        std::min({QPoint(right, box.y()), QPoint(left, box.y()), QPoint(box.x(), above),
+                  QPoint(box.x(), below), QPoint(right, above), QPoint(right, below),
+                  QPoint(left, above), QPoint(left, below)},
+                 [&](const QPoint& a, const QPoint& b) { return covered(a) < covered(b); });
     move(onScreen(place).topLeft());
 }
 
