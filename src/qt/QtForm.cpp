@@ -63,40 +63,9 @@ void QtForm::Arrange() {
         if (auto* const peer = dynamic_cast<QtPeer*>(child)) peer->Place();
 }
 
-// When the control with the focus is disabled or hidden, Qt moves the focus to another control or
-// to none, and never moves it back. So remember the first control that lost it in a row of such
-// changes (mLostFocus), and where Qt moved the focus (mFocusInstead). If the focus is elsewhere
-// when that control is usable again, the user has moved it, and it stays there.
-void QtForm::KeepFocus(const std::function<void()>& change) {
-    const QPointer<QWidget> before = focusWidget();
-    change();
-    if (before != nullptr && focusWidget() == nullptr && mGrid.Current() != nullptr)
-        mGrid.Current()->setFocus();
-    QWidget* const after = focusWidget();
-    if (before != nullptr && after != before) {
-        if (!mLostFocus || before != mFocusInstead) mLostFocus = before;
-        mFocusInstead = after;
-    } else if (mLostFocus && mLostFocus->isVisible() && mLostFocus->isEnabled()) {
-        if (after == mFocusInstead) mLostFocus->setFocus();
-        mLostFocus.clear();
-    }
-}
-
-void QtForm::MakeCurrent(QtLabel& label) {
-    QWidget* const before = mGrid.SetCurrent(label);
-    if (mFocusInstead == before) mFocusInstead = &label;
-    // The first current label gets the focus, so that the window opens with it in the grid.
-    if (before == nullptr || focusWidget() == before) label.setFocus();
-}
-
-void QtForm::FocusGrid() {
-    mLostFocus.clear();
-    if (mGrid.Current() != nullptr) mGrid.Current()->setFocus();
-}
-
 void QtForm::LeaveMenuBar() {
     if (mMenuBar.hasFocus()) mMenuBar.Toggle();
-    if (mMenuBar.hasFocus()) FocusGrid();
+    if (mMenuBar.hasFocus()) mFocus.ToGrid();
 }
 
 bool QtForm::event(QEvent* event) {
@@ -135,14 +104,11 @@ void QtForm::closeEvent(QCloseEvent* event) {
 }
 
 void QtForm::keyPressEvent(QKeyEvent* event) {
-    const bool shortcut =
-        event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     event->ignore();
-    if (shortcut || event->isAutoRepeat() || focusWidget() == &mMenuBar) return;
+    if (mMenuBar.hasFocus()) return;
     const auto buttons = mClient.findChildren<QPushButton*>();
     for (QPushButton* const button : buttons)
-        if (button->isVisible() && button->text().size() == 1 &&
-            button->text().compare(event->text(), Qt::CaseInsensitive) == 0) {
+        if (button->isVisible() && dynamic_cast<QtPeer&>(*button).IsKey(*event)) {
             event->accept();
             return button->click();
         }

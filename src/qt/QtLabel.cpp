@@ -16,11 +16,11 @@ QtLabel::QtLabel(Control& label, QtForm& form, QWidget& parent)
     : QLabel(&parent), QtPeer(label, *this, form) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (IsInGrid()) mForm.Grid().Add(*this);
-    if (mControl.Properties().Keys == KeyStop::Own) setFocusPolicy(Qt::StrongFocus);
+    if (mControl.Properties().Keys == KeyStop::Own) setFocusPolicy(Qt::TabFocus);
 }
 
 void QtLabel::MakeCurrent() {
-    mForm.MakeCurrent(*this);
+    mForm.Focus().MakeCurrent(*this);
 }
 
 void QtLabel::paintEvent(QPaintEvent* /*event*/) {
@@ -33,8 +33,8 @@ void QtLabel::paintEvent(QPaintEvent* /*event*/) {
         inside.adjust(width, width, -width, -width);
     };
     if (look.Border == BorderStyle::FixedSingle) ring(LineColor(), 1);
-    const QRect space = inside; // for the text
-    if (hasFocus()) {           // one of the two shows on any background
+    const QRect space = inside;                  // for the text
+    if (hasFocus() && !mForm.Focus().IsLent()) { // one of the two shows on any background
         ring(Qt::white, 2);
         ring(Qt::black, 2);
     }
@@ -65,7 +65,7 @@ void QtLabel::mousePressEvent(QMouseEvent* event) {
     event->accept();
     if (event->button() != Qt::LeftButton) return;
     mbPressed = true;
-    if (IsInGrid()) mForm.FocusGrid();
+    if (IsInGrid()) mForm.Focus().ToGrid();
 }
 
 void QtLabel::mouseReleaseEvent(QMouseEvent* event) {
@@ -80,22 +80,25 @@ void QtLabel::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!event->isAutoRepeat()) mControl.RaiseClick();
-        return;
+        return mControl.RaiseClick();
     default:
         break;
     }
     QtLabel* const target = IsInGrid() ? mForm.Grid().Target(*event) : nullptr;
     if (target == nullptr) return QLabel::keyPressEvent(event);
-    mForm.FocusGrid();
+    mForm.Focus().ToGrid();
     target->mControl.RaiseClick();
 }
 
 // The menu bar gives the focus back to the label that had it, which need not be current any more.
 void QtLabel::focusInEvent(QFocusEvent* event) {
     QLabel::focusInEvent(event);
+    if (!IsInGrid()) return;
     QtLabel* const current = mForm.Grid().Current();
-    if (IsInGrid() && current != nullptr && current != this) current->setFocus();
+    if (current != nullptr && current != this) return current->setFocus();
+    const bool byTab =
+        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byTab) mForm.Focus().ToGrid();
 }
 
 } // namespace tessarin::qt

@@ -57,6 +57,10 @@ QFont ToQt(const FontStyle& font) {
     return result;
 }
 
+QList<QKeySequence> Shortcuts(const Control& control) {
+    return QKeySequence::listFromString(ToQt(control.Properties().Shortcuts));
+}
+
 QString Plain(const std::string& caption) {
     return ToQt(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
 }

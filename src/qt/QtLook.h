@@ -5,6 +5,8 @@
 
 #include <QColor>
 #include <QFont>
+#include <QKeySequence>
+#include <QList>
 #include <QString>
 
 namespace tessarin::qt {
@@ -30,6 +32,8 @@ inline QString ToQt(const std::string& text) {
 inline QString ResourcePath(const std::string& file) {
     return QLatin1String(":/") + ToQt(file);
 }
+/// The keys that click a control, wherever the focus is.
+QList<QKeySequence> Shortcuts(const Control& control);
 /// A caption for a button or menu entry, with "&" escaped, which would mark a shortcut.
 QString Plain(const std::string& caption);
 

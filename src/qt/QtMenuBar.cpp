@@ -48,7 +48,8 @@ bool QtMenuBar::Open(const QString& letter) {
     for (QAction* const title : actions())
         if (title->text().startsWith(letter, Qt::CaseInsensitive)) {
             setActiveAction(title);
-            title->menu()->setActiveAction(title->menu()->actions().constFirst());
+            QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier); // to the first entry
+            if (title->menu()->isVisible()) QApplication::sendEvent(title->menu(), &down);
             return true;
         }
     return false;

@@ -33,6 +33,7 @@ QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form) : mItem(item), mForm(form),
     mAction.setObjectName(ToQt(item.Name()));
     mAction.setSeparator(item.Caption() == "-");
     if (!mAction.isSeparator()) mAction.setText(Plain(item.Caption()));
+    mAction.setShortcuts(Shortcuts(item));
     QObject::connect(&mAction, &QAction::triggered, [&item] { item.RaiseClick(); });
     auto* const parent = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
     QWidget& bar = mForm.MenuBar();

@@ -3,6 +3,8 @@
 #include "qt/QtForm.h"
 #include "qt/QtLook.h"
 
+#include <QKeyEvent>
+
 namespace tessarin::qt {
 
 QtPeer::QtPeer(Control& control, QWidget& widget, QtForm& form)
@@ -18,7 +20,18 @@ void QtPeer::Place() {
                         Pixels(look.Height));
     const bool inClient = mWidget.parentWidget() == &mForm.Client();
     const bool beyond = inClient && mWidget.geometry().center().x() >= mForm.Client().width();
-    mWidget.setVisible(look.Visible && !beyond);
+    const bool visible = look.Visible && !beyond;
+    if (!visible) mForm.Focus().Leave(mWidget);
+    mWidget.setVisible(visible);
+}
+
+bool QtPeer::IsKey(const QKeyEvent& key) const {
+    const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+    const QString caption = ToQt(mControl.Caption());
+    if ((modifiers & ~Qt::ShiftModifier) == Qt::NoModifier && caption.size() == 1 &&
+        caption.compare(key.text(), Qt::CaseInsensitive) == 0)
+        return true;
+    return Shortcuts(mControl).contains(QKeyCombination(modifiers, Qt::Key(key.key())));
 }
 
 // Qt notifies screen readers even when the name is unchanged.
@@ -33,7 +46,7 @@ void QtPeer::Changed(Property property) {
     switch (property) {
     case Property::Bounds:
     case Property::Visible:
-        return mForm.KeepFocus([this] { Place(); });
+        return Place();
     case Property::Texts:
         return ShowTexts();
     case Property::Font:
@@ -41,7 +54,9 @@ void QtPeer::Changed(Property property) {
     case Property::Colors:
         return mWidget.update();
     case Property::Enabled:
-        return mForm.KeepFocus([this] { mWidget.setEnabled(mControl.Enabled()); });
+        if (!mControl.Enabled()) mForm.Focus().Lend(mWidget);
+        mWidget.setEnabled(mControl.Enabled());
+        return mForm.Focus().Return();
     case Property::Interval: // of timers alone
         return;
     }

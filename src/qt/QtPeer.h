@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+class QKeyEvent;
+
 namespace tessarin::qt {
 
 class QtForm;
@@ -19,6 +21,8 @@ public:
     /// client, a widget that lies mostly beyond its right edge stays hidden: with a thin window
     /// frame its edge would show, and Tab would stop at it.
     void Place();
+    /// Whether the key clicks the control: it is its caption or one of its shortcuts.
+    bool IsKey(const QKeyEvent& key) const;
 
 protected:
     /// Gives `widget`, which is this object, the properties of `control`, except the texts: a

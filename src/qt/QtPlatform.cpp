@@ -63,7 +63,7 @@ void QtPlatform::Sleep(int milliseconds) {
 }
 
 bool QtPlatform::EscPressed() {
-    return mEscWatch.Query();
+    return mKeyWatch.EscPressed();
 }
 
 Message::Answer QtPlatform::ShowMessage(const Message& message) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
-#include "qt/EscWatch.h"
+#include "qt/KeyWatch.h"
 
 #include <QElapsedTimer>
 
@@ -57,7 +57,7 @@ private:
     void ApplyPointer();
 
     VersionRecord mVersion;
-    EscWatch mEscWatch;
+    KeyWatch mKeyWatch;
     QtForm* mForm = nullptr;
     int mlWindowStyle = 0;
     bool mbClosed = false;

@@ -50,6 +50,7 @@ class QtButton : public Button, public QtPeer {
 public:
     QtButton(Control& control, QtForm& form, QWidget& parent)
         : Button(&parent), QtPeer(control, *this, form) {
+        Button::setFocusPolicy(Qt::TabFocus);
         // "clicked" is emitted for every click, even on an option that is selected already.
         QObject::connect(this, &QAbstractButton::clicked, [&control] { control.RaiseClick(); });
     }

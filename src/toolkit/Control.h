@@ -49,6 +49,9 @@ struct ControlProperties {
     /// A file among the program's pictures: of a picture, or of a form's icon, without the
     /// "-size.png" of its files.
     std::string PictureFile = {};
+    /// Keys that click a button or menu entry, separated by "; ": "Ctrl+O", "Del; Backspace". A
+    /// button is also clicked by the character that is its whole caption.
+    std::string Shortcuts = {};
 };
 
 /// One control of a window. It keeps its properties and tells the toolkit only of those that really
@@ -96,6 +99,7 @@ public:
     void SetAccessibleName(const std::string& name) {
         Assign(mAccessibleName, name, Property::Texts);
     }
+    void SetShortcuts(const std::string& keys) { mProperties.Shortcuts = keys; }
     const FontStyle& Font() const { return mProperties.Font; }
     void SetFont(const FontStyle& font) { Assign(mProperties.Font, font, Property::Font); }
     Color BackColor() const { return mProperties.BackColor; }

@@ -88,6 +88,7 @@ void frmTessarin::CreateNumPad() {
     CommandButton& clear = create(11, "C", "clear");
     clear.SetLeft(btnNumPad(7).Left());
     clear.SetTop(zero.Top());
+    clear.SetShortcuts("Del; Backspace");
 }
 
 // Below the number pad, with the same places for buttons, down to the bottom of the fields.

@@ -65,7 +65,7 @@ void QtFixture::Key(const std::string& keys) {
     if (top == nullptr) top = form;
     const QKeyCombination key =
         keys == "Alt" ? Qt::Key_Alt : QKeySequence(QString::fromStdString(keys))[0];
-    QTest::qWait(3); // EscWatch takes a press that follows a release at once for a repeat
+    QTest::qWait(3); // KeyWatch takes a press that follows a release at once for a repeat
     QTest::keyClick(top->windowHandle(), key.key(), key.keyboardModifiers());
     Activate();
 }

@@ -1,0 +1,115 @@
+#!/bin/bash
+# Works the program on Wayland, without a screen: the compositor weston draws on a virtual X display,
+# and what xdotool sends to its window reaches the program as Wayland input. Checks what is seen by
+# the colours of pictures: test-wayland.sh [folder under build/]
+set -euo pipefail
+# shellcheck source=scripts/lib.sh
+source "$(dirname "$0")/lib.sh"
+# shellcheck source=scripts/display.sh
+source scripts/display.sh
+
+screen_width=1100
+green=00ff00
+white=ffffff
+highlight=308cc6 # of a menu title
+# Places in the window, from the upper left corner of the first field.
+key_5=(456 66)
+winner=(520 348)
+pace_400=(590 328)
+
+# find_color <colour>: sets x and y to its first point on the screen, row by row.
+find_color() {
+    local at
+    at=$(import -window root -depth 8 rgb:- | od -An -v -tx1 -w3 | tr -d ' ' |
+        grep -m1 -nx "$1" | cut -d: -f1) || true
+    [[ $at ]] && x=$(((at - 1) % screen_width)) y=$(((at - 1) / screen_width))
+}
+
+# sees <colour> <x> <y>: from the first field.
+sees() {
+    [[ $(import -window root -crop "1x1+$((field_x + $2))+$((field_y + $3))" -depth 8 rgb:- |
+        od -An -tx1 | tr -d ' \n') == "$1" ]]
+}
+
+# The first field is the current one and therefore green, inside of its border and the focus.
+find_field() {
+    wait_until 20 'green field' find_color $green
+    field_x=$((x - 5)) field_y=$((y - 5))
+}
+
+click() {
+    xdotool mousemove $((field_x + $1)) $((field_y + $2)) sleep 0.3 click 1 sleep 0.7
+}
+# click_maximise <width of the window>: the last button but one in the title bar.
+click_maximise() { click $(($1 - 63)) -62; }
+press() { xdotool key --delay 100 "$@" sleep 0.7; }
+runs() { kill -0 "$program" 2>/dev/null || fail "$1 ended the program: $(<"$scratch/program.log")"; }
+
+folder=${1:-release}
+need weston qt6-wayland imagemagick xdotool
+start_display ${screen_width}x800
+cat >"$scratch/weston.ini" <<'END_OF_FILE'
+[core]
+idle-time=0
+[shell]
+panel-position=none
+locking=false
+background-color=0xff5a6472
+END_OF_FILE
+backend=x11
+[[ $(weston --version) != 'weston 1'[01]* ]] || backend=x11-backend.so # its old name
+start_process weston --backend=$backend --width=1000 --height=700 --socket=tessarin \
+    --config="$scratch/weston.ini" --log="$scratch/weston.log" 2>"$scratch/weston.err"
+wait_until 20 compositor test -S "$scratch/tessarin"
+
+echo 'Start, and a digit'
+mkdir "$scratch/home"
+start_process env HOME="$scratch/home" WAYLAND_DISPLAY=tessarin QT_QPA_PLATFORM=wayland \
+    ASAN_OPTIONS=detect_leaks=0 "build/$folder/src/Tessarin" >"$scratch/program.log" 2>&1
+program=${started[-1]}
+find_field
+press 5
+wait_until 5 'digit: its key is still there' sees $white "${key_5[@]}"
+
+echo 'Maximise and back'
+normal="$field_x $field_y"
+click_maximise 590
+runs 'The maximise button'
+find_field
+[[ "$field_x $field_y" != "$normal" ]] || fail 'the window is not maximised'
+sees $white "${key_5[@]}" || fail 'the digit is gone, or controls have moved'
+click_maximise 1000
+runs 'The restore button'
+find_field
+sees $white "${key_5[@]}" || fail 'the digit is gone, or controls have moved'
+
+echo 'The About box, maximised'
+press alt Left Down Return # from the first title to the last
+press super+shift+m
+runs 'The maximised box'
+no_green() { ! find_color $green; }
+wait_until 5 'box over the window' no_green
+press Return
+
+echo 'Import, and a tap on Alt during a solve'
+find_field
+press ctrl+o
+sleep 1
+xdotool type --delay 30 "$PWD/puzzles/nearly-complete.csv"
+press Return
+press i
+click "${pace_400[@]}"
+click 100 -20 # so that the pointer rests on no control
+press s
+sees $white "${winner[@]}" || fail 'the solve did not pause'
+xdotool keydown alt sleep 0.08 keyup alt sleep 0.7
+find_color $highlight || fail 'Alt did not go to the menus'
+press alt
+wait_until 60 'solution' sees $green "${winner[@]}"
+
+echo 'The end'
+press ctrl+q
+ended() { ! kill -0 "$program" 2>/dev/null; }
+wait_until 10 'end of the program' ended
+wait "$program" || fail "the program ended with $?: $(<"$scratch/program.log")"
+[[ -z $(find "$scratch/home" -type f) ]] || fail "left behind: $(find "$scratch/home" -type f)"

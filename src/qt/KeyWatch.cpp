@@ -1,0 +1,80 @@
+#include "qt/KeyWatch.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace tessarin::qt {
+
+namespace {
+
+bool MenuOrBoxIsOpen() {
+    if (QApplication::activePopupWidget() != nullptr) return true;
+    if (QApplication::activeModalWidget() != nullptr) return true;
+    const auto windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        const auto* menuBar = window->findChild<QMenuBar*>();
+        // Without the focus, a title is active only because the pointer rests on it.
+        return menuBar != nullptr && window->focusWidget() == menuBar &&
+               menuBar->activeAction() != nullptr;
+    });
+}
+
+bool MayRepeat(int key) {
+    const bool isArrow = key >= Qt::Key_Left && key <= Qt::Key_Down;
+    if (isArrow || key == Qt::Key_Tab || key == Qt::Key_Backtab) return true;
+    return key != Qt::Key_Escape &&
+           qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr;
+}
+
+} // namespace
+
+KeyWatch::KeyWatch() {
+    qApp->installEventFilter(this);
+    // The release of a key that is down now may go to another program.
+    connect(qApp, &QApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive) return;
+        mHeld = 0;
+        mbEscDown = false;
+    });
+}
+
+bool KeyWatch::EscPressed() {
+    return std::exchange(mbEscPressed, false) || mbEscDown;
+}
+
+bool KeyWatch::eventFilter(QObject* receiver, QEvent* event) {
+    // A key event reaches the window exactly once, but its widgets any number of times.
+    if (!receiver->isWindowType()) return false;
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (event->type() == QEvent::KeyPress) return Press(*receiver, key);
+    if (key.isAutoRepeat()) return false;
+    mHeld = 0;
+    mReleased = key.key();
+    mReleaseTime = key.timestamp();
+    if (mReleased == Qt::Key_Escape) mbEscDown = false;
+    return false;
+}
+
+bool KeyWatch::Press(const QObject& window, const QKeyEvent& key) {
+    const bool repeated = IsRepeat(key);
+    mHeld = key.key();
+    if (!repeated) mPressedIn = &window;
+    if (mHeld == Qt::Key_Escape && !repeated && !MenuOrBoxIsOpen()) mbEscDown = mbEscPressed = true;
+    return repeated && (mPressedIn != &window || !MayRepeat(mHeld));
+}
+
+// X11 sends repeats as pairs of a release and a press with the same time. Qt does not mark them
+// when it has read the release before the press has come, or when the focus has changed.
+bool KeyWatch::IsRepeat(const QKeyEvent& key) const {
+    if (key.isAutoRepeat() || key.key() == mHeld) return true;
+    return key.key() == mReleased && mReleaseTime != 0 && key.timestamp() != 0 &&
+           key.timestamp() - mReleaseTime <= 1;
+}
+
+} // namespace tessarin::qt

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QObject>
+
+class QKeyEvent;
+
+namespace tessarin::qt {
+
+/// Watches the keyboard at the windows, whatever control has the focus. A key that is held counts
+/// once: its repeats are swallowed, except those of arrow keys, Tab and of a text that is typed,
+/// and even those in a window that has opened since the press. A press of ESC that closes a menu, a
+/// message box or a dialog does not count as a query.
+class KeyWatch : public QObject {
+public:
+    /// Watches all windows of the application.
+    KeyWatch();
+
+    /// Whether ESC is down now or has been pressed since the last call.
+    bool EscPressed();
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    bool IsRepeat(const QKeyEvent& key) const;
+    // Returns whether the press is swallowed.
+    bool Press(const QObject& window, const QKeyEvent& key);
+
+    int mHeld = 0;                       // the key that is down
+    const QObject* mPressedIn = nullptr; // the window that has got its press
+    int mReleased = 0;                   // the key that was released last
+    quint64 mReleaseTime = 0;            // in milliseconds, 0 when unknown
+    bool mbEscDown = false;              // down since a press that counts
+    bool mbEscPressed = false;           // a press that counts has come since the last query
+};
+
+} // namespace tessarin::qt
