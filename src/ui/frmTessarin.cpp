@@ -100,8 +100,8 @@ void frmTessarin::Form_Activate() {
 void frmTessarin::Form_Load() {}
 
 void frmTessarin::Form_Unload(bool& cancel) {
-    cancel = mbSolving;
-    // At the pace Step a solve may still run although mbSolving is false: it has requested its own
+    cancel = Solving;
+    // At the pace Step a solve may still run although Solving is false: it has requested its own
     // cancel. Choosing another pace clears that request, and then the solve would go on behind the
     // closed window.
     if (!cancel) SetCancel();

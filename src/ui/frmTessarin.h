@@ -120,7 +120,7 @@ private:
     static void SetIndicator(Label& indicator, Color color);
     // The labels of the fields that were dead at the last count.
     std::vector<Label*> DeadLabels();
-    bool IsQuietSolve() const { return mbSolving && mlChillDelay == Pace::Quiet; }
+    bool IsQuietSolve() const { return Solving && ChillDelay == Pace::Quiet; }
 
     // Commands.
     void lblField_Click(int Index);
@@ -155,9 +155,9 @@ private:
 
     std::unique_ptr<Game> moGame;
     std::array<Connection, 5> mConnections;
-    bool mbSolving = false;
-    int mlChillDelay = 0;     // the Delay of the chosen pace
-    int mlPreviousIndex = 0;  // the index of the last BeforeIndexChanged
+    bool Solving = false;
+    int ChillDelay = 0;       // the Delay of the chosen pace
+    int PreviousIndex = 0;    // the index of the last BeforeIndexChanged
     int mlPaintedCurrent = 0; // the field that is painted as the current one; 0 for none
     bool mbViewRunning = false;
     bool mbInfoVisible = false;

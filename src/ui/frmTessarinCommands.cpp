@@ -89,19 +89,19 @@ void frmTessarin::btnSolve_Click() {
         ctlRotor1.SetRunning(false);
     });
     {
-        const ScopedValue<bool> solving(mbSolving, true);
+        const ScopedValue<bool> solving(Solving, true);
         moGame->Play->Solve();
     }
-    if (mlChillDelay == Pace::Quiet) RefreshAll();
+    if (ChillDelay == Pace::Quiet) RefreshAll();
 }
 
 void frmTessarin::moGame_BeforeIndexChanged(int Index) {
-    mlPreviousIndex = Index;
+    PreviousIndex = Index;
 }
 
 void frmTessarin::moGame_IndexChanged(int Index) {
     if (IsQuietSolve()) return;
-    PaintField(mlPreviousIndex);
+    PaintField(PreviousIndex);
     PaintField(Index);
     RefreshNumPad();
 }
@@ -111,10 +111,10 @@ void frmTessarin::moGame_StatusChanged(int Index) {
         PaintField(Index);
         RefreshNumPad();
     }
-    if (!mbSolving || mlChillDelay != Pace::Step) return;
+    if (!Solving || ChillDelay != Pace::Step) return;
     SetCancel();
     ctlRotor1.SetRunning(false);
-    mbSolving = false;
+    Solving = false;
 }
 
 void frmTessarin::moGame_IsWinner(int Index) {
@@ -141,7 +141,7 @@ void frmTessarin::btnNumPad_Click(int Index) {
 
 void frmTessarin::optChill_Click(int Index) {
     ClearCancel();
-    mlChillDelay = Paces.at(static_cast<std::size_t>(Index)).Delay;
+    ChillDelay = Paces.at(static_cast<std::size_t>(Index)).Delay;
 }
 
 void frmTessarin::btnNextFree_Click() {

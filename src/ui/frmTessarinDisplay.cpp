@@ -30,7 +30,7 @@ void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
         RepaintFormerCurrent(std::exchange(mlPaintedCurrent, idx), deadField);
     }
     // Commands that run in the wait may change the pace or end the solve.
-    const auto pause = [this] { return mbSolving ? mlChillDelay : 0; };
+    const auto pause = [this] { return Solving ? ChillDelay : 0; };
     if (pause() > 0) Wait(pause);
 }
 
