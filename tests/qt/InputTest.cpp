@@ -96,17 +96,67 @@ TEST_F(InputTest, ACharacterClicksTheButtonWithThisCaption) {
     Do("click lblDeadEnd & is > |2;6;0");
 }
 
-TEST_F(InputTest, AHeldKeyClicksOnce) {
-    for (const int key : {int(Qt::Key_I), int(Qt::Key_Space)}) {
-        window.btnInfo.Click = [this] { Tell("click"); };
-        Widget("btnInfo").setFocus();
-        for (const quint64 time : {1U, 2U, 3U})
-            SendKey(*form, QEvent::KeyPress, key, time, time > 1);
-        SendKey(*form, QEvent::KeyRelease, key, 4);
-        EXPECT_EQ(std::exchange(platform.Record, ""), "click ") << key;
+TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
+    window.btnInfo.Click = [this] { Tell("click"); };
+    Do("record");
+    const auto hold = [this](const char* name, int key) {
+        Widget(name).setFocus();
+        for (const quint64 time : {1000U, 1200U, 1230U})
+            SendKey(*form, QEvent::KeyPress, key, time, time > 1000);
+        SendKey(*form, QEvent::KeyRelease, key, 1240);
+        return std::exchange(platform.Record, "");
+    };
+    EXPECT_EQ(hold("lblField(1)", Qt::Key_I), "click ");
+    EXPECT_EQ(hold("btnInfo", Qt::Key_Space), "click ");
+    EXPECT_EQ(hold("btnInfo", Qt::Key_Return), "click ");
+    EXPECT_EQ(hold("lblField(1)", Qt::Key_Space), "field 1 ");
+    EXPECT_EQ(hold("lblField(1)", Qt::Key_Right), "field 2 field 2 field 2 ");
+}
+
+TEST_F(InputTest, AClickBesideTheGridLeavesTheKeyboardThere) {
+    Do(R"(
+        click btnNumPad(5) & focus > lblField(1)
+        click btnInfo & click optChill(3)
+        click lblDeadEnd & key Space
+        is > |1;5;0 & key Right
+        cursor > 2
+    )");
+    Widget("btnNumPad(6)").setFocus();
+    Do("key Space & is > |1;5;0|2;6;0");
+    Do("focus > lblField(2)"); // the key is hidden now
+}
+
+TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {
+    for (const std::string& move : {std::string("focus"), std::string("click lblField(5)")}) {
+        Do("full 1 11 21");
+        Widget("btnSolve").setFocus();
+        Do("during " + move);
+        Do("key Space");
+        EXPECT_EQ(Told("focus") == "btnSolve", move == "focus") << move;
     }
-    for (const quint64 time : {1U, 2U, 3U})
-        SendKey(*form, QEvent::KeyPress, Qt::Key_Right, time, time > 1);
+}
+
+TEST_F(InputTest, CommandsHaveKeys) {
+    Do(R"(
+        key 5 & key Delete
+        is > & key 5
+        key Backspace & is >
+        key PgDown & is > |1;1;0
+        key Ctrl+O > Open & key Ctrl+S > Save
+        trace 1 & key PgUp > -1
+        key Ctrl+Q
+    )");
+    EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(InputTest, TheMenuBarShowsWhereTheKeyboardIs) {
+    Key("Alt");
+    ASSERT_NE(MenuBar().activeAction(), nullptr);
+    EXPECT_EQ(MenuBar().activeAction()->text(), "File");
+    Key("Esc");
+    Key("Alt+E");
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(dynamic_cast<QMenu&>(*QApplication::activePopupWidget()).title(), "Edit");
 }
 
 TEST_F(InputTest, TabVisitsThePanelsAndStopsOnceInTheGrid) {
