@@ -16,7 +16,7 @@ namespace tessarin {
 /// tell of every change. With dimension D it has boxes of D by D fields, Numbers() = D*D rows and
 /// columns and Count() = Numbers()*Numbers() fields, numbered from 1 row by row.
 ///
-/// The status is lazy: a change only marks it dirty, and the next read of a status property counts
+/// The status is lazy: a change only puts it out of date, and the next read of a status property counts
 /// all fields anew and pumps window events once for each. Commands that run meanwhile may change
 /// the grid or read the status themselves; every read returns the counts of the grid at its end.
 class Fields {
@@ -67,7 +67,7 @@ public:
     /// Locks or unlocks every field that holds a value.
     void SetLockAll(bool LockState);
 
-    // The status. Each of these counts the fields first when the status is dirty.
+    // The status. Each of these counts the fields first if the status is out of date.
     int FreeCount();     ///< empty fields, locked or not
     int LockedCount();   ///< locked fields, empty or not
     int SetCount();      ///< fields with a value that are not locked
