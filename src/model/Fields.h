@@ -16,9 +16,10 @@ namespace tessarin {
 /// tell of every change. With dimension D it has boxes of D by D fields, Numbers() = D*D rows and
 /// columns and Count() = Numbers()*Numbers() fields, numbered from 1 row by row.
 ///
-/// The status is lazy: a change only puts it out of date, and the next read of a status property counts
-/// all fields anew and pumps window events once for each. Commands that run meanwhile may change
-/// the grid or read the status themselves; every read returns the counts of the grid at its end.
+/// The status is lazy: a change only puts it out of date, and the next read of a status property
+/// counts all fields anew and pumps window events once for each. Commands that run meanwhile may
+/// change the grid or read the status themselves; every read returns the counts of the grid at its
+/// end.
 class Fields {
 public:
     /// SetIndex and FieldChanged pump window events after each event that they raise.
