@@ -81,8 +81,8 @@ public:
     /// the last backslash becomes a slash.
     virtual std::string NativePath(const std::string& path);
 
-    /// Called when a handler of the window ends with an error. Prints it to standard error; the user
-    /// is not told.
+    /// Called when a handler of the window ends with an error. Prints it to standard error; the
+    /// user is not told.
     virtual void ReportError(const std::string& what);
 
     // The window-style calls behind the taskbar entry. `handle` is the window's native handle. By
