@@ -46,7 +46,7 @@ press() { xdotool key --delay 100 "$@" sleep 0.7; }
 runs() { kill -0 "$program" 2>/dev/null || fail "$1 ended the program: $(<"$scratch/program.log")"; }
 
 folder=${1:-release}
-need weston qt6-wayland imagemagick xdotool
+need "${wayland_packages[@]}"
 start_display ${screen_width}x800
 cat >"$scratch/weston.ini" <<'END_OF_FILE'
 [core]
