@@ -61,7 +61,13 @@ protected:
 
 class QtOption : public QtButton<QRadioButton>, public OptionPeer {
 public:
-    using QtButton::QtButton;
+    // Tab stops at the selected one, also when the mouse has selected it.
+    QtOption(Control& control, QtForm& form, QWidget& parent) : QtButton(control, form, parent) {
+        QObject::connect(this, &QAbstractButton::toggled, [this](bool selected) {
+            setFocusPolicy(selected ? Qt::TabFocus : Qt::NoFocus);
+        });
+    }
+
     void Select() override { setChecked(true); }
 
 protected:
