@@ -43,7 +43,7 @@ struct ControlProperties {
     /// leaves out the middle and shows the whole text in a tool tip.
     bool Wrap = false;
     KeyStop Keys = KeyStop::None;
-    FontStyle Font = {};
+    FontStyle Font = FontStyle();
     Color BackColor = SystemColor(15);
     Color ForeColor = SystemColor(18);
     /// A file among the program's pictures: of a picture, or of a form's icon, without the
