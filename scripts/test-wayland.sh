@@ -31,17 +31,35 @@ sees() {
         od -An -tx1 | tr -d ' \n') == "$1" ]]
 }
 
-# The first field is the current one and therefore green, inside of its border and the focus.
-find_field() {
-    wait_until 20 'green field' find_color $green
-    field_x=$((x - 5)) field_y=$((y - 5))
+# The first field is the current one and therefore green, inside of its border and, while the window
+# is active, the white and black frame of the focus.
+is_active() { find_color $green && field_x=$((x - 5)) field_y=$((y - 5)) && sees $white 2 20; }
+find_field() { wait_until 20 'active window' is_active; }
+# Closes a box or dialog, which may not have the keyboard yet.
+press_return() {
+    local i
+    for ((i = 0; i < 10; ++i)); do
+        press Return
+        ! is_active || return 0
+    done
+    fail 'the window is not active again'
 }
 
+# The window is maximised, or is not any more, when the field is elsewhere or back at $normal.
+is_back() { is_active && [[ "$field_x $field_y" == "$normal" ]]; }
+is_elsewhere() { is_active && [[ "$field_x $field_y" != "$normal" ]]; }
+keeps_its_controls() {
+    sees $white "${key_5[@]}" || fail "$1: the digit is gone, or controls have moved"
+}
+
+# Moves the pointer into the window of weston anew, which is when weston learns its place.
 click() {
-    xdotool mousemove $((field_x + $1)) $((field_y + $2)) sleep 0.3 click 1 sleep 0.7
+    xdotool mousemove 1 1 sleep 0.3 mousemove $((field_x + $1)) $((field_y + $2)) \
+        sleep 0.5 click 1 sleep 0.7
 }
 # click_maximise <width of the window>: the last button but one in the title bar.
 click_maximise() { click $(($1 - 63)) -62; }
+press_maximise() { press super+shift+m; }
 press() { xdotool key --delay 100 "$@" sleep 0.7; }
 runs() { kill -0 "$program" 2>/dev/null || fail "$1 ended the program: $(<"$scratch/program.log")"; }
 
@@ -71,17 +89,19 @@ find_field
 press 5
 wait_until 5 'digit: its key is still there' sees $white "${key_5[@]}"
 
-echo 'Maximise and back'
 normal="$field_x $field_y"
-click_maximise 590
-runs 'The maximise button'
-find_field
-[[ "$field_x $field_y" != "$normal" ]] || fail 'the window is not maximised'
-sees $white "${key_5[@]}" || fail 'the digit is gone, or controls have moved'
-click_maximise 1000
-runs 'The restore button'
-find_field
-sees $white "${key_5[@]}" || fail 'the digit is gone, or controls have moved'
+declare -A toggle=([button]=click_maximise [key]=press_maximise)
+for way in button key; do
+    echo "Maximise and back by the $way"
+    ${toggle[$way]} 590
+    runs "The $way to maximise"
+    wait_until 10 'maximised window' is_elsewhere
+    keeps_its_controls 'Maximised'
+    ${toggle[$way]} 1000
+    runs "The $way to restore"
+    wait_until 10 'restored window' is_back
+    keeps_its_controls 'Restored'
+done
 
 echo 'The About box, maximised'
 press alt Left Down Return # from the first title to the last
@@ -89,14 +109,13 @@ press super+shift+m
 runs 'The maximised box'
 no_green() { ! find_color $green; }
 wait_until 5 'box over the window' no_green
-press Return
+press_return
 
 echo 'Import, and a tap on Alt during a solve'
-find_field
 press ctrl+o
 sleep 1
 xdotool type --delay 30 "$PWD/puzzles/nearly-complete.csv"
-press Return
+press_return
 press i
 click "${pace_400[@]}"
 click 100 -20 # so that the pointer rests on no control

@@ -183,6 +183,7 @@ const Fields::Counts& Fields::UpdateStatus() {
 Fields::Counts Fields::CountFields() const {
     const int numbers = Numbers();
     const std::vector<ValueSet> held = HeldByGroup(Items, numbers);
+    ValueSet taken(numbers); // by the groups of the field
     Counts counts;
     int smallestFreedom = numbers + 1;
     for (const auto& field : Items) {
@@ -192,7 +193,7 @@ Fields::Counts Fields::CountFields() const {
             continue;
         }
         ++counts.Free;
-        ValueSet taken(numbers);
+        taken.Clear();
         for (const int group : field->InGroups)
             if (const auto* const values = Find(held, group)) taken.Add(*values);
         const int freedom = numbers - taken.Count();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -16,6 +17,10 @@ public:
         if (mNumbers > WordSize) mAbove.resize((mNumbers - 1) / WordSize);
     }
 
+    void Clear() {
+        mWord = 0;
+        std::fill(mAbove.begin(), mAbove.end(), Word{0});
+    }
     /// Ignores a value outside 1 to `numbers`.
     void Add(int value) {
         const unsigned place = Place(value);

@@ -1,18 +1,13 @@
 #include "qt/WindowFrame.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QWidget>
 #include <QWindow>
 
 #include <algorithm>
 
 namespace tessarin::qt {
-
-namespace {
-
-constexpr Qt::WindowStates Stretched = Qt::WindowMaximized | Qt::WindowFullScreen;
-
-} // namespace
 
 void WindowFrame::SetSize(QSize outer, int leastHeight) {
     mOuter = outer;
@@ -27,18 +22,13 @@ QSize WindowFrame::Inside() const {
 
 bool WindowFrame::Follow(const QEvent& event) {
     switch (event.type()) {
-    case QEvent::WinIdChange:
-        if (const QWindow* const native = mWindow.windowHandle())
-            QObject::connect(native, &QWindow::windowStateChanged, &mWindow,
-                             [this](Qt::WindowState state) {
-                                 if (Stretched.testFlag(state)) Release();
-                             });
-        return false;
     case QEvent::WindowStateChange:
         Fix();
         return false;
-    case QEvent::Move:
     case QEvent::Resize:
+        if (mWindow.size() != Inside()) Fix();
+        return Measure(false);
+    case QEvent::Move:
         return Measure(false);
     case QEvent::Paint:
         return Measure(true);
@@ -59,19 +49,17 @@ bool WindowFrame::Measure(bool trustZero) {
 }
 
 // Some desktops maximise every window. It must then take the size that it is given: on Wayland
-// another one would break the protocol, and the system would end the program. The native window
-// knows the state before the desktop sends the size; the widget still has it until the desktop has
-// sent the next one.
+// another one would break the protocol, and the system would end the program. Qt keeps to a fixed
+// size even then, so there the size is not fixed, but set again after each change.
 void WindowFrame::Fix() {
     const QWindow* const native = mWindow.windowHandle();
     const auto states =
         mWindow.windowState() | (native ? native->windowStates() : mWindow.windowState());
-    if (!states.testAnyFlags(Stretched)) mWindow.setFixedSize(Inside());
-}
-
-void WindowFrame::Release() {
-    mWindow.setMinimumSize(0, 0);
-    mWindow.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    if (states.testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen)) return;
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        mWindow.resize(Inside());
+    else
+        mWindow.setFixedSize(Inside());
 }
 
 } // namespace tessarin::qt

@@ -27,7 +27,6 @@ public:
 private:
     bool Measure(bool trustZero);
     void Fix();
-    void Release();
 
     QWidget& mWindow;
     QMargins mMargins{1, 20, 1, 1};
