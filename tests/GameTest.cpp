@@ -18,7 +18,8 @@ protected:
         platform.Folder = folder;
         const auto add = [this](const char* name, auto function) {
             mCommands[name] = [=, this](int, auto& file) {
-                (game.*function)(file.empty() ? "" : folder + file);
+                const std::string path = file.empty() ? "" : folder + file;
+                (game.*function)(path);
             };
         };
         add("tocsv", &Game::FileExportCSV);
