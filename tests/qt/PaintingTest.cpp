@@ -13,6 +13,7 @@ protected:
         dark.setColor(QPalette::Base, QColor(27, 30, 32));
         if (GetParam()) QApplication::setPalette(dark);
         Do("click btnInfo");
+        platform.QtPlatform::Sleep(100); // until the window manager has widened the window
     }
     ~PaintingTest() override { QApplication::setPalette({}); }
 
