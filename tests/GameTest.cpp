@@ -16,16 +16,16 @@ class GameTest : public GameFixture {
 protected:
     GameTest() {
         platform.Folder = folder;
-        const auto add = [this](const char* name, auto function) {
-            mCommands[name] = [=, this](int, auto& file) {
-                const std::string path = file.empty() ? "" : folder + file;
-                (game.*function)(path);
+        // Each gets a path in the test's folder, or none.
+        const auto add = [this](const char* name, auto command) {
+            mCommands[name] = [this, command](int, auto& file) {
+                command(file.empty() ? "" : folder + file);
             };
         };
-        add("tocsv", &Game::FileExportCSV);
-        add("tosdk", &Game::FileExportSDK);
-        add("fromcsv", &Game::FileImportCSV);
-        add("fromsdk", &Game::FileImportSDK);
+        add("tocsv", [this](const std::string& path) { game.FileExportCSV(path); });
+        add("tosdk", [this](const std::string& path) { game.FileExportSDK(path); });
+        add("fromcsv", [this](const std::string& path) { game.FileImportCSV(path); });
+        add("fromsdk", [this](const std::string& path) { game.FileImportSDK(path); });
         mCommands["link"] = [this](int, auto& target) {
             std::filesystem::create_symlink(target, folder + "link");
         };
