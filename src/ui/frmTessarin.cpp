@@ -72,7 +72,7 @@ frmTessarin::frmTessarin(Toolkit& toolkit)
       mnuHelp(*this, {.Name = "mnuHelp", .Caption = "?"}),
       mnuAbout(mnuHelp, {.Name = "mnuAbout", .Caption = "About"}) {
     for (std::size_t i = 1; i < Paces.size(); ++i)
-        optChill.Add(static_cast<int>(i), OptionOf(Paces[i]));
+        optChill.Add(static_cast<int>(i), OptionOf(Paces.at(i)));
     Activate = [this] { Form_Activate(); };
     Unload = [this](bool& cancel) { Form_Unload(cancel); };
     Form_Initialize();

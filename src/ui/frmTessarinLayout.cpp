@@ -16,8 +16,8 @@ constexpr int PadPitch = FieldSide + BoxGap;
 
 // The start of the row or column `position` (from 1), with gaps between the boxes.
 float GridOffset(int position, int dimension) {
-    return static_cast<float>(position * FieldSide +
-                              ((position - 1) / dimension - 2) * FieldSide / 4);
+    const int offset = position * FieldSide + ((position - 1) / dimension - 2) * FieldSide / 4;
+    return static_cast<float>(offset);
 }
 
 } // namespace
