@@ -61,8 +61,10 @@ void QtMessageBox::showEvent(QShowEvent* event) {
         const QRect both = onScreen(place) & grid;
         return both.width() * both.height();
     };
-    const int left = grid.x() - box.width(), above = grid.y() - box.height();
-    const int right = grid.x() + grid.width(), below = grid.y() + grid.height();
+    const int left = grid.x() - box.width();
+    const int right = grid.x() + grid.width();
+    const int above = grid.y() - box.height();
+    const int below = grid.y() + grid.height();
     const QPoint place =
         std::min({QPoint(right, box.y()), QPoint(left, box.y()), QPoint(box.x(), above),
                   QPoint(box.x(), below), QPoint(right, above), QPoint(right, below),
