@@ -12,8 +12,9 @@ protected:
         QPalette dark(QColor(0x31, 0x36, 0x3B));
         dark.setColor(QPalette::Base, QColor(27, 30, 32));
         if (GetParam()) QApplication::setPalette(dark);
+        form->move(0, 0); // where the screen shows all of the window even when it is wide
         Do("click btnInfo");
-        platform.QtPlatform::Sleep(100); // until the window manager has widened the window
+        platform.QtPlatform::Sleep(100); // until the window manager has moved and widened it
     }
     ~PaintingTest() override { QApplication::setPalette({}); }
 
