@@ -12,7 +12,7 @@ protected:
         QPalette dark(QColor(0x31, 0x36, 0x3B));
         dark.setColor(QPalette::Base, QColor(27, 30, 32));
         if (GetParam()) QApplication::setPalette(dark);
-        form->move(0, 0); // where the screen shows all of the window even when it is wide
+        form->move(10, 220); // all of it on the screen even when it is wide, and below its tool tip
         Do("click btnInfo");
         platform.QtPlatform::Sleep(100); // until the window manager has moved and widened it
     }

@@ -23,11 +23,10 @@ TEST_F(WindowTest, MenusHaveTheirEntries) {
         if (menu->title().isEmpty()) continue; // Qt's own
         entries += menu->title().toStdString() + ":";
         for (const QAction* const action : menu->actions())
-            entries += action->isSeparator() ? " |" : " " + action->text().toStdString();
-        entries += "; ";
+            entries += (action->isSeparator() ? "|" : action->text().toStdString()) + " ";
     }
-    EXPECT_EQ(entries, "File: Import Export | Quit; Edit: Clear Lock All; Clear: Free All; "
-                       "Lock All: Set Clear; View: Freedom | Groups Neighbours; ?: About; ");
+    EXPECT_EQ(entries, "File:Import Export | Quit Edit:Clear Lock All Clear:Free All "
+                       "Lock All:Set Clear View:Freedom | Groups Neighbours ?:About ");
 }
 
 TEST_F(WindowTest, TheWindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
