@@ -30,6 +30,8 @@ public:
     bool Has(int position) const { return Find(position) != nullptr; }
 
     void Add(T item) { mItems.push_back(std::move(item)); }
+    /// Removes all items that equal `item`.
+    void Remove(const T& item) { std::erase(mItems, item); }
     /// Allocates room for `count` items in advance.
     void Reserve(int count) { mItems.reserve(static_cast<std::size_t>(count)); }
 

@@ -5,6 +5,8 @@
 #include "model/Groups.h"
 #include "model/ValueSet.h"
 
+#include <algorithm>
+
 namespace tessarin {
 
 void Field::Clear() {
@@ -65,12 +67,9 @@ std::string Field::FreeValuesList() const {
 }
 
 int Field::NextFreeValue(bool SetValue) {
-    int next = 0;
-    for (const int value : FreeValues()) {
-        if (value <= mlValue) continue;
-        next = value;
-        break;
-    }
+    const KeyedNumbers free = FreeValues();
+    const auto above = std::upper_bound(free.begin(), free.end(), mlValue);
+    const int next = above != free.end() ? *above : 0;
     if (SetValue) this->SetValue(next);
     return next;
 }

@@ -82,46 +82,6 @@ void Fields::SetLockAll(bool LockState) {
         if (field->Value() > 0) field->SetLocked(LockState);
 }
 
-int Fields::FreeCount() {
-    return UpdateStatus().Free;
-}
-
-int Fields::LockedCount() {
-    return UpdateStatus().Locked;
-}
-
-int Fields::SetCount() {
-    return UpdateStatus().Set;
-}
-
-int Fields::NextFreeField() {
-    return UpdateStatus().NextFreeField;
-}
-
-bool Fields::IsWinner() {
-    return UpdateStatus().IsWinner;
-}
-
-bool Fields::IsDeadEnd() {
-    return UpdateStatus().DeadField > 0;
-}
-
-int Fields::Status() {
-    return UpdateStatus().Status;
-}
-
-int Fields::DeadField() {
-    return UpdateStatus().DeadField;
-}
-
-int Fields::DeadCount() const {
-    return DeadFields ? DeadFields->Count() : 0;
-}
-
-int Fields::Index() const {
-    return Cursor ? Cursor->Index : 0;
-}
-
 void Fields::SetIndex(int MyIndex) {
     if (!Cursor && MyIndex < 1) return;
     if (MyIndex < 0 || MyIndex > Items.Count())
@@ -171,9 +131,8 @@ const Fields::Counts& Fields::UpdateStatus() {
     if (mlCountedChanges == mlChanges) return mCounts;
     const auto changes = mlChanges;
     Counts counts = CountFields();
-    Platform& platform = Platform::Current();
     for (int i = Items.Count(); i > 0; --i)
-        platform.PumpEvents(Pump::WhenDue);
+        PumpEvents();
     if (mlCountedChanges == mlChanges) return mCounts; // a command in the pumps has read the status
     if (mlChanges != changes) counts = CountFields();
     Publish(std::move(counts));

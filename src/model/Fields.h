@@ -69,20 +69,29 @@ public:
     void SetLockAll(bool LockState);
 
     // The status. Each of these counts the fields first if the status is out of date.
-    int FreeCount();     ///< empty fields, locked or not
-    int LockedCount();   ///< locked fields, empty or not
-    int SetCount();      ///< fields with a value that are not locked
-    int NextFreeField(); ///< empty field with the fewest free values, at least one; 0 if none
-    bool IsWinner();     ///< no field is empty
-    bool IsDeadEnd();    ///< some empty field has no free value
-    int Status();        ///< the event that a change raises: 0 IsWinner, 1 none, 2 IsDeadEnd
-    int DeadField();     ///< the lowest index of an empty field without free value; 0 if none
+
+    /// Empty fields, locked or not.
+    int FreeCount() { return UpdateStatus().Free; }
+    /// Locked fields, empty or not.
+    int LockedCount() { return UpdateStatus().Locked; }
+    /// Fields with a value that are not locked.
+    int SetCount() { return UpdateStatus().Set; }
+    /// The empty field with the fewest free values, at least one; 0 if none.
+    int NextFreeField() { return UpdateStatus().NextFreeField; }
+    /// Whether no field is empty.
+    bool IsWinner() { return UpdateStatus().IsWinner; }
+    /// Whether some empty field has no free value.
+    bool IsDeadEnd() { return DeadField() > 0; }
+    /// The event that a change raises: 0 IsWinner, 1 none, 2 IsDeadEnd.
+    int Status() { return UpdateStatus().Status; }
+    /// The lowest index of an empty field without free value; 0 if none.
+    int DeadField() { return UpdateStatus().DeadField; }
 
     /// The number of DeadFields. Never counts anew.
-    int DeadCount() const;
+    int DeadCount() const { return DeadFields ? DeadFields->Count() : 0; }
 
     /// The cursor field's index, 0 without a cursor.
-    int Index() const;
+    int Index() const { return Cursor ? Cursor->Index : 0; }
     /// Moves the cursor to a field, or removes it with 0. Does nothing for the current index or,
     /// without a cursor, for a number below 1. Throws std::out_of_range, and changes nothing, for
     /// any other number outside 0 to Count().
@@ -114,7 +123,6 @@ private:
     const Counts& UpdateStatus();
     Counts CountFields() const;
     void Publish(Counts counts);
-    void LoadCSVLine(std::string_view line);
     void LoadSDKRow(int row, std::string_view line);
 
     Counts mCounts;

@@ -14,62 +14,30 @@ Fields& Grid() {
 } // namespace
 
 void Groups::Init() {
+    const int n = Grid().Numbers();
+    const int d = Grid().Dimension();
     Items = {};
-    mlGroupCount = 0;
-    AddRowGroups();
-    AddColumnGroups();
-    AddBoxGroups();
+    for (int r = 0; r < n; ++r)
+        AddGroup(Group::Horizontal, r, 0, 1, n);
+    for (int c = 0; c < n; ++c)
+        AddGroup(Group::Vertical, 0, c, n, 1);
+    for (int r = 0; r < n; r += d)
+        for (int c = 0; c < n; c += d)
+            AddGroup(Group::Box, r, c, d, d);
 }
 
-void Groups::AddRowGroups() {
+void Groups::AddGroup(int flavor, int row, int column, int rows, int columns) {
     const int n = Grid().Numbers();
-    for (int r = 1; r <= n; ++r) {
-        const auto group = NewGroup(Group::Horizontal);
-        for (int c = 1; c <= n; ++c)
-            group->Fields.Add((r - 1) * n + c);
-        RegisterGroup(group);
-    }
-}
-
-void Groups::AddColumnGroups() {
-    const int n = Grid().Numbers();
-    for (int c = 1; c <= n; ++c) {
-        const auto group = NewGroup(Group::Vertical);
-        for (int r = 1; r <= n; ++r)
-            group->Fields.Add((r - 1) * n + c);
-        RegisterGroup(group);
-    }
-}
-
-void Groups::AddBoxGroups() {
-    const int d = Grid().Dimension();
-    for (int i = 1; i <= d; ++i)
-        for (int j = 1; j <= d; ++j)
-            AddBoxGroup((i - 1) * d, (j - 1) * d);
-}
-
-void Groups::AddBoxGroup(int RowOffset, int ColumnOffset) {
-    const int n = Grid().Numbers();
-    const int d = Grid().Dimension();
-    const auto group = NewGroup(Group::Box);
-    for (int r = 1; r <= d; ++r)
-        for (int c = 1; c <= d; ++c)
-            group->Fields.Add((RowOffset + r - 1) * n + ColumnOffset + c);
-    RegisterGroup(group);
-}
-
-std::shared_ptr<Group> Groups::NewGroup(int flavor) {
-    auto group = std::make_shared<Group>();
+    const auto group = std::make_shared<Group>();
+    group->Index = Items.Count() + 1;
     group->Flavor = flavor;
-    group->Index = ++mlGroupCount;
-    group->Fields.Reserve(Grid().Numbers());
-    return group;
-}
-
-void Groups::RegisterGroup(const std::shared_ptr<Group>& Grp) {
-    Items.Add(Grp);
-    for (const int index : Grp->Fields)
-        Grid().Items.Item(index)->GroupAdd(*Grp);
+    group->Fields.Reserve(n);
+    for (int r = row; r < row + rows; ++r)
+        for (int c = column; c < column + columns; ++c)
+            group->Fields.Add(r * n + c + 1);
+    Items.Add(group);
+    for (const int index : group->Fields)
+        Grid().Items.Item(index)->GroupAdd(*group);
 }
 
 } // namespace tessarin

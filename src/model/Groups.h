@@ -22,14 +22,8 @@ public:
     void Init();
 
 private:
-    void AddRowGroups();
-    void AddColumnGroups();
-    void AddBoxGroups();
-    void AddBoxGroup(int RowOffset, int ColumnOffset);
-    std::shared_ptr<Group> NewGroup(int flavor);
-    void RegisterGroup(const std::shared_ptr<Group>& Grp);
-
-    int mlGroupCount = 0;
+    // Builds the group of a rectangle of fields, whose first row and column count from 0.
+    void AddGroup(int flavor, int row, int column, int rows, int columns);
 };
 
 } // namespace tessarin

@@ -6,16 +6,8 @@
 
 namespace tessarin {
 
-int KeyedNumbers::Item(int position) const {
-    if (position < 1 || position > Count())
-        throw std::out_of_range("no number at position " + std::to_string(position) + " of " +
-                                std::to_string(Count()));
-    return mNumbers[static_cast<std::size_t>(position) - 1];
-}
-
 bool KeyedNumbers::Contains(int number) const {
-    return !mNumbers.empty() && number <= mlHighest &&
-           std::find(mNumbers.begin(), mNumbers.end(), number) != mNumbers.end();
+    return Count() > 0 && number <= mlHighest && std::find(begin(), end(), number) != end();
 }
 
 void KeyedNumbers::Add(int number) {
@@ -25,13 +17,9 @@ void KeyedNumbers::Add(int number) {
 
 bool KeyedNumbers::TryAdd(int number) {
     if (Contains(number)) return false;
-    mlHighest = mNumbers.empty() ? number : std::max(mlHighest, number);
-    mNumbers.push_back(number);
+    mlHighest = Count() == 0 ? number : std::max(mlHighest, number);
+    Collection::Add(number);
     return true;
-}
-
-void KeyedNumbers::Remove(int number) {
-    std::erase(mNumbers, number);
 }
 
 } // namespace tessarin

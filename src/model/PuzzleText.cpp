@@ -61,12 +61,8 @@ void Fields::SetTextCSV(std::string_view MyTextCSV, bool /*WithEmpty*/) {
     const ScopedValue<bool> silence(mbNotify, false);
     TextItems lines(MyTextCSV, LineBreak);
     for (lines.Next(); !lines.AtEnd();)
-        if (const auto line = lines.Next(); !line.empty()) LoadCSVLine(line);
-}
-
-void Fields::LoadCSVLine(std::string_view line) {
-    const int index = ToNumber(TextItems(line, ";").Next());
-    Items.Item(index)->SetTextCSV(line);
+        if (const auto line = lines.Next(); !line.empty())
+            Items.Item(ToNumber(TextItems(line, ";").Next()))->SetTextCSV(line);
 }
 
 std::string Fields::TextSDK() const {

@@ -30,13 +30,9 @@ Game::Game() {
                     Relay(grid.StatusChanged, Events.StatusChanged),
                     Relay(grid.IsWinner, Events.IsWinner),
                     Relay(grid.IsDeadEnd, Events.IsDeadEnd),
-                    grid.Init.Connect([this] { Fields_Init(); })};
+                    grid.Init.Connect([this] { Groups->Init(); })};
     Groups = std::make_unique<tessarin::Groups>();
     Play = std::make_unique<tessarin::Play>();
-}
-
-void Game::Fields_Init() {
-    Groups->Init();
 }
 
 Game::~Game() {

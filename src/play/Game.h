@@ -49,8 +49,6 @@ public:
     void FileImportSDK(const std::string& FileName);
 
 private:
-    void Fields_Init();
-
     std::array<Connection, 6> mConnections;
 };
 

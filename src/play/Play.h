@@ -29,10 +29,10 @@ public:
     int Retries = 0;
 
     /// Drops the history and switches tracing off.
-    void Reset();
+    void Reset() { History.reset(); }
 
     /// Whether filled fields are recorded.
-    bool Tracing() const { return mbTracing; }
+    bool Tracing() const { return History.has_value(); }
     /// Switching on starts an empty history, switching off drops it.
     void SetTracing(bool MyTracing);
 
@@ -80,8 +80,6 @@ private:
     int Entries() const { return History ? History->Count() : 0; }
     bool StepBack();
     void Retreat();
-
-    bool mbTracing = false;
 };
 
 } // namespace tessarin

@@ -27,7 +27,7 @@ void Play::Retreat() {
         if (!GoBackToFreedom()) return;
     } while (NextFreeValue() < 1);
     // Not through Play::SetValue: a field that has left the history does not come back into it.
-    if (const auto field = goGame->Fields->Cursor) field->SetValue(field->NextFreeValue());
+    NextFreeValue(true);
 }
 
 } // namespace tessarin
