@@ -8,6 +8,9 @@
 
 namespace tessarin {
 
+/// The width and height of a field's label, and of a key of the number pad, in twips.
+constexpr int FieldSide = 600;
+
 /// The font of values, and of the labels before they show a field.
 inline const FontStyle FieldFont{.Name = "Arial Black", .Size = 20};
 

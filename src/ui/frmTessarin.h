@@ -19,6 +19,9 @@ namespace tessarin {
 
 class Field;
 
+/// The font of small texts. Thirteen lines of this size fit into the information panel.
+inline const FontStyle PlainFont{.Size = 7.5F};
+
 /// The window: 81 field labels, the number pad, the action panel, the menus and the side column
 /// with the field's data and the pace of the automatic solve. It owns the game, calls its player
 /// and grid, and repaints fields on their events; it keeps no puzzle state of its own.
@@ -52,49 +55,54 @@ public:
     void SetInfoVisible(bool MyInfoVisible);
     bool InfoVisible() const { return mbInfoVisible; }
 
-    Label lblFile;
-    ControlArray<Label> lblField;
-    Frame fraNumPad;
-    ControlArray<CommandButton> btnNumPad;
-    Frame fraAction;
-    CommandButton btnNextFree;
-    CommandButton btnNextFreeAuto;
-    CommandButton btnSolve;
-    CommandButton btnGoBack;
-    CommandButton btnGoBackToFreedom;
-    CommandButton btnNextFreeValue;
-    CommandButton btnInfo;
-    Label lblDeadEnd;
-    Label lblWinner;
-    Frame fraInfo;
-    Label lblInfo;
-    Frame fraChill;
-    ControlArray<OptionButton> optChill;
-    Frame fraRotor;
-    ctlRotor ctlRotor1;
+    // The controls and their design; menu entries in the order of their menu.
+    // clang-format off
+    Label lblFile{*this, {.Name = "lblFile", .Top = 120, .Width = 8535, .Height = 255, .Font = PlainFont}};
+    ControlArray<Label> lblField{*this, {.Name = "lblField", .Width = FieldSide, .Height = FieldSide, .Visible = false, .Border = BorderStyle::FixedSingle, .Align = Alignment::Center, .Keys = KeyStop::Grid, .Font = FieldFont, .BackColor = WindowBackground}};
+    Frame fraNumPad{*this, {.Name = "fraNumPad", .Width = 2400, .Height = 3150, .BackColor = WindowBackground}};
+    ControlArray<CommandButton> btnNumPad{fraNumPad, {.Name = "btnNumPad", .Caption = "0", .Width = FieldSide, .Height = FieldSide, .Font = {.Name = "Arial", .Size = 20}}};
+    Frame fraAction{*this, {.Name = "fraAction", .BackColor = WindowBackground}};
+    CommandButton btnNextFree{fraAction, {.Name = "btnNextFree", .Caption = ">", .ToolTipText = "goto next free field"}};
+    CommandButton btnNextFreeAuto{fraAction, {.Name = "btnNextFreeAuto", .Caption = ">I", .ToolTipText = "goto next free field and fill value in", .Shortcuts = "PgDown"}};
+    CommandButton btnSolve{fraAction, {.Name = "btnSolve", .Caption = "S", .ToolTipText = "solve the sudoku"}};
+    CommandButton btnGoBack{fraAction, {.Name = "btnGoBack", .Caption = "<", .ToolTipText = "go back to previous field"}};
+    CommandButton btnGoBackToFreedom{fraAction, {.Name = "btnGoBackToFreedom", .Caption = "<<", .ToolTipText = "go back to last field with freedom", .Shortcuts = "PgUp"}};
+    CommandButton btnNextFreeValue{fraAction, {.Name = "btnNextFreeValue", .Caption = "F", .ToolTipText = "next free value"}};
+    CommandButton btnInfo{fraAction, {.Name = "btnInfo", .Caption = "I", .ToolTipText = "show/hide fild info"}};
+    Label lblDeadEnd{fraAction, {.Name = "lblDeadEnd", .Caption = "DeadEnd", .ToolTipText = "dead end", .Border = BorderStyle::FixedSingle, .Keys = KeyStop::Own}};
+    Label lblWinner{fraAction, {.Name = "lblWinner", .Caption = "Winner", .ToolTipText = "winner", .Border = BorderStyle::FixedSingle}};
+    Frame fraInfo{*this, {.Name = "fraInfo", .Caption = "FieldInfo", .Width = 2535, .Height = 3375, .Border = BorderStyle::FixedSingle, .Font = PlainFont}};
+    Label lblInfo{fraInfo, {.Name = "lblInfo", .Caption = "Label1", .Left = 240, .Top = 360, .Width = 2055, .Height = 2655, .Wrap = true, .Font = PlainFont}};
+    Frame fraChill{*this, {.Name = "fraChill", .Caption = "Chillout", .Width = 2535, .Height = 2175, .Border = BorderStyle::FixedSingle, .Font = PlainFont}};
+    ControlArray<OptionButton> optChill{fraChill, OptionOf(Paces[0])};
+    Frame fraRotor{fraChill, {.Name = "fraRotor", .Left = 1320, .Top = 960, .Width = 975, .Height = 975, .Border = BorderStyle::FixedSingle}};
+    ctlRotor ctlRotor1{fraRotor, {.Name = "ctlRotor1", .Width = 480, .Height = 480}};
     CommonDialog CommonDialog1;
 
-    MenuItem mnuFile;
-    MenuItem mnuFileImportCSV;
-    MenuItem mnuFileExportCSV;
-    MenuItem mnuSplit0;
-    MenuItem mnuFileQuit;
-    MenuItem mnuEdit;
-    MenuItem mnuEditClear;
-    MenuItem mnuEditClearFree;
-    MenuItem mnuEditClearAll;
-    MenuItem mnuEditLockAll;
-    MenuItem mnuEditLockAllSet;
-    MenuItem mnuEditLockClear;
-    MenuItem mnuView;
-    MenuItem mnuViewFreedom;
-    MenuItem mnuSplit2;
-    MenuItem mnuViewGroups;
-    MenuItem mnuViewNeighbours;
-    MenuItem mnuHelp;
-    MenuItem mnuAbout;
+    MenuItem mnuFile{*this, {.Name = "mnuFile", .Caption = "File"}};
+    MenuItem mnuFileImportCSV{mnuFile, {.Name = "mnuFileImportCSV", .Caption = "Import", .Shortcuts = "Ctrl+O"}};
+    MenuItem mnuFileExportCSV{mnuFile, {.Name = "mnuFileExportCSV", .Caption = "Export", .Shortcuts = "Ctrl+S"}};
+    MenuItem mnuSplit0{mnuFile, {.Name = "mnuSplit0", .Caption = "-"}};
+    MenuItem mnuFileQuit{mnuFile, {.Name = "mnuFileQuit", .Caption = "Quit", .Shortcuts = "Ctrl+Q"}};
+    MenuItem mnuEdit{*this, {.Name = "mnuEdit", .Caption = "Edit"}};
+    MenuItem mnuEditClear{mnuEdit, {.Name = "mnuEditClear", .Caption = "Clear"}};
+    MenuItem mnuEditClearFree{mnuEditClear, {.Name = "mnuEditClearFree", .Caption = "Free"}};
+    MenuItem mnuEditClearAll{mnuEditClear, {.Name = "mnuEditClearAll", .Caption = "All"}};
+    MenuItem mnuEditLockAll{mnuEdit, {.Name = "mnuEditLockAll", .Caption = "Lock All"}};
+    MenuItem mnuEditLockAllSet{mnuEditLockAll, {.Name = "mnuEditLockAllSet", .Caption = "Set"}};
+    MenuItem mnuEditLockClear{mnuEditLockAll, {.Name = "mnuEditLockClear", .Caption = "Clear"}};
+    MenuItem mnuView{*this, {.Name = "mnuView", .Caption = "View"}};
+    MenuItem mnuViewFreedom{mnuView, {.Name = "mnuViewFreedom", .Caption = "Freedom"}};
+    MenuItem mnuSplit2{mnuView, {.Name = "mnuSplit2", .Caption = "-"}};
+    MenuItem mnuViewGroups{mnuView, {.Name = "mnuViewGroups", .Caption = "Groups"}};
+    MenuItem mnuViewNeighbours{mnuView, {.Name = "mnuViewNeighbours", .Caption = "Neighbours"}};
+    MenuItem mnuHelp{*this, {.Name = "mnuHelp", .Caption = "?"}};
+    MenuItem mnuAbout{mnuHelp, {.Name = "mnuAbout", .Caption = "About"}};
+    // clang-format on
 
 private:
+    static ControlProperties OptionOf(const Pace& pace);
+
     // Life cycle.
     void Form_Initialize();
     void Form_Activate();

@@ -1,6 +1,7 @@
 // The handlers of menus, buttons and options, and those of the game's events.
 #include "model/Fields.h"
 #include "platform/AtScopeEnd.h"
+#include "platform/Platform.h"
 #include "platform/ScopedValue.h"
 #include "play/Play.h"
 #include "support/modKbd.h"
@@ -51,29 +52,25 @@ void frmTessarin::ConnectGame() {
 }
 
 void frmTessarin::ConnectCommands() {
-    using Handler = void (frmTessarin::*)();
-    const std::pair<Control&, Handler> commands[] = {
-        {lblDeadEnd, &frmTessarin::lblDeadEnd_Click},
-        {mnuAbout, &frmTessarin::mnuAbout_Click},
-        {mnuFileImportCSV, &frmTessarin::mnuFileImportCSV_Click},
-        {mnuFileExportCSV, &frmTessarin::mnuFileExportCSV_Click},
-        {mnuFileQuit, &frmTessarin::mnuFileQuit_Click},
-        {mnuEditClearFree, &frmTessarin::mnuEditClearFree_Click},
-        {mnuEditClearAll, &frmTessarin::mnuEditClearAll_Click},
-        {mnuEditLockAllSet, &frmTessarin::mnuEditLockAllSet_Click},
-        {mnuEditLockClear, &frmTessarin::mnuEditLockClear_Click},
-        {mnuViewFreedom, &frmTessarin::mnuViewFreedom_Click},
-        {mnuViewGroups, &frmTessarin::mnuViewGroups_Click},
-        {mnuViewNeighbours, &frmTessarin::mnuViewNeighbours_Click},
-        {btnNextFree, &frmTessarin::btnNextFree_Click},
-        {btnNextFreeAuto, &frmTessarin::btnNextFreeAuto_Click},
-        {btnGoBack, &frmTessarin::btnGoBack_Click},
-        {btnGoBackToFreedom, &frmTessarin::btnGoBackToFreedom_Click},
-        {btnNextFreeValue, &frmTessarin::btnNextFreeValue_Click},
-        {btnSolve, &frmTessarin::btnSolve_Click},
-        {btnInfo, &frmTessarin::btnInfo_Click}};
-    for (const auto& [control, handler] : commands)
-        control.Click = [this, command = handler] { (this->*command)(); };
+    lblDeadEnd.Click = [this] { lblDeadEnd_Click(); };
+    mnuAbout.Click = [this] { mnuAbout_Click(); };
+    mnuFileImportCSV.Click = [this] { mnuFileImportCSV_Click(); };
+    mnuFileExportCSV.Click = [this] { mnuFileExportCSV_Click(); };
+    mnuFileQuit.Click = [this] { mnuFileQuit_Click(); };
+    mnuEditClearFree.Click = [this] { mnuEditClearFree_Click(); };
+    mnuEditClearAll.Click = [this] { mnuEditClearAll_Click(); };
+    mnuEditLockAllSet.Click = [this] { mnuEditLockAllSet_Click(); };
+    mnuEditLockClear.Click = [this] { mnuEditLockClear_Click(); };
+    mnuViewFreedom.Click = [this] { mnuViewFreedom_Click(); };
+    mnuViewGroups.Click = [this] { mnuViewGroups_Click(); };
+    mnuViewNeighbours.Click = [this] { mnuViewNeighbours_Click(); };
+    btnNextFree.Click = [this] { btnNextFree_Click(); };
+    btnNextFreeAuto.Click = [this] { btnNextFreeAuto_Click(); };
+    btnGoBack.Click = [this] { btnGoBack_Click(); };
+    btnGoBackToFreedom.Click = [this] { btnGoBackToFreedom_Click(); };
+    btnNextFreeValue.Click = [this] { btnNextFreeValue_Click(); };
+    btnSolve.Click = [this] { btnSolve_Click(); };
+    btnInfo.Click = [this] { btnInfo_Click(); };
     lblField.Click = [this](int Index) { lblField_Click(Index); };
     btnNumPad.Click = [this](int Index) { btnNumPad_Click(Index); };
     optChill.Click = [this](int Index) { optChill_Click(Index); };

@@ -1,5 +1,6 @@
 // The layout of the window, for the dimension that the grid has at start-up.
 #include "model/Fields.h"
+#include "platform/Platform.h"
 #include "ui/Colors.h"
 #include "ui/FieldLook.h"
 #include "ui/frmTessarin.h"
@@ -10,7 +11,6 @@ namespace tessarin {
 
 namespace {
 
-constexpr int FieldSide = 600;
 constexpr int BoxGap = FieldSide / 4;
 constexpr int PadPitch = FieldSide + BoxGap;
 
@@ -39,10 +39,6 @@ void frmTessarin::LayoutWindow() {
 void frmTessarin::CreateFieldLabels() {
     const int n = moGame->Fields->Numbers();
     const int d = moGame->Fields->Dimension();
-    Label& pattern = lblField(0);
-    pattern.SetWidth(FieldSide);
-    pattern.SetHeight(FieldSide);
-    pattern.SetFont(FieldFont);
     int k = 0;
     for (int r = 1; r <= n; ++r)
         for (int c = 1; c <= n; ++c) {
@@ -56,39 +52,28 @@ void frmTessarin::CreateFieldLabels() {
 
 // Three rows of three digits and a fourth row, whatever the dimension.
 void frmTessarin::CreateNumPad() {
-    const FontStyle font{.Name = "Arial", .Size = 20};
     const Label& lastOfRow = lblField(moGame->Fields->Numbers());
     fraNumPad.SetLeft(lastOfRow.Left() + 750);
     fraNumPad.SetTop(lastOfRow.Top());
 
-    CommandButton& zero = btnNumPad(0);
-    zero.SetWidth(FieldSide);
-    zero.SetHeight(FieldSide);
-    zero.SetFont(font);
-    const auto create = [this](int key, const std::string& caption,
-                               const std::string& toolTip) -> CommandButton& {
+    const auto place = [](CommandButton& button, int row, int column) {
+        button.SetTop(static_cast<float>(row * PadPitch + BoxGap));
+        button.SetLeft(static_cast<float>(column * PadPitch + BoxGap));
+    };
+    const auto create = [&](int key, const std::string& caption, const std::string& toolTip,
+                            int row, int column) {
         CommandButton& button = btnNumPad.Load(key);
         button.SetCaption(caption);
         button.SetToolTipText(toolTip);
         button.SetVisible(true);
-        return button;
+        place(button, row, column);
     };
-    for (int i = 1; i <= 9; ++i) {
-        CommandButton& button = create(i, std::to_string(i), std::to_string(i));
-        const int column = (i - 1) % 3;
-        const int row = (i - 1) / 3;
-        button.SetLeft(static_cast<float>(column * PadPitch + BoxGap));
-        button.SetTop(static_cast<float>(row * PadPitch + BoxGap));
-    }
-    zero.SetLeft(btnNumPad(8).Left());
-    zero.SetTop(btnNumPad(8).Top() + PadPitch);
-    CommandButton& lock = create(10, "X", "locke");
-    lock.SetLeft(btnNumPad(9).Left());
-    lock.SetTop(zero.Top());
-    CommandButton& clear = create(11, "C", "clear");
-    clear.SetLeft(btnNumPad(7).Left());
-    clear.SetTop(zero.Top());
-    clear.SetShortcuts("Del; Backspace");
+    for (int i = 1; i <= 9; ++i)
+        create(i, std::to_string(i), std::to_string(i), (i - 1) / 3, (i - 1) % 3);
+    place(btnNumPad(0), 3, 1);
+    create(10, "X", "locke", 3, 2);
+    create(11, "C", "clear", 3, 0);
+    btnNumPad(11).SetShortcuts("Del; Backspace");
 }
 
 // Below the number pad, with the same places for buttons, down to the bottom of the fields.

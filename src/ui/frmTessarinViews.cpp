@@ -2,6 +2,7 @@
 #include "model/Fields.h"
 #include "model/Groups.h"
 #include "platform/AtScopeEnd.h"
+#include "platform/Platform.h"
 #include "support/modWait.h"
 #include "ui/Colors.h"
 #include "ui/frmTessarin.h"

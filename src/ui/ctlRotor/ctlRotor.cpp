@@ -12,14 +12,9 @@ namespace {
 constexpr int Pictures = 12;
 constexpr int TickMilliseconds = 5;
 constexpr float PictureSide = 480;
-constexpr int PicturesInColumn = 4;
 
-ControlProperties PictureAt(int index) {
-    const int column = index / PicturesInColumn;
-    const int row = index % PicturesInColumn;
+ControlProperties PictureOf(int index) {
     return {.Name = "Image1",
-            .Left = PictureSide * static_cast<float>(column),
-            .Top = PictureSide * static_cast<float>(row),
             .Width = PictureSide,
             .Height = PictureSide,
             .Visible = false,
@@ -29,9 +24,9 @@ ControlProperties PictureAt(int index) {
 } // namespace
 
 ctlRotor::ctlRotor(Control& container, ControlProperties properties)
-    : UserControl(container, std::move(properties)), Image1(*this, PictureAt(0)) {
+    : UserControl(container, std::move(properties)), Image1(*this, PictureOf(0)) {
     for (int i = 1; i < Pictures; ++i)
-        Image1.Add(i, PictureAt(i));
+        Image1.Add(i, PictureOf(i));
     Timer1.Tick = [this] { Timer1_Timer(); };
     UserControl_Initialize();
     UserControl_Resize();
@@ -39,13 +34,10 @@ ctlRotor::ctlRotor(Control& container, ControlProperties properties)
 
 void ctlRotor::UserControl_Initialize() {
     Timer1.SetInterval(TickMilliseconds);
-    mbUseHourglass = true;
     Stop();
 }
 
 void ctlRotor::UserControl_Resize() {
-    for (int i = 1; i < Pictures; ++i)
-        Image1(i).MoveTo(Image1(0));
     SizeLike(Image1(0));
 }
 
@@ -57,31 +49,27 @@ void ctlRotor::SetRunning(bool SetRunning) {
 }
 
 void ctlRotor::Start() {
-    SetPointer(MousePointer::Hourglass);
-    mlFrameIndex = 0;
+    Platform::Current().SetMousePointer(MousePointer::Hourglass);
+    FrameIndex = 0;
     Timer1.SetEnabled(true);
 }
 
 void ctlRotor::Stop() {
     Timer1.SetEnabled(false);
-    SetPointer(MousePointer::Default);
-    mlFrameIndex = -1;
+    Platform::Current().SetMousePointer(MousePointer::Default);
+    FrameIndex = -1;
     ShowFrame();
 }
 
 void ctlRotor::Timer1_Timer() {
-    mlFrameIndex = static_cast<std::int16_t>((mlFrameIndex + 1) % Pictures);
+    FrameIndex = (FrameIndex + 1) % Pictures;
     ShowFrame();
 }
 
 void ctlRotor::ShowFrame() {
     for (int i = 0; i < Pictures; ++i)
-        Image1(i).SetVisible(i == mlFrameIndex);
+        Image1(i).SetVisible(i == FrameIndex);
     PumpEvents(Pump::Now);
-}
-
-void ctlRotor::SetPointer(MousePointer pointer) const {
-    if (mbUseHourglass) Platform::Current().SetMousePointer(pointer);
 }
 
 } // namespace tessarin

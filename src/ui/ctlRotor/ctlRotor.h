@@ -1,10 +1,7 @@
 #pragma once
 
-#include "platform/Platform.h"
 #include "toolkit/ControlArray.h"
 #include "toolkit/Controls.h"
-
-#include <cstdint>
 
 namespace tessarin {
 
@@ -19,7 +16,7 @@ public:
     /// True starts or restarts the rotor, which shows a picture from the next tick on. False stops
     /// it and hides all pictures.
     void SetRunning(bool SetRunning);
-    bool Running() const { return mlFrameIndex >= 0; }
+    bool Running() const { return FrameIndex >= 0; }
 
 private:
     void UserControl_Initialize();
@@ -28,14 +25,12 @@ private:
     void Stop();
     void Timer1_Timer();
     void ShowFrame();
-    void SetPointer(MousePointer pointer) const;
 
     void BoundsChanged() override { UserControl_Resize(); }
 
     ControlArray<Picture> Image1;
     Timer Timer1{*this, {.Name = "Timer1"}};
-    bool mbUseHourglass = false;
-    std::int16_t mlFrameIndex = -1; // the visible picture; -1 while stopped
+    int FrameIndex = -1; // the visible picture; -1 while stopped
 };
 
 } // namespace tessarin
