@@ -10,20 +10,15 @@ class FakeToolkit : public Toolkit {
 public:
     explicit FakeToolkit(ScriptedPlatform& platform) : mPlatform(platform) {}
 
-    std::string File;    ///< chosen in the next dialog; "": it is cancelled
-    std::string Current; ///< the label that is the grid's current one
+    std::string File; ///< chosen in the next dialog; "": it is cancelled
 
     Control& Find(const std::string& name) { return *mControls.at(name); }
 
     std::unique_ptr<FormPeer> Create(Form& form) override { return Add(form); }
-    std::unique_ptr<LabelPeer> Create(Label& label) override { return Add(label); }
-    std::unique_ptr<ControlPeer> Create(CommandButton& button) override { return Add(button); }
-    std::unique_ptr<OptionPeer> Create(OptionButton& option) override { return Add(option); }
-    std::unique_ptr<ControlPeer> Create(Frame& frame) override { return Add(frame); }
-    std::unique_ptr<ControlPeer> Create(UserControl& control) override { return Add(control); }
-    std::unique_ptr<ControlPeer> Create(Picture& picture) override { return Add(picture); }
     std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
-    std::unique_ptr<ControlPeer> Create(MenuItem& item) override { return Add(item); }
+    std::unique_ptr<ControlPeer> Create(Control& control, Kind /*kind*/) override {
+        return Add(control);
+    }
     std::optional<std::string> RunFileDialog(const CommonDialog& /*dialog*/, bool saving) override {
         mPlatform.Tell(saving ? "Save" : "Open");
         if (File.empty()) return std::nullopt;
@@ -31,13 +26,11 @@ public:
     }
 
 private:
-    struct Peer : FormPeer, LabelPeer, OptionPeer {
+    struct Peer : FormPeer {
         Peer(FakeToolkit& kit, Control& control) : Kit(kit), Own(control) {}
         void Changed(Property /*property*/) override {}
         void Close() override { Kit.mPlatform.Closed = dynamic_cast<Form&>(Own).RaiseUnload(); }
         int Handle() override { return 5; }
-        void MakeCurrent() override { Kit.Current = Own.Name(); }
-        void Select() override {}
         FakeToolkit& Kit;
         Control& Own;
     };

@@ -12,14 +12,13 @@
 
 namespace tessarin::qt {
 
-QtLabel::QtLabel(Control& label, QtForm& form, QWidget& parent)
-    : QLabel(&parent), QtPeer(label, *this, form) {
+QtLabel::QtLabel(Control& label, QWidget& parent) : QLabel(&parent), QtPeer(label, *this) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (IsInGrid()) mForm.Grid().Add(*this);
     if (mControl.Properties().Keys == KeyStop::Own) setFocusPolicy(Qt::TabFocus);
 }
 
-void QtLabel::MakeCurrent() {
+void QtLabel::Select() {
     mForm.Focus().MakeCurrent(*this);
 }
 

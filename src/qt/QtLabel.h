@@ -9,11 +9,11 @@ namespace tessarin::qt {
 /// Paints a label from its control's properties (background, border and text) and reports clicks of
 /// the mouse and, if the Tab key stops at it, of the keyboard. In the form's grid of labels the
 /// arrow keys click the label that they lead to.
-class QtLabel : public QLabel, public QtPeer, public LabelPeer {
+class QtLabel : public QLabel, public QtPeer {
 public:
-    QtLabel(Control& label, QtForm& form, QWidget& parent);
+    QtLabel(Control& label, QWidget& parent);
 
-    void MakeCurrent() override;
+    void Select() override;
 
     void Press() { mControl.RaiseClick(); }
     /// Whether it is there to be clicked, so that it has a place for the focus.

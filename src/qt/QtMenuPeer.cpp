@@ -3,9 +3,10 @@
 #include "qt/QtForm.h"
 #include "qt/QtLook.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMenuBar>
+#include <QMenu>
 
 namespace tessarin::qt {
 
@@ -14,7 +15,7 @@ namespace {
 // After ESC has closed the last menu, Qt leaves the focus on the menu bar.
 class BarMenu : public QMenu {
 public:
-    explicit BarMenu(QtForm& form) : QMenu(&form.MenuBar()), mForm(form) {}
+    explicit BarMenu(QtForm& form) : QMenu(&form.MenuBar()), mForm(form) { setFont(form.font()); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
@@ -27,34 +28,45 @@ private:
     QtForm& mForm;
 };
 
+class QtMenuPeer : public QAction, public ControlPeer {
+public:
+    QtMenuPeer(Control& item, QtForm& form) : QAction(&form), mItem(item), mForm(form) {
+        setObjectName(ToQt(item.Name()));
+        setSeparator(item.Caption() == "-");
+        if (!isSeparator()) setText(Plain(item.Caption()));
+        setShortcuts(Shortcuts(item));
+        connect(this, &QAction::triggered, [&item] { item.RaiseClick(); });
+        auto* const menu = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
+        QWidget& bar = mForm.MenuBar();
+        (menu != nullptr ? menu->Menu() : bar).addAction(this);
+    }
+
+    void Changed(Property property) override {
+        if (property == Property::Texts) setText(Plain(mItem.Caption()));
+        if (property != Property::Enabled) return;
+        setEnabled(mItem.Enabled());
+        // The entries of an open menu still answer when only its action is disabled.
+        if (mMenu) mMenu->setEnabled(mItem.Enabled());
+    }
+
+private:
+    QMenu& Menu() {
+        if (!mMenu) {
+            mMenu = std::make_unique<BarMenu>(mForm);
+            setMenu(mMenu.get());
+        }
+        return *mMenu;
+    }
+
+    const Control& mItem;
+    QtForm& mForm;
+    std::unique_ptr<QMenu> mMenu;
+};
+
 } // namespace
 
-QtMenuPeer::QtMenuPeer(MenuItem& item, QtForm& form) : mItem(item), mForm(form), mAction(&form) {
-    mAction.setObjectName(ToQt(item.Name()));
-    mAction.setSeparator(item.Caption() == "-");
-    if (!mAction.isSeparator()) mAction.setText(Plain(item.Caption()));
-    mAction.setShortcuts(Shortcuts(item));
-    QObject::connect(&mAction, &QAction::triggered, [&item] { item.RaiseClick(); });
-    auto* const parent = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
-    QWidget& bar = mForm.MenuBar();
-    (parent != nullptr ? parent->Menu() : bar).addAction(&mAction);
-}
-
-QMenu& QtMenuPeer::Menu() {
-    if (!mMenu) {
-        mMenu = std::make_unique<BarMenu>(mForm);
-        mMenu->setFont(mForm.font());
-        mAction.setMenu(mMenu.get());
-    }
-    return *mMenu;
-}
-
-void QtMenuPeer::Changed(Property property) {
-    if (property == Property::Texts) mAction.setText(Plain(mItem.Caption()));
-    if (property != Property::Enabled) return;
-    mAction.setEnabled(mItem.Enabled());
-    // The entries of an open menu still answer when only its action is disabled.
-    if (mMenu) mMenu->setEnabled(mItem.Enabled());
+std::unique_ptr<ControlPeer> CreateMenuPeer(Control& item, QtForm& form) {
+    return std::make_unique<QtMenuPeer>(item, form);
 }
 
 } // namespace tessarin::qt

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "toolkit/Controls.h"
-
-#include <QAction>
-#include <QMenu>
+#include "toolkit/Control.h"
 
 #include <memory>
 
@@ -13,19 +10,6 @@ class QtForm;
 
 /// The peer of a menu entry: an action of the menu bar or of the menu that contains it, with a menu
 /// of its own as soon as that gets entries.
-class QtMenuPeer : public ControlPeer {
-public:
-    QtMenuPeer(MenuItem& item, QtForm& form);
-
-    void Changed(Property property) override;
-
-private:
-    QMenu& Menu();
-
-    const MenuItem& mItem;
-    QtForm& mForm;
-    QAction mAction;
-    std::unique_ptr<QMenu> mMenu;
-};
+std::unique_ptr<ControlPeer> CreateMenuPeer(Control& item, QtForm& form);
 
 } // namespace tessarin::qt

@@ -7,8 +7,8 @@
 
 namespace tessarin::qt {
 
-QtPeer::QtPeer(Control& control, QWidget& widget, QtForm& form)
-    : mControl(control), mForm(form), mWidget(widget) {
+QtPeer::QtPeer(Control& control, QWidget& widget)
+    : mControl(control), mForm(dynamic_cast<QtForm&>(*widget.window())), mWidget(widget) {
     mWidget.setObjectName(ToQt(control.Name()));
     mWidget.setFont(ToQt(control.Font()));
     Place();
@@ -34,21 +34,18 @@ bool QtPeer::IsKey(const QKeyEvent& key) const {
     return Shortcuts(mControl).contains(QKeyCombination(modifiers, Qt::Key(key.key())));
 }
 
-// Qt notifies screen readers even when the name is unchanged.
-void QtPeer::ShowTexts() {
-    ShowCaption();
-    mWidget.setToolTip(ToQt(mControl.Properties().ToolTipText));
-    if (const QString name = ToQt(mControl.AccessibleName()); name != mWidget.accessibleName())
-        mWidget.setAccessibleName(name);
-}
-
 void QtPeer::Changed(Property property) {
     switch (property) {
     case Property::Bounds:
     case Property::Visible:
         return Place();
     case Property::Texts:
-        return ShowTexts();
+        ShowCaption();
+        mWidget.setToolTip(ToQt(mControl.Properties().ToolTipText));
+        // Qt notifies screen readers even when the name is unchanged.
+        if (const QString name = ToQt(mControl.AccessibleName()); name != mWidget.accessibleName())
+            mWidget.setAccessibleName(name);
+        return;
     case Property::Font:
         return mWidget.setFont(ToQt(mControl.Font()));
     case Property::Colors:

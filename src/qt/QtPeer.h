@@ -11,12 +11,10 @@ namespace tessarin::qt {
 class QtForm;
 
 /// The widget's side of a control: every widget of a control inherits it beside its Qt class.
-class QtPeer : public virtual ControlPeer {
+class QtPeer : public ControlPeer {
 public:
     void Changed(Property property) override;
 
-    /// The parent of the widgets inside this one.
-    QWidget& Inside() { return mWidget; }
     /// Moves the widget, and shows or hides it according to the control's Visible. Directly in the
     /// client, a widget that lies mostly beyond its right edge stays hidden: with a thin window
     /// frame its edge would show, and Tab would stop at it.
@@ -27,7 +25,7 @@ public:
 protected:
     /// Gives `widget`, which is this object, the properties of `control`, except the texts: a
     /// screen reader may ask for the whole object as soon as it has a name.
-    QtPeer(Control& control, QWidget& widget, QtForm& form);
+    QtPeer(Control& control, QWidget& widget);
 
     virtual void ShowCaption() { mWidget.update(); }
 
@@ -35,8 +33,6 @@ protected:
     QtForm& mForm;
 
 private:
-    void ShowTexts();
-
     QWidget& mWidget;
 };
 

@@ -2,7 +2,6 @@
 
 #include "qt/QtFileDialog.h"
 #include "qt/QtForm.h"
-#include "qt/QtFrame.h"
 #include "qt/QtLabel.h"
 #include "qt/QtLook.h"
 #include "qt/QtMenuPeer.h"
@@ -11,8 +10,9 @@
 #include "toolkit/Controls.h"
 
 #include <QAccessibleWidget>
+#include <QGroupBox>
+#include <QLabel>
 #include <QPainter>
-#include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -45,13 +45,12 @@ QAccessibleInterface* CreateAccessible(const QString& /*className*/, QObject* ob
     return label != nullptr && label->IsClickable() ? new PressableLabel(*label) : nullptr;
 }
 
+// Reports every click, even on an option that is selected already.
 template <class Button>
 class QtButton : public Button, public QtPeer {
 public:
-    QtButton(Control& control, QtForm& form, QWidget& parent)
-        : Button(&parent), QtPeer(control, *this, form) {
+    QtButton(Control& control, QWidget& parent) : Button(&parent), QtPeer(control, *this) {
         Button::setFocusPolicy(Qt::TabFocus);
-        // "clicked" is emitted for every click, even on an option that is selected already.
         QObject::connect(this, &QAbstractButton::clicked, [&control] { control.RaiseClick(); });
     }
 
@@ -59,10 +58,10 @@ protected:
     void ShowCaption() override { this->setText(Plain(mControl.Caption())); }
 };
 
-class QtOption : public QtButton<QRadioButton>, public OptionPeer {
+class QtOption : public QtButton<QRadioButton> {
 public:
     // Tab stops at the selected one, also when the mouse has selected it.
-    QtOption(Control& control, QtForm& form, QWidget& parent) : QtButton(control, form, parent) {
+    QtOption(Control& control, QWidget& parent) : QtButton(control, parent) {
         QObject::connect(this, &QAbstractButton::toggled, [this](bool selected) {
             setFocusPolicy(selected ? Qt::TabFocus : Qt::NoFocus);
         });
@@ -75,32 +74,43 @@ protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 };
 
-// Reads the picture's file when it is first painted.
-class QtPicture : public QWidget, public QtPeer {
+// Paints a frame's background and, with a border, a line around its edge that the caption
+// interrupts. It is a QGroupBox only for screen readers.
+class QtFrame : public QGroupBox, public QtPeer {
 public:
-    QtPicture(Control& control, QtForm& form, QWidget& parent)
-        : QWidget(&parent), QtPeer(control, *this, form) {}
+    QtFrame(Control& frame, QWidget& parent) : QGroupBox(&parent), QtPeer(frame, *this) {}
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
-        if (mPixmap.isNull()) mPixmap.load(ResourcePath(mControl.Properties().PictureFile));
-        QPainter(this).drawPixmap(rect(), mPixmap);
+        const ControlProperties& look = mControl.Properties();
+        QPainter painter(this);
+        painter.fillRect(rect(), ToQt(look.BackColor));
+        if (look.Border == BorderStyle::None) return;
+        const QString caption = ToQt(look.Caption);
+        const int textHeight = caption.isEmpty() ? 0 : painter.fontMetrics().height();
+        const QRect line = rect().adjusted(0, textHeight / 2, 0, 0);
+        painter.fillRect(line, LineColor());
+        painter.fillRect(line.adjusted(1, 1, -1, -1), ToQt(look.BackColor));
+        if (caption.isEmpty()) return;
+        const QRect text(8, 0, painter.fontMetrics().horizontalAdvance(caption) + 6, textHeight);
+        painter.fillRect(text, ToQt(look.BackColor));
+        painter.setPen(TextColor(look.ForeColor, look.BackColor));
+        painter.drawText(text, Qt::AlignCenter, caption);
     }
-
-private:
-    QPixmap mPixmap;
 };
 
-class QtComposite : public QWidget, public QtPeer {
+class QtPicture : public QLabel, public QtPeer {
 public:
-    QtComposite(Control& control, QtForm& form, QWidget& parent)
-        : QWidget(&parent), QtPeer(control, *this, form) {}
+    QtPicture(Control& picture, QWidget& parent) : QLabel(&parent), QtPeer(picture, *this) {
+        setPixmap(ResourcePath(picture.Properties().PictureFile));
+        setScaledContents(true);
+    }
 };
 
 // A QTimer does not fire again before its handler has returned. But a tick pumps window events, and
 // a whole command may run in them: the rotor would stand still until that command ends. Restarting
 // the timer before the tick is handled makes it fire all the same, so ticks nest.
-class QtTimer : public QTimer, public virtual ControlPeer {
+class QtTimer : public QTimer, public ControlPeer {
 public:
     QtTimer(Timer& timer, const QtPlatform& platform) : mTimer(timer) {
         setTimerType(Qt::PreciseTimer);
@@ -121,55 +131,48 @@ private:
     Timer& mTimer;
 };
 
-} // namespace
-
+// The control's container has its widget already.
 template <class Widget>
-std::unique_ptr<Widget> QtToolkit::Make(Control& control) {
-    QtForm& form = mPlatform.CurrentForm();
-    auto* const container = dynamic_cast<QtPeer*>(&control.Container()->Peer());
+std::unique_ptr<Widget> Make(Control& control) {
+    ControlPeer& container = control.Container()->Peer();
+    auto* const form = dynamic_cast<QtForm*>(&container);
     auto widget = std::make_unique<Widget>(
-        control, form, container != nullptr ? container->Inside() : form.Client());
+        control, form != nullptr ? form->Client() : dynamic_cast<QWidget&>(container));
     widget->Changed(Property::Texts);
     return widget;
 }
+
+} // namespace
 
 std::unique_ptr<FormPeer> QtToolkit::Create(Form& form) {
     QAccessible::installFactory(CreateAccessible);
     return std::make_unique<QtForm>(form, mPlatform);
 }
 
-std::unique_ptr<LabelPeer> QtToolkit::Create(Label& label) {
-    return Make<QtLabel>(label);
-}
-
-std::unique_ptr<ControlPeer> QtToolkit::Create(CommandButton& button) {
-    auto peer = Make<QtButton<QPushButton>>(button);
-    peer->setAutoDefault(true); // Enter presses it as Space does
-    return peer;
-}
-
-std::unique_ptr<OptionPeer> QtToolkit::Create(OptionButton& option) {
-    return Make<QtOption>(option);
-}
-
-std::unique_ptr<ControlPeer> QtToolkit::Create(Frame& frame) {
-    return Make<QtFrame>(frame);
-}
-
-std::unique_ptr<ControlPeer> QtToolkit::Create(UserControl& control) {
-    return Make<QtComposite>(control);
-}
-
-std::unique_ptr<ControlPeer> QtToolkit::Create(Picture& picture) {
-    return Make<QtPicture>(picture);
-}
-
 std::unique_ptr<ControlPeer> QtToolkit::Create(Timer& timer) {
     return std::make_unique<QtTimer>(timer, mPlatform);
 }
 
-std::unique_ptr<ControlPeer> QtToolkit::Create(MenuItem& item) {
-    return std::make_unique<QtMenuPeer>(item, mPlatform.CurrentForm());
+std::unique_ptr<ControlPeer> QtToolkit::Create(Control& control, Kind kind) {
+    switch (kind) {
+    case Kind::CommandButton: {
+        auto button = Make<QtButton<QPushButton>>(control);
+        button->setAutoDefault(true); // Enter presses it as Space does
+        return button;
+    }
+    case Kind::Frame:
+    case Kind::UserControl:
+        return Make<QtFrame>(control);
+    case Kind::Label:
+        return Make<QtLabel>(control);
+    case Kind::MenuItem:
+        return CreateMenuPeer(control, mPlatform.CurrentForm());
+    case Kind::OptionButton:
+        return Make<QtOption>(control);
+    case Kind::Picture:
+        break;
+    }
+    return Make<QtPicture>(control);
 }
 
 std::optional<std::string> QtToolkit::RunFileDialog(const CommonDialog& dialog, bool saving) {

@@ -15,8 +15,6 @@ Control::Control(Control& container, ControlProperties properties)
       mContainer(&container),
       mProperties(std::move(properties)) {}
 
-Control::~Control() = default;
-
 void Control::MoveTo(const Control& other) {
     SetLeft(other.Left());
     SetTop(other.Top());

@@ -58,9 +58,7 @@ struct ControlProperties {
 /// change, so setting an equal value costs nothing.
 class Control {
 public:
-    Control(const Control&) = delete;
-    Control& operator=(const Control&) = delete;
-    virtual ~Control();
+    virtual ~Control() = default;
 
     /// Runs when the user clicks, through the form's gate.
     std::function<void()> Click;
@@ -88,9 +86,7 @@ public:
     bool Reachable() const;
 
     const std::string& Caption() const { return mProperties.Caption; }
-    void SetCaption(const std::string& caption) {
-        Assign(mProperties.Caption, caption, Property::Texts);
-    }
+    void SetCaption(const std::string& text) { Assign(mProperties.Caption, text, Property::Texts); }
     void SetToolTipText(const std::string& text) {
         Assign(mProperties.ToolTipText, text, Property::Texts);
     }
@@ -125,9 +121,9 @@ protected:
 
     /// Lets the toolkit create the peer of `self`, which is this control. To be called in the
     /// constructor of every kind of control.
-    template <class T>
-    auto& CreatePeer(T& self) {
-        auto peer = mToolkit.Create(self);
+    template <class T, class... Kinds>
+    auto& CreatePeer(T& self, Kinds... kind) {
+        auto peer = mToolkit.Create(self, kind...);
         auto& created = *peer;
         mPeer = std::move(peer);
         return created;

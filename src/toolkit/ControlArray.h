@@ -21,7 +21,6 @@ public:
         Add(0, std::move(properties));
     }
     ControlArray(const ControlArray&) = delete; // the members' clicks refer to it
-    ControlArray& operator=(const ControlArray&) = delete;
 
     std::function<void(int)> Click;
 

@@ -6,7 +6,7 @@
 namespace tessarin {
 
 void OptionButton::Select() {
-    mOptionPeer.Select();
+    Peer().Select();
     if (Click) Click();
 }
 

@@ -16,44 +16,41 @@ namespace tessarin {
 /// its own it is a menu; with the caption "-" a separator line.
 /// Picture: shows one of the pictures that the program carries.
 /// UserControl: is made of other controls. It may correct its size in BoundsChanged.
-template <Kind>
+template <Kind KindOfControl>
 class PlainControl : public Control {
 public:
     PlainControl(Control& container, ControlProperties properties)
         : Control(container, std::move(properties)) {
-        CreatePeer(*this);
+        CreatePeer(*this, KindOfControl);
     }
 };
+using CommandButton = PlainControl<Kind::CommandButton>;
+using Frame = PlainControl<Kind::Frame>;
+using MenuItem = PlainControl<Kind::MenuItem>;
+using Picture = PlainControl<Kind::Picture>;
+using UserControl = PlainControl<Kind::UserControl>;
 
 /// A text, or a coloured field with a text in it.
-class Label : public Control {
+class Label : public PlainControl<Kind::Label> {
 public:
-    Label(Control& container, ControlProperties properties)
-        : Control(container, std::move(properties)), mLabelPeer(CreatePeer(*this)) {}
+    using PlainControl::PlainControl;
 
     /// Lets the arrow keys move on from this label of the grid. If the focus is in the grid, it
     /// moves here.
-    void MakeCurrent() { mLabelPeer.MakeCurrent(); }
-
-private:
-    LabelPeer& mLabelPeer;
+    void MakeCurrent() { Peer().Select(); }
 };
 
 /// One of several options in the same container, of which one is selected. Every click runs Click,
 /// even if the option is selected already. Click must not pump window events: only then can the
 /// gate let it pass at once, so that the choice takes effect as soon as it is seen.
-class OptionButton : public Control {
+class OptionButton : public PlainControl<Kind::OptionButton> {
 public:
-    OptionButton(Control& container, ControlProperties properties)
-        : Control(container, std::move(properties)), mOptionPeer(CreatePeer(*this)) {}
+    using PlainControl::PlainControl;
 
     /// Selects the option and runs its Click at once, as a click of the user does.
     void Select();
 
     bool ClicksMayWait() const override { return false; }
-
-private:
-    OptionPeer& mOptionPeer;
 };
 
 /// While enabled, runs Tick every Interval milliseconds as part of the window events. Starts

@@ -10,19 +10,10 @@ namespace tessarin {
 class CommonDialog;
 class Control;
 class Form;
-class Label;
-class OptionButton;
 class Timer;
 
-/// The kinds of control that need no class of their own.
-enum class Kind { CommandButton, Frame, MenuItem, Picture, UserControl };
-template <Kind>
-class PlainControl;
-using CommandButton = PlainControl<Kind::CommandButton>;
-using Frame = PlainControl<Kind::Frame>;
-using MenuItem = PlainControl<Kind::MenuItem>;
-using Picture = PlainControl<Kind::Picture>;
-using UserControl = PlainControl<Kind::UserControl>;
+/// The kinds of control that a user sees in a form.
+enum class Kind { CommandButton, Frame, Label, MenuItem, OptionButton, Picture, UserControl };
 
 /// The properties of a control whose changes a toolkit is told.
 enum class Property {
@@ -41,29 +32,18 @@ class ControlPeer {
 public:
     virtual ~ControlPeer() = default;
     virtual void Changed(Property property) = 0;
+    /// Of an option button: shows it as the selected one of its container. Of a label in the form's
+    /// grid: lets the arrow keys move on from it. Nothing for other controls.
+    virtual void Select() {}
 };
 
 /// The toolkit's side of a form.
-class FormPeer : public virtual ControlPeer {
+class FormPeer : public ControlPeer {
 public:
     /// Asks the window to close, as its close box does.
     virtual void Close() = 0;
     /// The native handle for the window-style calls of Platform.
     virtual int Handle() = 0;
-};
-
-/// The toolkit's side of a label.
-class LabelPeer : public virtual ControlPeer {
-public:
-    /// Lets the arrow keys move on from this label of the form's grid.
-    virtual void MakeCurrent() = 0;
-};
-
-/// The toolkit's side of an option button.
-class OptionPeer : public virtual ControlPeer {
-public:
-    /// Shows the option as the selected one of its container.
-    virtual void Select() = 0;
 };
 
 /// Creates the peers of controls. Each control asks for its peer in its constructor, when its
@@ -73,15 +53,8 @@ public:
     virtual ~Toolkit() = default;
 
     virtual std::unique_ptr<FormPeer> Create(Form& form) = 0;
-    virtual std::unique_ptr<LabelPeer> Create(Label& label) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(CommandButton& button) = 0;
-    virtual std::unique_ptr<OptionPeer> Create(OptionButton& option) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(Frame& frame) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(UserControl& control) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(Picture& picture) = 0;
     virtual std::unique_ptr<ControlPeer> Create(Timer& timer) = 0;
-    /// An entry of the menu bar, if its container is the form, or of the menu that contains it.
-    virtual std::unique_ptr<ControlPeer> Create(MenuItem& item) = 0;
+    virtual std::unique_ptr<ControlPeer> Create(Control& control, Kind kind) = 0;
 
     /// Runs the dialog until it is closed. Returns the full path chosen, or nothing when cancelled.
     virtual std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool saving) = 0;
