@@ -1,21 +1,36 @@
 #pragma once
 
+#include <QList>
 #include <QPointer>
+#include <QRect>
 #include <QWidget>
+
+class QKeyEvent;
 
 namespace tessarin::qt {
 
 class QtLabel;
-class QtLabelGrid;
 
-/// Where the keyboard is in a form. It belongs to the current label of the grid; only the Tab key
-/// takes it to a control elsewhere.
+/// Where the keyboard is in a form. It belongs to the form's grid of labels, in which the arrow
+/// keys move on from the current label. The whole grid is one stop of the Tab key, which alone
+/// takes the focus to a control elsewhere.
 class KeyboardFocus {
 public:
-    KeyboardFocus(QWidget& window, QtLabelGrid& grid) : mWindow(window), mGrid(grid) {}
+    explicit KeyboardFocus(QWidget& window) : mWindow(window) {}
 
-    /// Makes `label` the grid's current one. The focus follows if it is in the grid.
+    void AddToGrid(QtLabel& label) { mGrid.append(&label); }
+    /// The rectangle around all visible labels of the grid, in coordinates of their parent.
+    QRect GridBounds() const;
+
+    /// The current label; nullptr before the first MakeCurrent.
+    QtLabel* Current() const { return mCurrent; }
+    /// Makes a label of the grid the current one. The focus follows if it is in the grid.
     void MakeCurrent(QtLabel& label);
+    /// The label to which the key leads from the current one: an arrow to the label beside it, Home
+    /// and End to the ends of its row, with Ctrl to the first and last of all. nullptr for another
+    /// key or beyond the edge of the grid.
+    QtLabel* Target(const QKeyEvent& key) const;
+
     /// Moves the focus to the grid for good.
     void ToGrid();
     /// To be called before `widget` is hidden or disabled: if it has the focus, or a control inside
@@ -33,7 +48,8 @@ private:
     bool IsIn(const QWidget& widget) const;
 
     QWidget& mWindow;
-    QtLabelGrid& mGrid;
+    QList<QtLabel*> mGrid;
+    QtLabel* mCurrent = nullptr;
     QPointer<QWidget> mLender;
 };
 

@@ -33,25 +33,24 @@ QtForm::QtForm(Form& form, QtPlatform& platform)
         icon.addFile(pictures.filePath(file));
     setWindowIcon(icon);
     mPlatform.SetForm(this);
-}
-
-QtForm::~QtForm() {
-    mPlatform.SetForm(nullptr);
+    connect(this, &QObject::destroyed, [&platform] { platform.SetForm(nullptr); });
 }
 
 void QtForm::Changed(Property property) {
-    if (property == Property::Bounds) ApplySize();
     if (property == Property::Texts) setWindowTitle(ToQt(mForm.Caption()));
+    if (property == Property::Bounds) {
+        const int least = mMenuBar.sizeHint().height() + Pixels(mForm.MinClientHeight);
+        mFrame.SetSize({Pixels(mForm.Width()), Pixels(mForm.Height())}, least);
+        Arrange();
+    }
     if (property == Property::Visible) {
         ArrangeTabOrder();
         setVisible(mForm.Visible());
+        // Without a window manager the first activation is never reported.
+        QTimer::singleShot(100, this, [this] {
+            if (!mbActivated) Activate();
+        });
     }
-}
-
-void QtForm::ApplySize() {
-    const int least = mMenuBar.sizeHint().height() + Pixels(mForm.MinClientHeight);
-    mFrame.SetSize({Pixels(mForm.Width()), Pixels(mForm.Height())}, least);
-    Arrange();
 }
 
 void QtForm::Arrange() {
@@ -63,31 +62,13 @@ void QtForm::Arrange() {
         if (auto* const peer = dynamic_cast<QtPeer*>(child)) peer->Place();
 }
 
-void QtForm::LeaveMenuBar() {
-    if (mMenuBar.hasFocus()) mMenuBar.Toggle();
-    if (mMenuBar.hasFocus()) mFocus.ToGrid();
-}
-
 bool QtForm::event(QEvent* event) {
     const bool handled = QWidget::event(event);
     if (mFrame.Follow(*event)) Arrange();
-    switch (event->type()) {
-    case QEvent::Paint:
-        // Without a window manager the first activation is never reported.
-        if (!mbActivated)
-            QTimer::singleShot(100, this, [this] {
-                if (!mbActivated) Activate();
-            });
-        break;
-    case QEvent::WindowActivate:
-        if (!std::exchange(mbLeftForOwnBox, false)) Activate();
-        break;
-    case QEvent::WindowDeactivate:
+    if (event->type() == QEvent::WindowActivate && !std::exchange(mbLeftForOwnBox, false))
+        Activate();
+    if (event->type() == QEvent::WindowDeactivate)
         mbLeftForOwnBox = QApplication::activeModalWidget() != nullptr;
-        break;
-    default:
-        break;
-    }
     return handled;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "qt/KeyboardFocus.h"
-#include "qt/QtLabelGrid.h"
 #include "qt/QtMenuBar.h"
 #include "qt/WindowFrame.h"
 #include "toolkit/Controls.h"
@@ -18,9 +17,6 @@ class QtPlatform;
 class QtForm : public QWidget, public FormPeer {
 public:
     QtForm(Form& form, QtPlatform& platform);
-    QtForm(const QtForm&) = delete;
-    QtForm& operator=(const QtForm&) = delete;
-    ~QtForm() override;
 
     void Changed(Property property) override;
     void Close() override { close(); }
@@ -30,12 +26,11 @@ public:
     /// The parent of all controls, below the menu bar.
     QWidget& Client() { return mClient; }
 
-    QtLabelGrid& Grid() { return mGrid; }
-    QRect GridOnScreen() const { return mGrid.Bounds().translated(mClient.mapToGlobal(QPoint())); }
-    const QMargins& Frame() const { return mFrame.Margins(); }
     KeyboardFocus& Focus() { return mFocus; }
-    /// Leaves the menu bar: the focus goes back to where it was.
-    void LeaveMenuBar();
+    QRect GridOnScreen() const {
+        return mFocus.GridBounds().translated(mClient.mapToGlobal(QPoint()));
+    }
+    const QMargins& Frame() const { return mFrame.Margins(); }
 
 protected:
     bool event(QEvent* event) override;
@@ -44,7 +39,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void ApplySize();
     void Arrange();
     void Activate();
     void ArrangeTabOrder();
@@ -54,8 +48,7 @@ private:
     WindowFrame mFrame{*this};
     QtMenuBar mMenuBar{*this};
     QWidget mClient{this};
-    QtLabelGrid mGrid;
-    KeyboardFocus mFocus{*this, mGrid};
+    KeyboardFocus mFocus{*this};
 
     bool mbActivated = false;     // the window has been active
     bool mbLeftForOwnBox = false; // it is inactive because of a box of its own

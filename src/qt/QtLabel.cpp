@@ -14,7 +14,7 @@ namespace tessarin::qt {
 
 QtLabel::QtLabel(Control& label, QWidget& parent) : QLabel(&parent), QtPeer(label, *this) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    if (IsInGrid()) mForm.Grid().Add(*this);
+    if (IsInGrid()) mForm.Focus().AddToGrid(*this);
     if (mControl.Properties().Keys == KeyStop::Own) setFocusPolicy(Qt::TabFocus);
 }
 
@@ -62,16 +62,17 @@ bool QtLabel::event(QEvent* event) {
 
 void QtLabel::mousePressEvent(QMouseEvent* event) {
     event->accept();
-    if (event->button() != Qt::LeftButton) return;
-    mbPressed = true;
-    if (IsInGrid()) mForm.Focus().ToGrid();
+    if (event->button() == Qt::LeftButton) mbPressed = true;
 }
 
 void QtLabel::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
     if (event->button() != Qt::LeftButton) return;
     const bool pressed = std::exchange(mbPressed, false);
-    if (pressed && rect().contains(event->position().toPoint())) mControl.RaiseClick();
+    if (!pressed || !rect().contains(event->position().toPoint())) return;
+    mControl.RaiseClick();
+    // Only now, so that a screen reader hears of the new current label alone.
+    if (IsInGrid()) mForm.Focus().ToGrid();
 }
 
 void QtLabel::keyPressEvent(QKeyEvent* event) {
@@ -83,7 +84,7 @@ void QtLabel::keyPressEvent(QKeyEvent* event) {
     default:
         break;
     }
-    QtLabel* const target = IsInGrid() ? mForm.Grid().Target(*event) : nullptr;
+    QtLabel* const target = IsInGrid() ? mForm.Focus().Target(*event) : nullptr;
     if (target == nullptr) return QLabel::keyPressEvent(event);
     mForm.Focus().ToGrid();
     target->mControl.RaiseClick();
@@ -93,7 +94,7 @@ void QtLabel::keyPressEvent(QKeyEvent* event) {
 void QtLabel::focusInEvent(QFocusEvent* event) {
     QLabel::focusInEvent(event);
     if (!IsInGrid()) return;
-    QtLabel* const current = mForm.Grid().Current();
+    QtLabel* const current = mForm.Focus().Current();
     if (current != nullptr && current != this) return current->setFocus();
     const bool byTab =
         event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;

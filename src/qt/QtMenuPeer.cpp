@@ -12,7 +12,8 @@ namespace tessarin::qt {
 
 namespace {
 
-// After ESC has closed the last menu, Qt leaves the focus on the menu bar.
+// After ESC has closed the last menu, Qt leaves the focus on the menu bar. Gives it back to the
+// control that had it.
 class BarMenu : public QMenu {
 public:
     explicit BarMenu(QtForm& form) : QMenu(&form.MenuBar()), mForm(form) { setFont(form.font()); }
@@ -20,8 +21,9 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override {
         QMenu::keyPressEvent(event);
-        const bool isClosed = QApplication::activePopupWidget() == nullptr;
-        if (event->key() == Qt::Key_Escape && isClosed) mForm.LeaveMenuBar();
+        if (event->key() != Qt::Key_Escape || QApplication::activePopupWidget() != nullptr) return;
+        if (mForm.MenuBar().hasFocus()) mForm.MenuBar().Toggle();
+        if (mForm.MenuBar().hasFocus()) mForm.Focus().ToGrid();
     }
 
 private:

@@ -17,8 +17,6 @@ class QtPlatform : public Platform {
 public:
     /// Gives the application the same look on every desktop. `version` is the program's record.
     explicit QtPlatform(VersionRecord version = {});
-    QtPlatform(const QtPlatform&) = delete;
-    QtPlatform& operator=(const QtPlatform&) = delete;
     ~QtPlatform() override;
 
     void PumpEvents(Pump pump) override;
