@@ -123,7 +123,6 @@ private:
     const Counts& UpdateStatus();
     Counts CountFields() const;
     void Publish(Counts counts);
-    void LoadSDKRow(int row, std::string_view line);
 
     Counts mCounts;
     bool mbNotify = true; // false: changes of fields raise no events

@@ -84,14 +84,11 @@ void Fields::SetTextSDK(std::string_view MyTextCSV) {
     Init(dimension);
     ++mlChanges; // also of a load that fails
     lines.Next();
-    for (int row = 1; !lines.AtEnd(); ++row)
-        LoadSDKRow(row, lines.Next());
-}
-
-void Fields::LoadSDKRow(int row, std::string_view line) {
-    int position = (row - 1) * Numbers();
-    for (TextItems items(line, ","); !items.AtEnd();)
-        Items.Item(++position)->SetTextSDK(items.Next());
+    for (int row = 0; !lines.AtEnd(); ++row) {
+        int position = row * Numbers();
+        for (TextItems items(lines.Next(), ","); !items.AtEnd();)
+            Items.Item(++position)->SetTextSDK(items.Next());
+    }
 }
 
 } // namespace tessarin

@@ -1,7 +1,5 @@
 #include "ui/FieldLook.h"
 
-#include <utility>
-
 namespace tessarin {
 
 FieldLook LookOf(const FieldState& field) {
@@ -18,11 +16,10 @@ std::string SpokenName(const FieldState& field) {
     std::string text = "row " + std::to_string(field.Row) + ", column " +
                        std::to_string(field.Column) + ": " +
                        (field.Value == 0 ? "empty" : std::to_string(field.Value));
-    for (const auto& [holds, word] : {std::pair{field.IsLocked, ", locked"},
-                                      {field.IsCursor, ", current"},
-                                      {field.IsDead, ", dead"},
-                                      {field.IsMarked, ", marked"}})
-        if (holds) text += word;
+    if (field.IsLocked) text += ", locked";
+    if (field.IsCursor) text += ", current";
+    if (field.IsDead) text += ", dead";
+    if (field.IsMarked) text += ", marked";
     return text;
 }
 

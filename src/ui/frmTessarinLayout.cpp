@@ -116,9 +116,7 @@ void frmTessarin::ArrangeSideColumn() {
 }
 
 OptionButton& frmTessarin::PaceOption(std::string_view caption) {
-    const auto* const pace = std::find_if(Paces.begin(), Paces.end(), [&](const Pace& candidate) {
-        return candidate.Caption == caption;
-    });
+    const auto pace = std::ranges::find(Paces, caption, &Pace::Caption);
     return optChill(static_cast<int>(pace - Paces.begin()));
 }
 
