@@ -131,8 +131,9 @@ const Fields::Counts& Fields::UpdateStatus() {
     if (mlCountedChanges == mlChanges) return mCounts;
     const auto changes = mlChanges;
     Counts counts = CountFields();
+    Platform& platform = Platform::Current(); // looked up once, not for each field
     for (int i = Items.Count(); i > 0; --i)
-        PumpEvents();
+        platform.PumpEvents(Pump::WhenDue);
     if (mlCountedChanges == mlChanges) return mCounts; // a command in the pumps has read the status
     if (mlChanges != changes) counts = CountFields();
     Publish(std::move(counts));
