@@ -72,6 +72,21 @@ public:
 
 class WindowFixture : public testing::Test, protected FakeWindow {
 protected:
+    WindowFixture() {
+        const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
+        add("file", [this](int, auto&) { Tell(window.lblFile.Caption()); });
+        add("pad", [this](int, auto&) { Tell(Pad()); });
+        add("info", [this](int, auto&) { Tell(window.lblInfo.Caption()); });
+        add("hear", [this](int, auto& name) { Tell(toolkit.Find(name).AccessibleName()); });
+        add("hourglass", [this](int, auto&) { Tell(platform.Hourglass); });
+        add("esc", [this](int, auto& presses) { platform.Esc = Numbers(presses); });
+        add("fail", [](int, auto&) { throw "something that is no exception"; });
+        add("activate", [this](int, auto&) { window.RaiseActivate(); });
+        add("marked", [this](int, auto&) {
+            for (int i = 1; i <= 81; ++i)
+                if (Field(i).find("yellow") != std::string::npos) Tell(i);
+        });
+    }
     void TearDown() override {
         EXPECT_TRUE(platform.Answers.empty() && toolkit.File.empty()) << "not asked";
     }

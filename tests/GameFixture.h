@@ -4,37 +4,73 @@
 #include "ScriptedPlatform.h"
 #include "model/Fields.h"
 #include "play/Play.h"
+#include "support/modKbd.h"
+#include "support/modStringLibrary.h"
+#include "support/modWait.h"
+
+#include <filesystem>
 
 namespace tessarin {
 
 struct GameParts {
-    ScriptedPlatform OwnPlatform;
+    ScriptedPlatform platform;
     Game OwnGame;
 };
 
 /// A game without a window. The events that a window would hear are told.
-class GameFixture : public testing::Test, GameParts, protected Script {
+class GameFixture : public testing::Test, protected GameParts, protected Script {
 protected:
-    ScriptedPlatform& platform = OwnPlatform;
+    GameFixture() : Script(platform, OwnGame) {
+        platform.Folder = folder;
+        Hear(game.Events.StatusChanged, [this](int i) { Tell(i, "=", i > 0 ? At(i).Value() : 0); });
+        Hear(game.Events.BeforeIndexChanged, [this](int i) { TellMove("from ", i); });
+        Hear(game.Events.IndexChanged, [this](int i) { TellMove("to ", i); });
+        Hear(game.Events.IsWinner, [this](int i) { Tell("winner ", i); });
+        Hear(game.Events.IsDeadEnd, [this](int i) { Tell("dead ", i); });
 
-    GameFixture() : Script(OwnPlatform, OwnGame) {
-        Listen(game.Events.StatusChanged,
-               [this](int i) { Tell(i, "=", i > 0 ? At(i).Value() : 0); });
-        Listen(game.Events.BeforeIndexChanged, [this](int i) {
-            if (mbMovesTold) Tell("from ", i);
+        const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
+        add("tellpumps", [this](int, auto&) { platform.TellsPumps = true; });
+        add("wait", [](int milliseconds, auto&) { Wait(milliseconds); });
+        add("init", [this](int dimension, auto&) { Tell(grid.Init(dimension)); });
+        add("free", [this](int i, auto&) { Tell(At(i).FreeValuesList()); });
+        // The player. "auto" enters the next free value, or the value that is given.
+        add("value", [this](int value, auto&) { play.SetValue(value); });
+        add("auto", [this](int value, auto&) { play.SetValue(value, true); });
+        add("next", [this](int set, auto&) { Tell(play.NextFreeValue(set == 1)); });
+        add("goto", [this](int fill, auto&) { play.GotoNextFreeField(fill == 1); });
+        add("back", [this](int fill, auto&) { play.GoBack(fill == 1); });
+        add("retreat", [this](int fill, auto&) {
+            Tell(play.GoBackToFreedom(fill == 1) ? "moved" : "stayed");
         });
-        Listen(game.Events.IndexChanged, [this](int i) {
-            if (mbMovesTold) Tell("to ", i);
+        add("retries", [this](int, auto&) { Tell(play.Retries); });
+        add("solve", [this](int, auto&) { // without the moves of the cursor
+            mbMovesTold = false;
+            play.Solve();
         });
-        Listen(game.Events.IsWinner, [this](int i) { Tell("winner ", i); });
-        Listen(game.Events.IsDeadEnd, [this](int i) { Tell("dead ", i); });
+        // What the user does in the next solve: requests a cancel with every change; presses ESC,
+        // or not, before each cycle; answers.
+        add("cancel",
+            [this](int, auto&) { Hear(game.Events.StatusChanged, [](int) { SetCancel(); }); });
+        add("esc", [this](int, auto& presses) { platform.Esc = Numbers(presses); });
+        add("answer", [this](int, auto& text) { platform.Answers.push_back(text); });
+        // Files in the test's folder, or without a name.
+        const auto path = [this](auto& file) { return file.empty() ? "" : folder + file; };
+        add("tocsv", [=, this](int, auto& file) { game.FileExportCSV(path(file)); });
+        add("tosdk", [=, this](int, auto& file) { game.FileExportSDK(path(file)); });
+        add("fromcsv", [=, this](int, auto& file) { game.FileImportCSV(path(file)); });
+        add("fromsdk", [=, this](int, auto& file) { game.FileImportSDK(path(file)); });
+        add("sdk", [this](int, auto& text) { grid.SetTextSDK(ReplaceAll(text, "|", "\r\n")); });
+        add("text", [this](int, auto&) { Tell(grid.TextSDK()); });
     }
-    void Listen(auto& event, auto handler) { mEvents.push_back(event.Connect(handler)); }
-
-    bool mbMovesTold = true;
+    void Hear(auto& event, auto handler) { mEvents.push_back(event.Connect(handler)); }
 
 private:
+    void TellMove(const char* move, int index) {
+        if (mbMovesTold) Tell(move, index);
+    }
+
     std::vector<Connection> mEvents;
+    bool mbMovesTold = true;
 };
 
 } // namespace tessarin

@@ -23,9 +23,9 @@ TEST_P(NestingTest, LeavesNothingStuckAndAllPainted) {
             bool ran = false;
             user.platform.AtPump(pump, [&] {
                 ran = true;
-                user.Told(inner);
+                EXPECT_EQ(user.Told(inner).find("! "), std::string::npos);
             });
-            user.Told(outer);
+            EXPECT_EQ(user.Told(outer).find("! "), std::string::npos);
             if (!ran) break;
             ASSERT_EQ(user.platform.Closed ? "" : user.Faults(), "");
             ASSERT_FALSE(user.platform.Hourglass);

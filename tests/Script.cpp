@@ -20,7 +20,8 @@ void Recorder::TellText(const std::string& text) {
             if (std::ranges::find(in, index) == in.end())
                 Record += sign + std::to_string(index) + " ";
     };
-    const auto before = std::exchange(mHistory, History());
+    const KeyedNumbers history = Player->History.value_or(KeyedNumbers());
+    const auto before = std::exchange(mHistory, {history.begin(), history.end()});
     tellMissing(before, mHistory, '-');
     tellMissing(mHistory, before, '+');
     const int pumps = mPumps - std::exchange(mPumpsTold, mPumps);
@@ -53,13 +54,10 @@ Script::Script(Recorder& recorder, Game& played)
       folder(testing::TempDir() + "tessarin-" + std::to_string(std::random_device{}()) + "/"),
       mRecorder(recorder) {
     std::filesystem::create_directory(folder);
-    recorder.History = [this] {
-        const KeyedNumbers history = play.History.value_or(KeyedNumbers());
-        return std::vector(history.begin(), history.end());
-    };
+    recorder.Player = &play;
     recorder.Meanwhile = [this] {
-        for (const Row& row : std::exchange(mDuring, {}))
-            Run(row);
+        for (const Story& story : std::exchange(mDuring, {}))
+            Do(story.Rows, story.Line, story.File);
     };
     mChanges = game.Events.StatusChanged.Connect([this](int) { mRecorder.Meanwhile(); });
     AddCommands();
@@ -83,14 +81,11 @@ void Script::AddCommands() {
     add("csv", [=, this](int, auto& text) { grid.SetTextCSV(lines(text)); });
     add("is", [this](int, auto&) { Tell(grid.TextCSV().substr(18)); });
     add("cursor", [this](int, auto&) { Tell(grid.Index()); });
-    // How many fields are empty, locked and entered, the next free field, and all dead fields.
+    // How many fields are empty, locked and entered, and the next free field.
     add("counts", [this](int, auto&) {
-        std::vector counts{grid.FreeCount(), grid.LockedCount(), grid.SetCount(),
-                           grid.NextFreeField()};
-        counts.insert(counts.end(), grid.DeadFields->begin(), grid.DeadFields->end());
-        Tell(Text(counts));
+        Tell(grid.FreeCount(), " ", grid.LockedCount(), " ", grid.SetCount(), " ",
+             grid.NextFreeField());
     });
-    add("history", [this](int, auto&) { Tell(play.History ? Text(*play.History) : "off"); });
     add("trace", [this](int, auto& history) { // with this history
         play.Reset();
         play.SetTracing(true);
@@ -98,10 +93,8 @@ void Script::AddCommands() {
             play.History->Add(index);
     });
     add("write", [=, this](int, auto& text) { // a file: its name, and lines separated by "|"
-        std::istringstream words(text);
-        std::string name, content;
-        std::getline(words >> name >> std::ws, content);
-        WriteTextFile(folder + name, lines(content), "", true);
+        const auto end = text.find(' ');
+        WriteTextFile(folder + text.substr(0, end), lines(text.substr(end + 1)), "", true);
     });
     add("read", [this](int, auto& name) { Tell(ReadTextFile(folder + name)); });
     add("pump", [this](int n, auto& text) {
@@ -110,7 +103,7 @@ void Script::AddCommands() {
 }
 
 Script::~Script() {
-    EXPECT_TRUE(mDuring.empty()) << "never run: " << mDuring[0].Text;
+    EXPECT_TRUE(mDuring.empty()) << "never run: " << mDuring[0].Rows;
     std::filesystem::remove_all(folder);
 }
 
@@ -121,26 +114,27 @@ void Script::Fill(std::string cells) {
         if (cells[i] != '.') lines += "\r\n" + std::to_string(i + 1) + ";" + cells[i] + ";0";
     grid.SetTextCSV(lines);
     grid.Status();
+    Refresh();
 }
 
 void Script::Do(const std::string& rows, int line, const char* file) {
     std::istringstream text(rows);
-    for (std::string row; std::getline(text, row); ++line)
-        Run({row.substr(std::min(row.find_first_not_of(' '), row.size())), line, file});
-}
-
-void Script::Run(const Row& row) {
-    if (row.Text.empty() || row.Text.starts_with("//") || testing::Test::HasFailure()) return;
-    if (row.Text.starts_with("during "))
-        return mDuring.push_back({row.Text.substr(7), row.Line, row.File});
-    const testing::ScopedTrace trace(row.File, row.Line, row.Text);
-    std::istringstream steps(ReplaceAll(row.Text, " & ", "\n"));
-    for (std::string step; std::getline(steps, step);) {
-        const auto end = std::min(step.find(" >"), step.size());
-        const std::string told = Told(step.substr(0, end));
-        const bool checked = end < step.size();
-        EXPECT_EQ(told, checked ? step.substr(std::min(end + 3, step.size())) : told) << step;
-        EXPECT_TRUE(checked || told.find("! ") == std::string::npos) << step << ": " << told;
+    for (std::string row; std::getline(text, row); ++line) {
+        row.erase(0, row.find_first_not_of(' '));
+        if (row.empty() || row.starts_with("//") || testing::Test::HasFailure()) continue;
+        if (row.starts_with("during ")) {
+            mDuring.push_back({"", row.substr(7), line, file});
+            continue;
+        }
+        const testing::ScopedTrace trace(file, line, row);
+        std::istringstream steps(ReplaceAll(row, " & ", "\n"));
+        for (std::string step; std::getline(steps, step);) {
+            const auto end = std::min(step.find(" >"), step.size());
+            const std::string told = Told(step.substr(0, end));
+            const bool checked = end < step.size();
+            EXPECT_EQ(told, checked ? step.substr(std::min(end + 3, step.size())) : told) << step;
+            EXPECT_TRUE(checked || told.find("! ") == std::string::npos) << step << ": " << told;
+        }
     }
 }
 

@@ -9,18 +9,20 @@
 //     +3          field 3 has joined the history; -3: it has left it
 //     Beep        a call of the machine; also: Sleep(100), Box(title|text|icon buttons)
 //     (83)        so many pumps of window events, if pumps are told
-//     ! text      the step has ended with this error
+//     ! text      the step, or a handler in it, has ended with this error
 // Line breaks are told as "|", files without the test's folder. A step without " > " passes unless
 // it ends with an error. The rest of a row "during ..." runs in the next box, pause or change of a
 // field, a step behind "pump 3" inside the third pump from now. After a failure no row is run.
 #pragma once
 
-#include "Recorder.h"
 #include "play/Game.h"
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
+#include <sstream>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -29,15 +31,50 @@ namespace tessarin {
 class Field;
 class Play;
 
+/// The part of a test's platform that records what happens, in order, and acts inside pumps.
+class Recorder {
+public:
+    /// Records a changed history, the pumps since the last call (if they are told), and the text of
+    /// all parts unless it is empty.
+    void Tell(const auto&... parts) {
+        std::ostringstream text;
+        (text << ... << parts);
+        TellText(text.str());
+    }
+    /// Runs `action` inside the n-th pump from now, once.
+    void AtPump(int n, std::function<void()> action);
+
+    std::string Record; ///< each item with a blank behind it
+    bool TellsPumps = false;
+    const Play* Player = nullptr;            ///< whose history is told; set before the first Tell
+    std::function<void()> Meanwhile = [] {}; ///< runs while a box is open and during a sleep
+
+protected:
+    /// To be called in each pump.
+    void Pumped();
+
+private:
+    void TellText(const std::string& text);
+
+    std::vector<int> mHistory; // as told last
+    int mPumps = 0;
+    int mPumpsTold = 0;
+    int mPumpOfAction = 0;
+    std::function<void()> mAction;
+};
+
 /// The numbers in `text`, which are separated by blanks.
 std::vector<int> Numbers(const std::string& text);
-/// Numbers as text, with a blank between them.
-std::string Text(const auto& numbers) {
-    std::ostringstream text;
-    for (const char* blank = ""; const int number : numbers)
-        text << std::exchange(blank, " ") << number;
-    return text.str();
-}
+
+/// Rows of a script, and the place of the first one.
+struct Story {
+    std::string Name;
+    std::string Rows;
+    int Line;
+    const char* File;
+};
+/// Splits a text into stories: a row that ends with ":" is the name of the rows below it.
+std::vector<Story> SplitStories(const std::string& text, int line, const char* file);
 
 /// Works the game by steps given as text.
 class Script {
@@ -60,37 +97,24 @@ public:
     std::string Told(const std::string& step);
 
 protected:
+    using Command = std::function<void(int, const std::string&)>;
     void Tell(const auto&... parts) { mRecorder.Tell(parts...); }
-    /// A new grid with these digits and without a cursor; "." and all that is left out is empty.
-    void Fill(std::string cells);
+
+    /// Shows a grid that no event has told of.
+    virtual void Refresh() {}
 
     /// The commands by the first word of a step. Each gets the first number and all other words.
-    std::map<std::string, std::function<void(int, const std::string&)>> mCommands;
+    std::map<std::string, Command> mCommands;
     Recorder& mRecorder;
 
 private:
-    struct Row {
-        std::string Text;
-        int Line;
-        const char* File;
-    };
     void AddCommands();
-    void Run(const Row& row);
+    void Fill(std::string cells);
     void Step(const std::string& step);
 
-    std::vector<Row> mDuring;
+    std::vector<Story> mDuring;
     Connection mChanges;
 };
-
-/// A test that is nothing but a script.
-struct Story {
-    std::string Name;
-    std::string Rows;
-    int Line;
-    const char* File;
-};
-/// Splits a text into stories: a row that ends with ":" is the name of the one below it.
-std::vector<Story> SplitStories(const std::string& text, int line, const char* file);
 
 /// Makes each story of a text a test of its own.
 template <class Fixture>

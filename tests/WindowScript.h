@@ -25,9 +25,13 @@ public:
     std::string Faults();
 
 protected:
+    void Refresh() override { window.RefreshAll(); }
     std::string Field(int index);
     /// The visible keys, the enabled keys and the background.
     std::string Pad();
+
+private:
+    std::vector<std::string> Shown();
 };
 
 } // namespace tessarin

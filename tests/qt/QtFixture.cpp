@@ -2,23 +2,53 @@
 
 namespace tessarin {
 
-namespace {
-constexpr int LookMilliseconds = 10;
-}
-
 QtFixture::QtFixture() : WindowScript(platform, OwnWindow) {
-    mCommands["key"] = [this](int, auto& keys) { Key(keys); };
-    mCommands["focus"] = [this](int, auto&) {
-        Tell(form->focusWidget()->objectName().toStdString());
-    };
-    mCommands["activate"] = [this](int, auto&) { Activate(); };
-    // From now on clicks on fields and options are only told.
-    mCommands["record"] = [this](int, auto&) {
+    const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
+    add("key", [this](int, auto& keys) { Key(QString::fromStdString(keys)); });
+    add("focus", [this](int, auto& name) { Widget(name).setFocus(); });
+    add("focused", [this](int, auto&) { Tell(form->focusWidget()->objectName().toStdString()); });
+    add("activate", [this](int, auto&) { Activate(); });
+    add("close", [this](int, auto&) { form->close(); });
+    add("open", [this](int, auto&) { Tell(form->isVisible()); });
+    add("hourglass", [this](int, auto&) {
+        const QCursor* const pointer = QApplication::overrideCursor();
+        Tell(pointer != nullptr && pointer->shape() == Qt::WaitCursor);
+    });
+    add("esc", [this](int, auto&) { Tell(platform.EscPressed()); });
+    add("away", [](int, auto&) { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); });
+    // From now on these clicks are only told.
+    add("record", [this](int, auto&) {
+        window.btnInfo.Click = [this] { Tell("info"); };
         window.lblField.Click = [this](int index) { Tell("field ", index); };
         window.optChill.Click = [this](int index) { Tell("pace ", index); };
+    });
+    const auto mouse = [=, this](const char* name, QTest::MouseAction action, auto button) {
+        add(name, [=, this](int, auto& control) {
+            const QPoint place = Widget(control).mapTo(form, QPoint(9, 9));
+            QTest::mouseEvent(action, form->windowHandle(), button, {}, place);
+        });
     };
+    mouse("press", QTest::MousePress, Qt::LeftButton);
+    mouse("release", QTest::MouseRelease, Qt::LeftButton);
+    mouse("doubleclick", QTest::MouseDClick, Qt::LeftButton);
+    mouse("rightclick", QTest::MouseClick, Qt::RightButton);
+    // A key of the keyboard, with the time in milliseconds: "up 1200 Space".
+    const auto key = [=, this](const char* name, QEvent::Type type, bool repeat) {
+        add(name, [=, this](int time, auto& words) {
+            const QString wanted = QString::fromStdString(words).section(' ', 1);
+            const int code = QKeySequence(wanted)[0].key();
+            const QString text = code < 0x100 ? QString(QChar(code)) : QString();
+            QKeyEvent event(type, code, {}, text, repeat);
+            event.setTimestamp(static_cast<quint64>(time));
+            QCoreApplication::sendEvent(Top().windowHandle(), &event);
+        });
+    };
+    key("down", QEvent::KeyPress, false);
+    key("up", QEvent::KeyRelease, false);
+    key("again", QEvent::KeyPress, true);
+
     QObject::connect(&mEyes, &QTimer::timeout, [this] { LookForBox(); });
-    mEyes.start(LookMilliseconds);
+    mEyes.start(10);
     window.Show();
     Activate();
     platform.Record.clear();
@@ -49,32 +79,26 @@ void QtFixture::Click(const std::string& control) {
     Activate();
 }
 
-// Tells "shut" if a menu does not open.
 void QtFixture::OpenMenuAndClick(const QString& entry) {
     auto* const action = form->findChild<QAction*>(entry);
     auto* const menu = qobject_cast<QMenu*>(action->associatedObjects().constFirst());
     if (menu == nullptr) return ClickAt(MenuBar(), MenuBar().actionGeometry(action).center());
     OpenMenuAndClick(menu->menuAction()->objectName());
-    if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 300)) return Tell("shut");
+    if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 300)) return;
     ClickAt(*menu, menu->actionGeometry(action).center());
 }
 
-void QtFixture::Key(const std::string& keys) {
-    QWidget* top = QApplication::activePopupWidget();
-    if (top == nullptr) top = QApplication::activeModalWidget();
-    if (top == nullptr) top = form;
-    const QKeyCombination key =
-        keys == "Alt" ? Qt::Key_Alt : QKeySequence(QString::fromStdString(keys))[0];
-    QTest::qWait(3); // KeyWatch takes a press that follows a release at once for a repeat
-    QTest::keyClick(top->windowHandle(), key.key(), key.keyboardModifiers());
-    Activate();
+QWidget& QtFixture::Top() {
+    if (QWidget* const menu = QApplication::activePopupWidget()) return *menu;
+    QWidget* const box = QApplication::activeModalWidget();
+    return box == nullptr ? *form : *box;
 }
 
-void QtFixture::SendKey(QWidget& top, QEvent::Type type, int key, quint64 time, bool repeat) {
-    const QString text = key < 0x100 ? QString(QChar(key)) : QString();
-    QKeyEvent event(type, key, {}, text, repeat);
-    event.setTimestamp(time);
-    QCoreApplication::sendEvent(top.windowHandle(), &event);
+void QtFixture::Key(const QString& keys) {
+    const QKeyCombination key = keys == "Alt" ? Qt::Key_Alt : QKeySequence(keys)[0];
+    QTest::qWait(3); // KeyWatch takes a press that follows a release at once for a repeat
+    QTest::keyClick(Top().windowHandle(), key.key(), key.keyboardModifiers());
+    Activate();
 }
 
 void QtFixture::LookForBox() {
@@ -84,30 +108,23 @@ void QtFixture::LookForBox() {
     if (!dialog->isActiveWindow()) return dialog->activateWindow();
     mSeen = dialog;
     mEyes.start(); // fires again although this handler has not ended
-    if (const auto* const box = qobject_cast<const QMessageBox*>(dialog)) {
-        QString buttons;
-        for (const auto* const button : box->findChildren<QPushButton*>())
-            buttons += " " + button->text().remove('&');
-        const QString told = box->windowTitle() + "|" + box->text() +
-                             (box->icon() == QMessageBox::Question ? "|?" : "|-") + buttons;
-        Tell("Box(", told.toStdString(), ")");
-    } else if (const auto* const files = qobject_cast<const QFileDialog*>(dialog)) {
-        Tell(files->acceptMode() == QFileDialog::AcceptSave ? "Save" : "Open");
-    }
+    if (const auto* const box = qobject_cast<const QMessageBox*>(dialog))
+        Tell("Box(", box->windowTitle().toStdString(), "|", box->text().toStdString(), ")");
+    else
+        Tell(dynamic_cast<QFileDialog&>(*dialog).acceptMode() == QFileDialog::AcceptSave ? "Save"
+                                                                                         : "Open");
     platform.Meanwhile();
     if (dialog->isVisible()) AnswerBox(*dialog);
 }
 
 void QtFixture::AnswerBox(QDialog& dialog) {
     const auto buttons = dialog.findChildren<QPushButton*>();
-    const bool files = qobject_cast<QFileDialog*>(&dialog) != nullptr;
-    const QString usual = buttons.size() == 1 ? buttons[0]->text().remove('&') : "Esc";
-    EXPECT_TRUE(files || buttons.size() == 1 || !mAnswers.isEmpty()) << "box without an answer";
-    const bool given = !mAnswers.isEmpty() && files == mAnswers[0].startsWith('/');
-    const QString answer = given ? mAnswers.takeFirst() : usual;
+    if (buttons.size() == 1) return ClickAt(*buttons[0], {5, 5});
+    EXPECT_TRUE(dialog.inherits("QFileDialog") || !mAnswers.isEmpty()) << "box without an answer";
+    const QString answer = mAnswers.isEmpty() ? "Esc" : mAnswers.takeFirst();
     for (auto* const button : buttons)
         if (button->text().remove('&') == answer) return ClickAt(*button, {5, 5});
-    if (answer == "Esc" || answer == "Return") return Key(answer.toStdString());
+    if (answer == "Esc" || answer == "Return") return Key(answer);
     dialog.findChild<QLineEdit*>("fileNameEdit")->setText(answer);
     QMetaObject::invokeMethod(&dialog, "accept");
 }

@@ -28,10 +28,6 @@ public:
     void Sleep(int milliseconds) override {
         if (ReallySleeps) QtPlatform::Sleep(milliseconds);
     }
-    void SetWindowLongA(int handle, int index, int value) override {
-        Tell("Activated"); // once for each activation
-        QtPlatform::SetWindowLongA(handle, index, value);
-    }
     void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
 };
 
@@ -53,21 +49,19 @@ protected:
     /// Clicks the middle of a control; to an entry of a menu through all menus on the way.
     void Click(const std::string& control) override;
     void Answer(const std::string& answer) override { mAnswers << QString::fromStdString(answer); }
-    /// Sends a click to the top window, so that modal boxes, open menus and disabled panels keep it
-    /// from the controls as they do for a user.
-    static void ClickAt(QWidget& widget, QPoint where);
-    /// Presses and releases a key in the window that would get it.
-    void Key(const std::string& keys);
-    static void SendKey(QWidget& top, QEvent::Type type, int key, quint64 time,
-                        bool repeat = false);
-    /// Activates the window, as a window manager does after a box.
-    void Activate();
 
     QWidget& Widget(const std::string& name);
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
     static QWidget& Box() { return *QApplication::activeModalWidget(); }
 
 private:
+    void Activate();
+    // Sends a click to the top window, so that modal boxes, open menus and disabled panels keep it
+    // from the controls as they do for a user.
+    static void ClickAt(QWidget& widget, QPoint where);
+    // Presses and releases a key in the window that would get it.
+    void Key(const QString& keys);
+    QWidget& Top();
     void OpenMenuAndClick(const QString& entry);
     void LookForBox();
     void AnswerBox(QDialog& dialog);
