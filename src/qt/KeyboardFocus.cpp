@@ -62,9 +62,11 @@ void KeyboardFocus::Lend(const QWidget& panel) {
 }
 
 void KeyboardFocus::Return() {
-    if (!mLender || !mLender->isEnabled()) return;
-    if (mWindow.focusWidget() == mCurrent) mLender->setFocus();
-    mLender.clear();
+    if (!mLender || !mLender->parentWidget()->isEnabled()) return;
+    if (mWindow.focusWidget() != mCurrent) return mLender.clear();
+    QWidget* const lender = mLender;
+    ToGrid();
+    if (lender->isEnabled() && lender->isVisible()) lender->setFocus();
 }
 
 bool KeyboardFocus::IsIn(const QWidget& widget) const {

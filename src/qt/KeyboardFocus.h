@@ -38,8 +38,9 @@ public:
     void Leave(const QWidget& widget);
     /// As Leave. But a control inside `panel` gets the focus back from Return.
     void Lend(const QWidget& panel);
-    /// To be called after a widget was enabled. If the control that has lent its focus is enabled
-    /// again, it gets it back, unless the user has moved it meanwhile.
+    /// To be called after a widget was enabled. If it was the panel of the control that has lent
+    /// its focus, the control gets it back, unless the user has moved it meanwhile or the control
+    /// itself is disabled or hidden now.
     void Return();
     /// Whether the grid has the focus only until Return.
     bool IsLent() const { return mLender != nullptr; }

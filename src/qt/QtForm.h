@@ -46,9 +46,9 @@ private:
     Form& mForm;
     QtPlatform& mPlatform;
     WindowFrame mFrame{*this};
-    QtMenuBar mMenuBar{*this};
-    QWidget mClient{this};
     KeyboardFocus mFocus{*this};
+    QtMenuBar mMenuBar{*this, mFocus};
+    QWidget mClient{this};
 
     bool mbActivated = false;     // the window has been active
     bool mbLeftForOwnBox = false; // it is inactive because of a box of its own

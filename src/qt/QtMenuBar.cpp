@@ -1,5 +1,7 @@
 #include "qt/QtMenuBar.h"
 
+#include "qt/KeyboardFocus.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
@@ -10,7 +12,7 @@
 
 namespace tessarin::qt {
 
-QtMenuBar::QtMenuBar(QWidget& window) : QMenuBar(&window) {
+QtMenuBar::QtMenuBar(QWidget& window, KeyboardFocus& focus) : QMenuBar(&window), mFocus(focus) {
     setNativeMenuBar(false);
     qApp->installEventFilter(this);
 }
@@ -26,8 +28,12 @@ bool QtMenuBar::eventFilter(QObject* receiver, QEvent* event) {
         if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt &&
             std::exchange(mbAltAlone, false))
             Toggle();
+        // QMenuBar keeps the focus if the control that had it before is disabled or hidden by now.
+        if (hasFocus() && activeAction() == nullptr) mFocus.ToGrid();
         return false;
     case QEvent::MouseButtonPress:
+        if (hasFocus() && !underMouse()) Toggle();
+        [[fallthrough]];
     case QEvent::FocusOut: // to another window
         mbAltAlone = false;
         return false;
@@ -39,14 +45,17 @@ bool QtMenuBar::eventFilter(QObject* receiver, QEvent* event) {
 bool QtMenuBar::Pressed(const QKeyEvent& key) {
     mbAltAlone = key.key() == Qt::Key_Alt && QApplication::activePopupWidget() == nullptr;
     if (QApplication::activePopupWidget() != nullptr) return false;
-    if (key.key() == Qt::Key_F10 && key.modifiers() == Qt::NoModifier) return Toggle(), true;
+    if (key.key() == Qt::Key_F10 && key.modifiers() == Qt::NoModifier) {
+        if (!key.isAutoRepeat()) Toggle();
+        return true;
+    }
     return (hasFocus() || key.modifiers() == Qt::AltModifier) && Open(key.text());
 }
 
 bool QtMenuBar::Open(const QString& letter) {
     if (letter.isEmpty()) return false;
     for (QAction* const title : actions())
-        if (title->text().startsWith(letter, Qt::CaseInsensitive)) {
+        if (title->isEnabled() && title->text().startsWith(letter, Qt::CaseInsensitive)) {
             setActiveAction(title);
             QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier); // to the first entry
             if (title->menu()->isVisible()) QApplication::sendEvent(title->menu(), &down);

@@ -4,11 +4,13 @@
 
 namespace tessarin::qt {
 
+class KeyboardFocus;
+
 /// A menu bar that shows where the keyboard is. A tap on Alt, or F10, goes to its first title and
-/// back; Alt with the first letter of a title opens that menu.
+/// back, as a click elsewhere does; Alt with the first letter of a title opens that menu.
 class QtMenuBar : public QMenuBar {
 public:
-    explicit QtMenuBar(QWidget& window);
+    QtMenuBar(QWidget& window, KeyboardFocus& focus);
 
     /// Goes to the first title, or gives the keyboard back to the control that had it before.
     void Toggle();
@@ -19,9 +21,10 @@ protected:
 
 private:
     bool Pressed(const QKeyEvent& key);
-    // Returns whether there is a title that begins with `letter`.
+    // Returns whether there is an enabled title that begins with `letter`.
     bool Open(const QString& letter);
 
+    KeyboardFocus& mFocus;
     bool mbAltAlone = false; // Alt is down, and nothing else has been pressed since
 };
 

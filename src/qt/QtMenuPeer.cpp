@@ -37,6 +37,7 @@ public:
         setSeparator(item.Caption() == "-");
         if (!isSeparator()) setText(Plain(item.Caption()));
         setShortcuts(Shortcuts(item));
+        setAutoRepeat(false);
         connect(this, &QAction::triggered, [&item] { item.RaiseClick(); });
         auto* const menu = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
         QWidget& bar = mForm.MenuBar();

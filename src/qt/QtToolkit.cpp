@@ -62,6 +62,7 @@ class QtOption : public QtButton<QRadioButton> {
 public:
     // Tab stops at the selected one, also when the mouse has selected it.
     QtOption(Control& control, QWidget& parent) : QtButton(control, parent) {
+        setFocusPolicy(Qt::NoFocus);
         QObject::connect(this, &QAbstractButton::toggled, [this](bool selected) {
             setFocusPolicy(selected ? Qt::TabFocus : Qt::NoFocus);
         });
