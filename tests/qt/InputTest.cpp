@@ -70,9 +70,9 @@ const Stories<QtFixture> stories("InputTest", R"(
         // The grid has it, where the last move has led.
         key Space & focused > lblField(21)
         // A key that is hidden now does not get it later.
-        full 1 & focus btnNumPad(1)
-        key S & key C
-        focused > lblField(1)
+        trace & full 1
+        focus btnNumPad(1) & key S
+        key C & focused > lblField(1)
     AClickElsewhereLeavesTheMenuBar:
         focus btnNumPad(5) & key Alt
         click btnNumPad(5) & key Right
