@@ -64,8 +64,8 @@ std::string Fields::Init(int MyDimension) {
     mlDimension = dimension;
     Cursor.reset();
     Items = std::move(items);
+    ++mlChanges; // before the event: its handlers may read the status, or fail
     Events.Init.Raise();
-    ++mlChanges;
     return "";
 }
 
