@@ -13,7 +13,7 @@ public:
     Connection() = default;
     explicit Connection(std::shared_ptr<void> token) : mToken(std::move(token)) {}
 
-    /// The handler is not called again, not even by a Raise in progress.
+    /// Unless a copy is left, the handler is not called again, not even by a Raise in progress.
     void Disconnect() { mToken.reset(); }
 
 private:

@@ -14,30 +14,53 @@ Fields& Grid() {
 } // namespace
 
 void Groups::Init() {
-    const int n = Grid().Numbers();
-    const int d = Grid().Dimension();
     Items = {};
+    mlGroupCount = 0;
+    AddRowGroups();
+    AddColumnGroups();
+    AddBoxGroups();
+}
+
+void Groups::AddRowGroups() {
+    const int n = Grid().Numbers();
     for (int r = 0; r < n; ++r)
         AddGroup(Group::Horizontal, r, 0, 1, n);
+}
+
+void Groups::AddColumnGroups() {
+    const int n = Grid().Numbers();
     for (int c = 0; c < n; ++c)
         AddGroup(Group::Vertical, 0, c, n, 1);
-    for (int r = 0; r < n; r += d)
-        for (int c = 0; c < n; c += d)
-            AddGroup(Group::Box, r, c, d, d);
+}
+
+void Groups::AddBoxGroups() {
+    const int d = Grid().Dimension();
+    for (int i = 0; i < d; ++i)
+        for (int j = 0; j < d; ++j)
+            AddBoxGroup(i * d, j * d);
+}
+
+void Groups::AddBoxGroup(int RowOffset, int ColumnOffset) {
+    const int d = Grid().Dimension();
+    AddGroup(Group::Box, RowOffset, ColumnOffset, d, d);
 }
 
 void Groups::AddGroup(int flavor, int row, int column, int rows, int columns) {
     const int n = Grid().Numbers();
     const auto group = std::make_shared<Group>();
-    group->Index = Items.Count() + 1;
+    group->Index = ++mlGroupCount;
     group->Flavor = flavor;
     group->Fields.Reserve(n);
     for (int r = row; r < row + rows; ++r)
         for (int c = column; c < column + columns; ++c)
             group->Fields.Add(r * n + c + 1);
-    Items.Add(group);
-    for (const int index : group->Fields)
-        Grid().Items.Item(index)->GroupAdd(*group);
+    RegisterGroup(group);
+}
+
+void Groups::RegisterGroup(const std::shared_ptr<Group>& Grp) {
+    Items.Add(Grp);
+    for (const int index : Grp->Fields)
+        Grid().Items.Item(index)->GroupAdd(*Grp);
 }
 
 } // namespace tessarin

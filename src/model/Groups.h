@@ -22,8 +22,15 @@ public:
     void Init();
 
 private:
+    void AddRowGroups();
+    void AddColumnGroups();
+    void AddBoxGroups();
+    void AddBoxGroup(int RowOffset, int ColumnOffset);
     // Builds the group of a rectangle of fields, whose first row and column count from 0.
     void AddGroup(int flavor, int row, int column, int rows, int columns);
+    void RegisterGroup(const std::shared_ptr<Group>& Grp);
+
+    int mlGroupCount = 0; // the Index of the newest group
 };
 
 } // namespace tessarin

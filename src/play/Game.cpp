@@ -30,9 +30,13 @@ Game::Game() {
                     Relay(grid.StatusChanged, Events.StatusChanged),
                     Relay(grid.IsWinner, Events.IsWinner),
                     Relay(grid.IsDeadEnd, Events.IsDeadEnd),
-                    grid.Init.Connect([this] { Groups->Init(); })};
+                    grid.Init.Connect([this] { Fields_Init(); })};
     Groups = std::make_unique<tessarin::Groups>();
     Play = std::make_unique<tessarin::Play>();
+}
+
+void Game::Fields_Init() {
+    Groups->Init();
 }
 
 Game::~Game() {

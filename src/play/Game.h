@@ -49,6 +49,8 @@ public:
     void FileImportSDK(const std::string& FileName);
 
 private:
+    void Fields_Init();
+
     std::array<Connection, 6> mConnections;
 };
 

@@ -14,11 +14,15 @@ Fields& Grid() {
 
 } // namespace
 
+void Play::Reset() {
+    History.reset();
+    mbTracing = false;
+}
+
 void Play::SetTracing(bool MyTracing) {
-    if (!MyTracing)
-        History.reset();
-    else if (!History)
-        History.emplace();
+    if (MyTracing == mbTracing) return;
+    mbTracing = MyTracing;
+    History = mbTracing ? std::optional(KeyedNumbers()) : std::nullopt;
 }
 
 void Play::GotoNextFreeField(bool AutoValue) {
@@ -83,17 +87,17 @@ void Play::SetValue(int MyValue, bool AutoValue) {
 void Play::EnterValue(Field& field, int value) {
     if (field.Value() == value || !field.FreeValues().Contains(value)) return;
     field.SetValue(value);
-    AddToHistory(field.Index);
+    if (mbTracing) AddToHistory(field.Index);
 }
 
 void Play::EmptyField(Field& field) {
     field.SetValue(0);
-    if (History) History->Remove(field.Index);
+    if (mbTracing && History) History->Remove(field.Index);
     GotoNewestEntry();
 }
 
 void Play::GotoNewestEntry() {
-    if (Entries() == 0) return;
+    if (!mbTracing || Entries() == 0) return;
     const int newest = History->Item(Entries());
     if (newest <= Grid().Items.Count()) Grid().SetIndex(newest); // else left from a larger grid
 }

@@ -29,10 +29,10 @@ public:
     int Retries = 0;
 
     /// Drops the history and switches tracing off.
-    void Reset() { History.reset(); }
+    void Reset();
 
     /// Whether filled fields are recorded.
-    bool Tracing() const { return History.has_value(); }
+    bool Tracing() const { return mbTracing; }
     /// Switching on starts an empty history, switching off drops it.
     void SetTracing(bool MyTracing);
 
@@ -80,6 +80,8 @@ private:
     int Entries() const { return History ? History->Count() : 0; }
     bool StepBack();
     void Retreat();
+
+    bool mbTracing = false;
 };
 
 } // namespace tessarin

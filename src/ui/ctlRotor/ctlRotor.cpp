@@ -34,6 +34,7 @@ ctlRotor::ctlRotor(Control& container, ControlProperties properties)
 
 void ctlRotor::UserControl_Initialize() {
     Timer1.SetInterval(TickMilliseconds);
+    UseHourglass = true;
     Stop();
 }
 
@@ -49,20 +50,20 @@ void ctlRotor::SetRunning(bool SetRunning) {
 }
 
 void ctlRotor::Start() {
-    Platform::Current().SetMousePointer(MousePointer::Hourglass);
+    SetPointer(MousePointer::Hourglass);
     FrameIndex = 0;
     Timer1.SetEnabled(true);
 }
 
 void ctlRotor::Stop() {
     Timer1.SetEnabled(false);
-    Platform::Current().SetMousePointer(MousePointer::Default);
+    SetPointer(MousePointer::Default);
     FrameIndex = -1;
     ShowFrame();
 }
 
 void ctlRotor::Timer1_Timer() {
-    FrameIndex = (FrameIndex + 1) % Pictures;
+    FrameIndex = static_cast<std::int16_t>((FrameIndex + 1) % Pictures);
     ShowFrame();
 }
 
@@ -70,6 +71,10 @@ void ctlRotor::ShowFrame() {
     for (int i = 0; i < Pictures; ++i)
         Image1(i).SetVisible(i == FrameIndex);
     PumpEvents(Pump::Now);
+}
+
+void ctlRotor::SetPointer(MousePointer pointer) const {
+    if (UseHourglass) Platform::Current().SetMousePointer(pointer);
 }
 
 } // namespace tessarin

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/Platform.h"
 #include "toolkit/ControlArray.h"
 #include "toolkit/Controls.h"
+
+#include <cstdint>
 
 namespace tessarin {
 
@@ -25,12 +28,14 @@ private:
     void Stop();
     void Timer1_Timer();
     void ShowFrame();
+    void SetPointer(MousePointer pointer) const;
 
     void BoundsChanged() override { UserControl_Resize(); }
 
     ControlArray<Picture> Image1;
     Timer Timer1{*this, {.Name = "Timer1"}};
-    int FrameIndex = -1; // the visible picture; -1 while stopped
+    bool UseHourglass = false;    // the pointer is an hourglass while the rotor turns
+    std::int16_t FrameIndex = -1; // the visible picture; -1 while stopped
 };
 
 } // namespace tessarin
