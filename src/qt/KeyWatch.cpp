@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QMenuBar>
 
-#include <algorithm>
 #include <utility>
 
 namespace tessarin::qt {
@@ -15,13 +14,9 @@ namespace {
 bool MenuOrBoxIsOpen() {
     if (QApplication::activePopupWidget() != nullptr) return true;
     if (QApplication::activeModalWidget() != nullptr) return true;
-    const auto windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
-        const auto* menuBar = window->findChild<QMenuBar*>();
-        // Without the focus, a title is active only because the pointer rests on it.
-        return menuBar != nullptr && window->focusWidget() == menuBar &&
-               menuBar->activeAction() != nullptr;
-    });
+    // Without the focus, a title is active only because the pointer rests on it.
+    const auto* const menuBar = qobject_cast<QMenuBar*>(QApplication::focusWidget());
+    return menuBar != nullptr && menuBar->activeAction() != nullptr;
 }
 
 bool MayRepeat(int key) {

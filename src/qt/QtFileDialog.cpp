@@ -1,7 +1,12 @@
-#include "qt/QtFileDialog.h"
-
+// The file dialog, the same on every desktop.
+#include "qt/QtForm.h"
 #include "qt/QtLook.h"
+#include "qt/QtPlatform.h"
+#include "qt/QtToolkit.h"
+#include "toolkit/CommonDialog.h"
 
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -16,20 +21,13 @@ namespace tessarin::qt {
 namespace {
 
 // Converts "CSV Dokumente (*.csv)|*.csv|..." to Qt's form: one filter for each pair, with the
-// pattern in brackets after the description.
+// pattern in brackets after the description. In Qt, *.* leaves out files without an extension.
 QStringList NameFilters(const std::string& filter) {
     QStringList filters;
-    const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        // In Qt, *.* leaves out files without an extension.
-        const QString pattern = parts[i + 1] == QLatin1String("*.*") ? "*" : parts[i + 1];
-        filters << parts[i] + " (" + pattern + ")";
-    }
+    const QStringList parts = ToQt(filter).replace("|*.*", "|*").split('|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+        filters << parts[i] + " (" + parts[i + 1] + ")";
     return filters;
-}
-
-QTreeView* FileList(const QFileDialog& dialog) {
-    return dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
 }
 
 // Makes the dialog wide enough for name, size, type and date.
@@ -39,74 +37,68 @@ void ShowColumnsWhole(QFileDialog& dialog) {
     dialog.resize(QSize(50 * line, 31 * line).boundedTo(dialog.screen()->availableSize() * 0.9));
     if (auto* const splitter = dialog.findChild<QSplitter*>())
         splitter->setSizes({8 * line, 42 * line}); // folders and files
-    if (const auto* const list = FileList(dialog)) {
+    if (const auto* const list = dialog.findChild<QTreeView*>("treeView")) {
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
         list->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     }
 }
 
+class QtFileDialog : public QFileDialog {
+public:
+    QtFileDialog(CommonDialog request, bool saving, QWidget* parent)
+        : QFileDialog(parent), mRequest(std::move(request)) {
+        setOption(QFileDialog::DontUseNativeDialog);
+        setOption(QFileDialog::HideNameFilterDetails); // the descriptions contain them already
+        setWindowTitle(ToQt(mRequest.DialogTitle));
+        setNameFilters(NameFilters(mRequest.Filter));
+        setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+        setFileMode(mRequest.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+        ShowColumnsWhole(*this);
+        const QFileInfo before(ToQt(mRequest.FileName));
+        if (!mRequest.FileName.empty()) setDirectory(before.absolutePath());
+    }
+
+    /// The full path, when the dialog was accepted.
+    QString Chosen() const { return mChosen; }
+
+protected:
+    // QFileDialog reads quotes as separators of several names; here they belong to one name. A file
+    // to open may have no extension: the default one is tried only if the name as typed does not
+    // exist. A file to save always gets one.
+    void accept() override {
+        const auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
+        const bool isQuoted = nameEdit != nullptr && nameEdit->text().contains('"');
+        QString path =
+            isQuoted ? directory().absoluteFilePath(nameEdit->text()) : selectedFiles().value(0);
+        if (path.isEmpty() || QFileInfo(path).isDir())
+            return isQuoted ? setDirectory(path) : QFileDialog::accept();
+        const bool isComplete = acceptMode() == QFileDialog::AcceptOpen && QFileInfo::exists(path);
+        if (!isComplete && !QFileInfo(path).fileName().contains('.'))
+            path += ToQt(mRequest.DefaultExt);
+        const QFileInfo file(path);
+        if (mRequest.FileMustExist && !file.isFile())
+            return Warn(file.fileName() + "\nFile not found.\n"
+                                          "Please verify the correct file name was given.");
+        if (mRequest.PathMustExist && !file.dir().exists())
+            return Warn(file.path() + "\nThis folder does not exist.");
+        mChosen = path;
+        done(Accepted);
+    }
+
+private:
+    void Warn(const QString& text) { QMessageBox::warning(this, windowTitle(), text); }
+
+    const CommonDialog mRequest; // a copy, as a command that runs meanwhile may change the original
+    QString mChosen;
+};
+
 } // namespace
 
-QtFileDialog::QtFileDialog(CommonDialog request, bool saving, QWidget* parent)
-    : QFileDialog(parent), mRequest(std::move(request)), mbSaving(saving) {
-    setOption(QFileDialog::DontUseNativeDialog);
-    setOption(QFileDialog::DontConfirmOverwrite);
-    setWindowTitle(ToQt(mRequest.DialogTitle));
-    setOption(QFileDialog::HideNameFilterDetails); // the descriptions contain them already
-    setNameFilters(NameFilters(mRequest.Filter));
-    setAcceptMode(mbSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    setFileMode(mRequest.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    ShowColumnsWhole(*this);
-    if (!mRequest.FileName.empty()) setDirectory(QFileInfo(ToQt(mRequest.FileName)).absolutePath());
-}
-
-std::optional<std::string> QtFileDialog::Chosen() const {
-    const QString path = mQuoted.isEmpty() ? selectedFiles().value(0) : mQuoted;
-    if (result() != QDialog::Accepted || path.isEmpty()) return std::nullopt;
-    return QDir::toNativeSeparators(path).toStdString();
-}
-
-// A file to open may have no extension: the default one is tried only when the name as typed does
-// not exist. A file to save always gets an extension: what is selected in the list would not, and
-// while the folder is loading, Qt selects even files that the filter hides.
-void QtFileDialog::accept() {
-    const auto* const nameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (nameEdit != nullptr && nameEdit->text().contains(QLatin1Char('"')))
-        return AcceptQuoted(nameEdit->text());
-    if (auto* const list = FileList(*this); list != nullptr && mbSaving) list->clearSelection();
-    setDefaultSuffix(mbSaving ? ToQt(mRequest.DefaultExt) : QString());
-    const QStringList typed = selectedFiles();
-    if (!typed.isEmpty() && !QFileInfo::exists(typed.constFirst())) {
-        setDefaultSuffix(ToQt(mRequest.DefaultExt));
-        if (!HasFolder(QFileInfo(typed.constFirst()))) return;
-    }
-    QFileDialog::accept();
-}
-
-// QFileDialog reads quotes as separators of several names; here they belong to one name.
-void QtFileDialog::AcceptQuoted(const QString& name) {
-    QString path = directory().absoluteFilePath(name);
-    if ((mbSaving || !QFileInfo::exists(path)) && QFileInfo(path).suffix().isEmpty())
-        path += ToQt(mRequest.DefaultExt);
-    const QFileInfo file(path);
-    if (file.isDir()) return setDirectory(path);
-    if (!HasFolder(file)) return;
-    if (!mbSaving && !file.isFile())
-        return Warn(name + "\n" +
-                    tr("File not found.\nPlease verify the correct file name was given."));
-    mQuoted = path;
-    done(Accepted);
-}
-
-bool QtFileDialog::HasFolder(const QFileInfo& file) {
-    const QDir folder = file.dir();
-    if (!mbSaving || !mRequest.PathMustExist || folder.exists()) return true;
-    Warn(folder.path() + "\n" + tr("This folder does not exist."));
-    return false;
-}
-
-void QtFileDialog::Warn(const QString& text) {
-    QMessageBox::warning(this, windowTitle(), text);
+std::optional<std::string> QtToolkit::RunFileDialog(const CommonDialog& dialog, bool saving) {
+    if (mPlatform.Closed()) return std::nullopt;
+    QtFileDialog window(dialog, saving, &mPlatform.CurrentForm());
+    if (mPlatform.RunModal(window) != QDialog::Accepted) return std::nullopt;
+    return QDir::toNativeSeparators(window.Chosen()).toStdString();
 }
 
 } // namespace tessarin::qt

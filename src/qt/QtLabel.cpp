@@ -76,14 +76,9 @@ void QtLabel::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void QtLabel::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    const int key = event->key();
+    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
         return mControl.RaiseClick();
-    default:
-        break;
-    }
     QtLabel* const target = IsInGrid() ? mForm.Focus().Target(*event) : nullptr;
     if (target == nullptr) return QLabel::keyPressEvent(event);
     mForm.Focus().ToGrid();

@@ -25,14 +25,9 @@ QColor ToQt(Color color) {
         return QColor::fromRgb(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
                                static_cast<int>(color >> 16 & 0xFF));
     const QPalette palette = QApplication::palette();
-    switch (color & 0xFF) {
-    case 5:
-        return palette.color(QPalette::Base);
-    case 18:
-        return palette.color(QPalette::ButtonText);
-    default:
-        return palette.color(QPalette::Window);
-    }
+    if (color == SystemColor(5)) return palette.color(QPalette::Base);
+    if (color == SystemColor(18)) return palette.color(QPalette::ButtonText);
+    return palette.color(QPalette::Window);
 }
 
 QColor TextColor(Color fore, Color back) {

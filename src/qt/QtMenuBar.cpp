@@ -1,7 +1,9 @@
 #include "qt/QtMenuBar.h"
 
 #include "qt/KeyboardFocus.h"
+#include "qt/QtLook.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
@@ -17,29 +19,27 @@ QtMenuBar::QtMenuBar(QWidget& window, KeyboardFocus& focus) : QMenuBar(&window),
     qApp->installEventFilter(this);
 }
 
+void QtMenuBar::Leave() {
+    if (hasFocus()) Toggle();
+    if (hasFocus()) mFocus.ToGrid();
+}
+
 // Watches the window instead of its widgets: QMenuBar itself overlooks a tap on Alt if the focus
 // moves between press and release, as it does during a solve.
 bool QtMenuBar::eventFilter(QObject* receiver, QEvent* event) {
     if (receiver != window()->windowHandle()) return false;
-    switch (event->type()) {
-    case QEvent::KeyPress:
-        return Pressed(*static_cast<QKeyEvent*>(event));
-    case QEvent::KeyRelease:
-        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt &&
-            std::exchange(mbAltAlone, false))
-            Toggle();
+    const QEvent::Type type = event->type();
+    if (type == QEvent::KeyPress) return Pressed(*static_cast<QKeyEvent*>(event));
+    if (type == QEvent::KeyRelease) {
+        const bool isAlt = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt;
+        if (isAlt && std::exchange(mbAltAlone, false)) Toggle();
         // QMenuBar keeps the focus if the control that had it before is disabled or hidden by now.
         if (hasFocus() && activeAction() == nullptr) mFocus.ToGrid();
-        return false;
-    case QEvent::MouseButtonPress:
-        if (hasFocus() && !underMouse()) Toggle();
-        [[fallthrough]];
-    case QEvent::FocusOut: // to another window
-        mbAltAlone = false;
-        return false;
-    default:
-        return false;
     }
+    if (type == QEvent::MouseButtonPress && !underMouse()) Leave();
+    const bool leavesWindow = type == QEvent::FocusOut;
+    if (leavesWindow || type == QEvent::MouseButtonPress) mbAltAlone = false;
+    return false;
 }
 
 bool QtMenuBar::Pressed(const QKeyEvent& key) {
@@ -79,6 +79,65 @@ void QtMenuBar::Toggle() {
 void QtMenuBar::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const {
     QMenuBar::initStyleOption(option, action);
     if (hasFocus() && action == activeAction()) option->state |= QStyle::State_Sunken;
+}
+
+namespace {
+
+// After ESC has closed the last menu, Qt leaves the focus on the menu bar.
+class BarMenu : public QMenu {
+public:
+    explicit BarMenu(QtMenuBar& bar) : QMenu(&bar), mBar(bar) { setFont(bar.font()); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        QMenu::keyPressEvent(event);
+        const bool isClosed = QApplication::activePopupWidget() == nullptr;
+        if (event->key() == Qt::Key_Escape && isClosed) mBar.Leave();
+    }
+
+private:
+    QtMenuBar& mBar;
+};
+
+class QtMenuPeer : public QAction, public ControlPeer {
+public:
+    QtMenuPeer(Control& item, QtMenuBar& bar) : QAction(&bar), mItem(item), mBar(bar) {
+        setObjectName(ToQt(item.Name()));
+        setSeparator(item.Caption() == "-");
+        if (!isSeparator()) setText(Plain(item.Caption()));
+        setShortcuts(Shortcuts(item));
+        setAutoRepeat(false);
+        connect(this, &QAction::triggered, [&item] { item.RaiseClick(); });
+        auto* const menu = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
+        (menu != nullptr ? menu->Menu() : bar).addAction(this);
+    }
+
+    void Changed(Property property) override {
+        if (property == Property::Texts) setText(Plain(mItem.Caption()));
+        if (property != Property::Enabled) return;
+        setEnabled(mItem.Enabled());
+        // The entries of an open menu still answer when only its action is disabled.
+        if (mMenu) mMenu->setEnabled(mItem.Enabled());
+    }
+
+private:
+    QWidget& Menu() {
+        if (!mMenu) {
+            mMenu = std::make_unique<BarMenu>(mBar);
+            setMenu(mMenu.get());
+        }
+        return *mMenu;
+    }
+
+    const Control& mItem;
+    QtMenuBar& mBar;
+    std::unique_ptr<QMenu> mMenu;
+};
+
+} // namespace
+
+std::unique_ptr<ControlPeer> CreateMenuPeer(Control& item, QtMenuBar& bar) {
+    return std::make_unique<QtMenuPeer>(item, bar);
 }
 
 } // namespace tessarin::qt

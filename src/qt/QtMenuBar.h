@@ -1,6 +1,10 @@
 #pragma once
 
+#include "toolkit/Control.h"
+
 #include <QMenuBar>
+
+#include <memory>
 
 namespace tessarin::qt {
 
@@ -12,8 +16,8 @@ class QtMenuBar : public QMenuBar {
 public:
     QtMenuBar(QWidget& window, KeyboardFocus& focus);
 
-    /// Goes to the first title, or gives the keyboard back to the control that had it before.
-    void Toggle();
+    /// If it has the keyboard, gives it back to the control that had it before.
+    void Leave();
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -23,9 +27,15 @@ private:
     bool Pressed(const QKeyEvent& key);
     // Returns whether there is an enabled title that begins with `letter`.
     bool Open(const QString& letter);
+    // Goes to the first title, or back.
+    void Toggle();
 
     KeyboardFocus& mFocus;
     bool mbAltAlone = false; // Alt is down, and nothing else has been pressed since
 };
+
+/// Creates the peer of a menu entry: an action of the menu bar or of the menu that contains it, with
+/// a menu of its own as soon as that gets entries.
+std::unique_ptr<ControlPeer> CreateMenuPeer(Control& item, QtMenuBar& bar);
 
 } // namespace tessarin::qt

@@ -1,9 +1,10 @@
-#include "qt/QtMessageBox.h"
-
+// The message box.
 #include "qt/QtForm.h"
 #include "qt/QtLook.h"
+#include "qt/QtPlatform.h"
 
 #include <QGridLayout>
+#include <QMessageBox>
 #include <QScreen>
 
 #include <algorithm>
@@ -12,65 +13,73 @@ namespace tessarin::qt {
 
 namespace {
 
-// Wide enough for the title of a box whose text is short.
-constexpr int MinWidthInLines = 19;
+// Keeps off the form's grid of labels, which its text is about: it opens on the right of it, on the
+// left, above or below, where the screen has room. Without room it covers the grid as little as
+// possible.
+class QtMessageBox : public QMessageBox {
+public:
+    QtMessageBox(const Message& message, QtForm* form) : QMessageBox(form), mForm(form) {
+        const bool question = message.ButtonSet == Message::Buttons::YesNo;
+        setWindowTitle(message.Title.empty() && form != nullptr ? form->windowTitle()
+                                                                : ToQt(message.Title));
+        setTextFormat(Qt::PlainText);
+        setText(ToQt(message.Prompt));
+        setIcon(message.QuestionIcon ? Question : NoIcon);
+        setStandardButtons(question ? Yes | No : Ok);
+        // Unless it is set, the default button depends on the desktop.
+        setDefaultButton(question ? Yes : Ok);
+        // Wide enough for its title, however short its text.
+        const int least = 19 * fontMetrics().height();
+        if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
+            grid->addItem(new QSpacerItem(least, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
 
-void WidenTo(int width, QMessageBox& box) {
-    if (auto* const grid = qobject_cast<QGridLayout*>(box.layout()))
-        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
-}
+protected:
+    // QMessageBox fixes its size. But if the desktop maximises it, it must take the size that it is
+    // given: see WindowFrame.
+    bool event(QEvent* event) override {
+        const bool handled = QMessageBox::event(event);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        return handled;
+    }
+
+    void showEvent(QShowEvent* event) override {
+        QMessageBox::showEvent(event);
+        if (mForm == nullptr || mForm->GridOnScreen().isEmpty()) return;
+        // With a margin: some window managers put the box there, and its frame around it.
+        const QRect grid = mForm->GridOnScreen().marginsAdded(mForm->Frame());
+        const QRect screen = mForm->screen()->availableGeometry();
+        QRect box = QRect(QPoint(), size()).marginsAdded(mForm->Frame());
+        box.moveCenter(grid.center());
+        const auto covered = [&](const QRect& place) {
+            const QRect both = place & grid;
+            return both.width() * both.height();
+        };
+        QRect best = grid;
+        for (const int y : {box.y(), grid.y() - box.height(), grid.y() + grid.height()})
+            for (const int x : {box.x(), grid.x() + grid.width(), grid.x() - box.width()}) {
+                QRect place({x, y}, box.size());
+                place.moveRight(std::min(place.right(), screen.right()));
+                place.moveBottom(std::min(place.bottom(), screen.bottom()));
+                place.moveLeft(std::max(place.left(), screen.left()));
+                place.moveTop(std::max(place.top(), screen.top()));
+                if (covered(place) < covered(best)) best = place;
+            }
+        move(best.topLeft());
+    }
+
+private:
+    QtForm* mForm;
+};
 
 } // namespace
 
-QtMessageBox::QtMessageBox(const Message& message, QtForm* form) : QMessageBox(form), mForm(form) {
+Message::Answer QtPlatform::ShowMessage(const Message& message) {
     const bool question = message.ButtonSet == Message::Buttons::YesNo;
-    setWindowTitle(message.Title.empty() && form != nullptr ? form->windowTitle()
-                                                            : ToQt(message.Title));
-    setTextFormat(Qt::PlainText);
-    setText(ToQt(message.Prompt));
-    setIcon(message.QuestionIcon ? Question : NoIcon);
-    setStandardButtons(question ? Yes | No : Ok);
-    // Unless it is set, the default button depends on the desktop.
-    setDefaultButton(question ? Yes : Ok);
-    WidenTo(MinWidthInLines * fontMetrics().height(), *this);
-}
-
-// QMessageBox fixes its size. But if the desktop maximises it, it must take the size that it is
-// given: see WindowFrame.
-bool QtMessageBox::event(QEvent* event) {
-    const bool handled = QMessageBox::event(event);
-    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    return handled;
-}
-
-void QtMessageBox::showEvent(QShowEvent* event) {
-    QMessageBox::showEvent(event);
-    if (mForm == nullptr || mForm->GridOnScreen().isEmpty()) return;
-    // With a margin: some window managers put the box there, and its frame around it.
-    const QRect grid = mForm->GridOnScreen().marginsAdded(mForm->Frame());
-    const QRect screen = mForm->screen()->availableGeometry();
-    QRect box = QRect(QPoint(), size()).marginsAdded(mForm->Frame());
-    box.moveCenter(grid.center());
-    const auto onScreen = [&](const QPoint& place) {
-        const QPoint most = screen.bottomRight() + QPoint(1, 1) - QPoint(box.width(), box.height());
-        return QRect(QPoint(std::max(std::min(place.x(), most.x()), screen.x()),
-                            std::max(std::min(place.y(), most.y()), screen.y())),
-                     box.size());
-    };
-    const auto covered = [&](const QPoint& place) {
-        const QRect both = onScreen(place) & grid;
-        return both.width() * both.height();
-    };
-    const int left = grid.x() - box.width();
-    const int right = grid.x() + grid.width();
-    const int above = grid.y() - box.height();
-    const int below = grid.y() + grid.height();
-    const QPoint place =
-        std::min({QPoint(right, box.y()), QPoint(left, box.y()), QPoint(box.x(), above),
-                  QPoint(box.x(), below), QPoint(right, above), QPoint(right, below),
-                  QPoint(left, above), QPoint(left, below)},
-                 [&](const QPoint& a, const QPoint& b) { return covered(a) < covered(b); });
-    move(onScreen(place).topLeft());
+    const auto refusal = question ? Message::Answer::No : Message::Answer::Ok;
+    if (mbClosed) return refusal;
+    QtMessageBox box(message, mForm);
+    return RunModal(box) == QMessageBox::Yes ? Message::Answer::Yes : refusal;
 }
 
 } // namespace tessarin::qt

@@ -1,13 +1,8 @@
 #include "qt/QtPlatform.h"
 
-#include "qt/QtForm.h"
-#include "qt/QtMessageBox.h"
-
-#include <QApplication>
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QFileInfo>
-#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QSettings>
 #include <QStyleFactory>
@@ -62,22 +57,6 @@ void QtPlatform::Sleep(int milliseconds) {
     }
 }
 
-bool QtPlatform::EscPressed() {
-    return mKeyWatch.EscPressed();
-}
-
-Message::Answer QtPlatform::ShowMessage(const Message& message) {
-    const bool question = message.ButtonSet == Message::Buttons::YesNo;
-    const auto refusal = question ? Message::Answer::No : Message::Answer::Ok;
-    if (mbClosed) return refusal;
-    QtMessageBox box(message, mForm);
-    return RunModal(box) == QMessageBox::Yes ? Message::Answer::Yes : refusal;
-}
-
-void QtPlatform::Beep() {
-    QApplication::beep();
-}
-
 void QtPlatform::SetMousePointer(MousePointer pointer) {
     mbHourglass = pointer == MousePointer::Hourglass;
     ApplyPointer();
@@ -85,10 +64,6 @@ void QtPlatform::SetMousePointer(MousePointer pointer) {
 
 std::string QtPlatform::ProgramName() {
     return QFileInfo(QApplication::applicationFilePath()).completeBaseName().toStdString();
-}
-
-std::string QtPlatform::ProgramFolder() {
-    return QApplication::applicationDirPath().toStdString();
 }
 
 void QtPlatform::Close() {
@@ -100,26 +75,20 @@ void QtPlatform::Close() {
 }
 
 int QtPlatform::RunModal(QDialog& dialog) {
-    const auto end = qScopeGuard([this] {
-        --mlOpenDialogs;
-        ApplyPointer();
-        mSincePump.invalidate();
-    });
     ++mlOpenDialogs;
     ApplyPointer();
-    return dialog.exec();
+    const int result = dialog.exec();
+    --mlOpenDialogs;
+    ApplyPointer();
+    mSincePump.invalidate();
+    return result;
 }
 
 // Qt keeps a stack of pointers: one that is set twice would have to be restored twice. While a
 // dialog is open the program waits for the user, so the hourglass would be wrong.
 void QtPlatform::ApplyPointer() {
-    const bool hourglass = mbHourglass && mlOpenDialogs == 0;
-    if (hourglass == mbHourglassShown) return;
-    mbHourglassShown = hourglass;
-    if (hourglass)
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
-        QApplication::restoreOverrideCursor();
+    if (!mbHourglass || mlOpenDialogs > 0) return QApplication::restoreOverrideCursor();
+    if (QApplication::overrideCursor() == nullptr) QApplication::setOverrideCursor(Qt::WaitCursor);
 }
 
 } // namespace tessarin::qt

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "qt/KeyWatch.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 
 class QDialog;
@@ -12,7 +13,8 @@ namespace tessarin::qt {
 class QtForm;
 
 /// The platform on Qt 6 Widgets, with one form at a time. Needs a QApplication and is the current
-/// Platform while it lives.
+/// Platform while it lives. Qt's windows have a taskbar entry from the start, and hiding one would
+/// lose its place and focus: the window-style calls do nothing.
 class QtPlatform : public Platform {
 public:
     /// Gives the application the same look on every desktop. `version` is the program's record.
@@ -21,19 +23,15 @@ public:
 
     void PumpEvents(Pump pump) override;
     void Sleep(int milliseconds) override;
-    bool EscPressed() override;
+    bool EscPressed() override { return mKeyWatch.EscPressed(); }
     Message::Answer ShowMessage(const Message& message) override;
-    void Beep() override;
+    void Beep() override { QApplication::beep(); }
     void SetMousePointer(MousePointer pointer) override;
     std::string ProgramName() override;
-    std::string ProgramFolder() override;
-    VersionRecord Version() override { return mVersion; }
-    // Qt's windows have a taskbar entry from the start, and hiding one would lose its place and
-    // focus. So the style is only kept, and the other window-style calls do nothing.
-    int GetWindowLongA(int /*handle*/, int /*index*/) override { return mlWindowStyle; }
-    void SetWindowLongA(int /*handle*/, int /*index*/, int value) override {
-        mlWindowStyle = value;
+    std::string ProgramFolder() override {
+        return QApplication::applicationDirPath().toStdString();
     }
+    VersionRecord Version() override { return mVersion; }
 
     /// The form's window; nullptr when it is gone.
     void SetForm(QtForm* form) { mForm = form; }
@@ -57,13 +55,11 @@ private:
     VersionRecord mVersion;
     KeyWatch mKeyWatch;
     QtForm* mForm = nullptr;
-    int mlWindowStyle = 0;
     bool mbClosed = false;
     bool mbTicksHeld = false;
     QElapsedTimer mSincePump; // since the last real pump; invalid: the next one must be real
     unsigned mlPumpsAsked = 0;
     bool mbHourglass = false; // the pointer that SetMousePointer has asked for
-    bool mbHourglassShown = false;
     int mlOpenDialogs = 0;
 };
 

@@ -1,10 +1,8 @@
 #include "qt/QtToolkit.h"
 
-#include "qt/QtFileDialog.h"
 #include "qt/QtForm.h"
 #include "qt/QtLabel.h"
 #include "qt/QtLook.h"
-#include "qt/QtMenuPeer.h"
 #include "qt/QtPeer.h"
 #include "qt/QtPlatform.h"
 #include "toolkit/Controls.h"
@@ -122,10 +120,8 @@ public:
         });
     }
     void Changed(Property /*property*/) override {
-        if (mTimer.Enabled())
-            start(mTimer.Interval());
-        else
-            stop();
+        if (!mTimer.Enabled()) return stop();
+        start(mTimer.Interval());
     }
 
 private:
@@ -162,25 +158,17 @@ std::unique_ptr<ControlPeer> QtToolkit::Create(Control& control, Kind kind) {
         return button;
     }
     case Kind::Frame:
-    case Kind::UserControl:
         return Make<QtFrame>(control);
     case Kind::Label:
         return Make<QtLabel>(control);
     case Kind::MenuItem:
-        return CreateMenuPeer(control, mPlatform.CurrentForm());
+        return CreateMenuPeer(control, mPlatform.CurrentForm().MenuBar());
     case Kind::OptionButton:
         return Make<QtOption>(control);
     case Kind::Picture:
         break;
     }
     return Make<QtPicture>(control);
-}
-
-std::optional<std::string> QtToolkit::RunFileDialog(const CommonDialog& dialog, bool saving) {
-    if (mPlatform.Closed()) return std::nullopt;
-    QtFileDialog window(dialog, saving, &mPlatform.CurrentForm());
-    mPlatform.RunModal(window);
-    return window.Chosen();
 }
 
 } // namespace tessarin::qt

@@ -21,20 +21,11 @@ QSize WindowFrame::Inside() const {
 }
 
 bool WindowFrame::Follow(const QEvent& event) {
-    switch (event.type()) {
-    case QEvent::WindowStateChange:
-        Fix();
-        return false;
-    case QEvent::Resize:
-        if (mWindow.size() != Inside()) Fix();
-        return Measure(false);
-    case QEvent::Move:
-        return Measure(false);
-    case QEvent::Paint:
-        return Measure(true);
-    default:
-        return false;
-    }
+    const bool isPaint = event.type() == QEvent::Paint;
+    const bool isResize = event.type() == QEvent::Resize;
+    const bool hasWrongSize = isResize && mWindow.size() != Inside();
+    if (hasWrongSize || event.type() == QEvent::WindowStateChange) Fix();
+    return (isPaint || isResize || event.type() == QEvent::Move) && Measure(isPaint);
 }
 
 // X11 tells the frame with the first move, other systems with the first paint. Margins of zero mean

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "toolkit/Color.h"
 #include "toolkit/Toolkit.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -11,6 +11,14 @@
 namespace tessarin {
 
 class Form;
+
+/// A colour 0x00BBGGRR, or a system colour made by SystemColor.
+using Color = std::uint32_t;
+
+/// The system colour `index` (5 window background, 18 button text), looked up when it is painted.
+constexpr Color SystemColor(std::uint32_t index) {
+    return 0x80000000U | index;
+}
 
 /// A typeface by name with its size in points. Without a name it is the toolkit's own.
 struct FontStyle {

@@ -15,7 +15,7 @@ namespace tessarin {
 /// MenuItem: an entry of the menu bar (in the form) or of a menu (in another item). With entries of
 /// its own it is a menu; with the caption "-" a separator line.
 /// Picture: shows one of the pictures that the program carries.
-/// UserControl: is made of other controls. It may correct its size in BoundsChanged.
+/// UserControl: a frame that is made of other controls. It may correct its size in BoundsChanged.
 template <Kind KindOfControl>
 class PlainControl : public Control {
 public:
@@ -28,7 +28,7 @@ using CommandButton = PlainControl<Kind::CommandButton>;
 using Frame = PlainControl<Kind::Frame>;
 using MenuItem = PlainControl<Kind::MenuItem>;
 using Picture = PlainControl<Kind::Picture>;
-using UserControl = PlainControl<Kind::UserControl>;
+using UserControl = Frame;
 
 /// A text, or a coloured field with a text in it.
 class Label : public PlainControl<Kind::Label> {

@@ -13,7 +13,7 @@ class Form;
 class Timer;
 
 /// The kinds of control that a user sees in a form.
-enum class Kind { CommandButton, Frame, Label, MenuItem, OptionButton, Picture, UserControl };
+enum class Kind { CommandButton, Frame, Label, MenuItem, OptionButton, Picture };
 
 /// The properties of a control whose changes a toolkit is told.
 enum class Property {

@@ -1,7 +1,7 @@
 // The colours of the window.
 #pragma once
 
-#include "toolkit/Color.h"
+#include "toolkit/Control.h"
 
 namespace tessarin {
 
