@@ -5,8 +5,6 @@
 #include <QLineEdit>
 #include <QMenuBar>
 
-#include <utility>
-
 namespace tessarin::qt {
 
 namespace {
@@ -38,10 +36,6 @@ KeyWatch::KeyWatch() {
     });
 }
 
-bool KeyWatch::EscPressed() {
-    return std::exchange(mbEscPressed, false) || mbEscDown;
-}
-
 bool KeyWatch::eventFilter(QObject* receiver, QEvent* event) {
     // A key event reaches the window exactly once, but its widgets any number of times.
     if (!receiver->isWindowType()) return false;
@@ -56,20 +50,17 @@ bool KeyWatch::eventFilter(QObject* receiver, QEvent* event) {
     return false;
 }
 
+// X11 sends repeats as pairs of a release and a press with the same time. Qt does not mark them
+// when it has read the release before the press has come, or when the focus has changed.
 bool KeyWatch::Press(const QObject& window, const QKeyEvent& key) {
-    const bool repeated = IsRepeat(key);
+    const bool hasTimes = mReleaseTime != 0 && key.timestamp() != 0;
+    const bool isPair = hasTimes && key.timestamp() - mReleaseTime <= 1;
+    const bool repeated =
+        key.isAutoRepeat() || key.key() == mHeld || (isPair && key.key() == mReleased);
     mHeld = key.key();
     if (!repeated) mPressedIn = &window;
     if (mHeld == Qt::Key_Escape && !repeated && !MenuOrBoxIsOpen()) mbEscDown = mbEscPressed = true;
     return repeated && (mPressedIn != &window || !MayRepeat(mHeld));
-}
-
-// X11 sends repeats as pairs of a release and a press with the same time. Qt does not mark them
-// when it has read the release before the press has come, or when the focus has changed.
-bool KeyWatch::IsRepeat(const QKeyEvent& key) const {
-    if (key.isAutoRepeat() || key.key() == mHeld) return true;
-    return key.key() == mReleased && mReleaseTime != 0 && key.timestamp() != 0 &&
-           key.timestamp() - mReleaseTime <= 1;
 }
 
 } // namespace tessarin::qt

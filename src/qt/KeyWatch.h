@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+#include <utility>
+
 class QKeyEvent;
 
 namespace tessarin::qt {
@@ -16,13 +18,12 @@ public:
     KeyWatch();
 
     /// Whether ESC is down now or has been pressed since the last call.
-    bool EscPressed();
+    bool EscPressed() { return std::exchange(mbEscPressed, false) || mbEscDown; }
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    bool IsRepeat(const QKeyEvent& key) const;
     // Returns whether the press is swallowed.
     bool Press(const QObject& window, const QKeyEvent& key);
 

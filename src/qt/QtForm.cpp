@@ -1,7 +1,7 @@
 #include "qt/QtForm.h"
 
-#include "qt/QtLabel.h"
 #include "qt/QtLook.h"
+#include "qt/QtPeer.h"
 #include "qt/QtPlatform.h"
 
 #include <QApplication>
@@ -11,7 +11,6 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QTimer>
-#include <QWindow>
 
 #include <algorithm>
 #include <tuple>

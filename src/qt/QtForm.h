@@ -3,7 +3,6 @@
 #include "qt/KeyboardFocus.h"
 #include "qt/QtMenuBar.h"
 #include "qt/WindowFrame.h"
-#include "toolkit/Controls.h"
 #include "toolkit/Form.h"
 
 #include <QWidget>

@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QToolTip>
 
 #include <utility>
 
@@ -38,7 +37,6 @@ void QtLabel::paintEvent(QPaintEvent* /*event*/) {
         ring(Qt::black, 2);
     }
     painter.fillRect(inside, ToQt(look.BackColor));
-    mbShortened = false;
     if (look.Caption.empty()) return;
     painter.setPen(TextColor(look.ForeColor, look.BackColor));
     QString text = ToQt(look.Caption);
@@ -48,16 +46,9 @@ void QtLabel::paintEvent(QPaintEvent* /*event*/) {
         return painter.drawText(space, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
     }
     const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideMiddle, space.width());
-    mbShortened = shown != text;
     painter.drawText(space, Qt::AlignLeft | Qt::AlignVCenter, shown);
-}
-
-// As HTML, because the lines of a plain tip are never broken.
-bool QtLabel::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip || !mbShortened) return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                       "<p>" + ToQt(mControl.Caption()).toHtmlEscaped() + "</p>", this);
-    return true;
+    // As HTML, because the lines of a plain tip are never broken.
+    setToolTip(shown == text ? ToQt(look.ToolTipText) : "<p>" + text.toHtmlEscaped() + "</p>");
 }
 
 void QtLabel::mousePressEvent(QMouseEvent* event) {

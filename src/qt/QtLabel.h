@@ -20,7 +20,6 @@ public:
     bool IsClickable() const { return mControl.Properties().Keys != KeyStop::None; }
 
 protected:
-    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     // A click is a left press and a left release inside. The second press of a double click counts
     // like any other.
@@ -34,7 +33,6 @@ private:
     bool IsInGrid() const { return mControl.Properties().Keys == KeyStop::Grid; }
 
     bool mbPressed = false;
-    bool mbShortened = false; // the text is painted without its middle
 };
 
 } // namespace tessarin::qt

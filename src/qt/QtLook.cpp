@@ -10,10 +10,6 @@ namespace {
 // This family is heavy at any weight. The families that replace it where it is missing are not.
 constexpr auto HeavyFamily = "Arial Black";
 
-bool IsSystemColor(Color color) {
-    return (color & SystemColor(0)) != 0;
-}
-
 } // namespace
 
 int Pixels(float twips) {
@@ -21,7 +17,7 @@ int Pixels(float twips) {
 }
 
 QColor ToQt(Color color) {
-    if (!IsSystemColor(color))
+    if (color < SystemColor(0))
         return QColor::fromRgb(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
                                static_cast<int>(color >> 16 & 0xFF));
     const QPalette palette = QApplication::palette();
@@ -31,7 +27,7 @@ QColor ToQt(Color color) {
 }
 
 QColor TextColor(Color fore, Color back) {
-    if (fore != SystemColor(18) || IsSystemColor(back)) return ToQt(fore);
+    if (fore != SystemColor(18) || back >= SystemColor(0)) return ToQt(fore);
     return qGray(ToQt(back).rgb()) > 110 ? Qt::black : Qt::white;
 }
 

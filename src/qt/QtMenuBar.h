@@ -34,8 +34,8 @@ private:
     bool mbAltAlone = false; // Alt is down, and nothing else has been pressed since
 };
 
-/// Creates the peer of a menu entry: an action of the menu bar or of the menu that contains it, with
-/// a menu of its own as soon as that gets entries.
+/// Creates the peer of a menu entry: an action of the menu bar or of the menu that contains it,
+/// with a menu of its own as soon as that gets entries.
 std::unique_ptr<ControlPeer> CreateMenuPeer(Control& item, QtMenuBar& bar);
 
 } // namespace tessarin::qt

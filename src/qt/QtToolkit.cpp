@@ -90,7 +90,6 @@ protected:
         const QRect line = rect().adjusted(0, textHeight / 2, 0, 0);
         painter.fillRect(line, LineColor());
         painter.fillRect(line.adjusted(1, 1, -1, -1), ToQt(look.BackColor));
-        if (caption.isEmpty()) return;
         const QRect text(8, 0, painter.fontMetrics().horizontalAdvance(caption) + 6, textHeight);
         painter.fillRect(text, ToQt(look.BackColor));
         painter.setPen(TextColor(look.ForeColor, look.BackColor));

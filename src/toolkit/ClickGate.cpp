@@ -2,7 +2,6 @@
 
 #include "platform/ScopedValue.h"
 #include "toolkit/Control.h"
-#include "toolkit/RunAndReportErrors.h"
 
 namespace tessarin {
 
@@ -19,7 +18,7 @@ void ClickGate::Raise(Control& control) {
 }
 
 void ClickGate::Run(const Control& control) {
-    if (control.Click && control.Reachable()) RunAndReportErrors(control.Click);
+    if (control.Click && control.Reachable()) Control::RunAndReportErrors(control.Click);
 }
 
 void ClickGate::Close() {

@@ -1,19 +1,18 @@
 #include "toolkit/Control.h"
 
+#include "platform/Platform.h"
 #include "toolkit/Form.h"
 
+#include <exception>
 #include <utility>
 
 namespace tessarin {
 
-Control::Control(Toolkit& toolkit, Form& form, ControlProperties properties)
-    : mToolkit(toolkit), mForm(form), mContainer(nullptr), mProperties(std::move(properties)) {}
+Control::Control(Toolkit& toolkit, Form& form, Control* container, ControlProperties properties)
+    : mToolkit(toolkit), mForm(form), mContainer(container), mProperties(std::move(properties)) {}
 
 Control::Control(Control& container, ControlProperties properties)
-    : mToolkit(container.mToolkit),
-      mForm(container.mForm),
-      mContainer(&container),
-      mProperties(std::move(properties)) {}
+    : Control(container.mToolkit, container.mForm, &container, std::move(properties)) {}
 
 void Control::MoveTo(const Control& other) {
     SetLeft(other.Left());
@@ -37,6 +36,16 @@ const std::string& Control::AccessibleName() const {
 
 void Control::RaiseClick() {
     mForm.Gate.Raise(*this);
+}
+
+void Control::RunAndReportErrors(const std::function<void()>& handler) noexcept {
+    try {
+        handler();
+    } catch (const std::exception& error) {
+        Platform::Current().ReportError(error.what());
+    } catch (...) {
+        Platform::Current().ReportError("an error of an unknown kind");
+    }
 }
 
 } // namespace tessarin

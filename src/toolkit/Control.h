@@ -16,6 +16,7 @@ class Form;
 using Color = std::uint32_t;
 
 /// The system colour `index` (5 window background, 18 button text), looked up when it is painted.
+/// All of them are above the fixed colours.
 constexpr Color SystemColor(std::uint32_t index) {
     return 0x80000000U | index;
 }
@@ -122,9 +123,14 @@ public:
     /// For the toolkit: the user has clicked the control.
     void RaiseClick();
 
+    /// Runs `handler` for something that the toolkit reports: a click, a timer tick, an activation
+    /// or a request to close. All of them enter here, because an exception must not unwind the
+    /// toolkit's event loop: it goes to Platform::ReportError instead.
+    static void RunAndReportErrors(const std::function<void()>& handler) noexcept;
+
 protected:
-    /// For a form.
-    Control(Toolkit& toolkit, Form& form, ControlProperties properties);
+    /// `container` is nullptr for a form.
+    Control(Toolkit& toolkit, Form& form, Control* container, ControlProperties properties);
     Control(Control& container, ControlProperties properties);
 
     /// Lets the toolkit create the peer of `self`, which is this control. To be called in the

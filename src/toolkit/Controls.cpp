@@ -1,7 +1,6 @@
 #include "toolkit/Controls.h"
 
 #include "platform/ScopedValue.h"
-#include "toolkit/RunAndReportErrors.h"
 
 namespace tessarin {
 

@@ -1,14 +1,13 @@
 #include "toolkit/Form.h"
 
 #include "platform/ScopedValue.h"
-#include "toolkit/RunAndReportErrors.h"
 
 #include <utility>
 
 namespace tessarin {
 
 Form::Form(Toolkit& toolkit, ControlProperties properties, float minClientHeight)
-    : Control(toolkit, *this, std::move(properties)),
+    : Control(toolkit, *this, nullptr, std::move(properties)),
       MinClientHeight(minClientHeight),
       mFormPeer(CreatePeer(*this)) {}
 
