@@ -56,9 +56,6 @@ const Stories<WindowFixture> stories("CommandsTest", R"(
         set 81 8 & click mnuFileExportCSV > Save
         lights > normal green & click mnuFileImportCSV > Open
         lights > normal normal & fields 2 81 > 2 8:green
-    AnImportReplacesTheGridAndTheHistory:
-        fill 12 & trace 5
-        import 1;5;1|12;3;0 > Open -5 & fields 1 2 12 > 5:green/red . 3
     WhatCanBeReadOfABadFileIsShown:
         set 81 7 & import 12;3;0|13;x;0|14;4;0
         is > |12;3;0 & fields 1 12 81 > .:green 3 .

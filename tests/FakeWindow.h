@@ -10,8 +10,6 @@ class FakeToolkit : public Toolkit {
 public:
     explicit FakeToolkit(ScriptedPlatform& platform) : mPlatform(platform) {}
 
-    std::string File; ///< chosen in the next dialog; "": it is cancelled
-
     Control& Find(const std::string& name) { return *mControls.at(name); }
 
     std::unique_ptr<FormPeer> Create(Form& form) override { return Add(form); }
@@ -21,8 +19,11 @@ public:
     }
     std::optional<std::string> RunFileDialog(const CommonDialog& /*dialog*/, bool saving) override {
         mPlatform.Tell(saving ? "Save" : "Open");
-        if (File.empty()) return std::nullopt;
-        return std::exchange(File, "");
+        std::vector<std::string>& answers = mPlatform.Answers;
+        if (answers.empty() || !answers.back().starts_with('/')) return std::nullopt;
+        const std::string file = answers.back();
+        answers.pop_back();
+        return file;
     }
 
 private:
@@ -59,12 +60,7 @@ public:
         mRecorder.Record.clear();
     }
     void Click(const std::string& control) override { toolkit.Find(control).RaiseClick(); }
-    void Answer(const std::string& answer) override {
-        if (answer.starts_with('/'))
-            toolkit.File = answer;
-        else
-            platform.Answers.push_back(answer);
-    }
+    void Answer(const std::string& answer) override { platform.Answers.push_back(answer); }
 
     ScriptedPlatform& platform = OwnPlatform;
     FakeToolkit& toolkit = OwnToolkit;
@@ -87,9 +83,7 @@ protected:
                 if (Field(i).find("yellow") != std::string::npos) Tell(i);
         });
     }
-    void TearDown() override {
-        EXPECT_TRUE(platform.Answers.empty() && toolkit.File.empty()) << "not asked";
-    }
+    void TearDown() override { EXPECT_TRUE(platform.Answers.empty()) << "not asked"; }
 };
 
 } // namespace tessarin

@@ -23,8 +23,8 @@ protected:
     GameFixture() : Script(platform, OwnGame) {
         platform.Folder = folder;
         Hear(game.Events.StatusChanged, [this](int i) { Tell(i, "=", i > 0 ? At(i).Value() : 0); });
-        Hear(game.Events.BeforeIndexChanged, [this](int i) { TellMove("from ", i); });
-        Hear(game.Events.IndexChanged, [this](int i) { TellMove("to ", i); });
+        Hear(game.Events.BeforeIndexChanged, [this](int i) { Tell("from ", i); });
+        Hear(game.Events.IndexChanged, [this](int i) { Tell("to ", i); });
         Hear(game.Events.IsWinner, [this](int i) { Tell("winner ", i); });
         Hear(game.Events.IsDeadEnd, [this](int i) { Tell("dead ", i); });
 
@@ -43,10 +43,7 @@ protected:
             Tell(play.GoBackToFreedom(fill == 1) ? "moved" : "stayed");
         });
         add("retries", [this](int, auto&) { Tell(play.Retries); });
-        add("solve", [this](int, auto&) { // without the moves of the cursor
-            mbMovesTold = false;
-            play.Solve();
-        });
+        add("solve", [this](int, auto&) { play.Solve(); });
         // What the user does in the next solve: requests a cancel with every change; presses ESC,
         // or not, before each cycle; answers.
         add("cancel",
@@ -65,12 +62,7 @@ protected:
     void Hear(auto& event, auto handler) { mEvents.push_back(event.Connect(handler)); }
 
 private:
-    void TellMove(const char* move, int index) {
-        if (mbMovesTold) Tell(move, index);
-    }
-
     std::vector<Connection> mEvents;
-    bool mbMovesTold = true;
 };
 
 } // namespace tessarin

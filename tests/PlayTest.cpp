@@ -17,9 +17,8 @@ const Stories<GameFixture> stories("PlayTest", R"(
         next 0 > 8 & next 1 > 1=8 8
         next 1 > 1=0 0 & auto 0 > 1=3 +1
     AnEnteredFieldJoinsTheHistoryOnce:
-        fill ..125.... 67....... 9 & index 1
-        trace 12 & value 3 > 1=3 +1
-        value 4 > 1=4
+        index 1 & trace 12
+        value 3 > 1=3 +1 & value 4 > 1=4
     ClearingGoesBackAlongTheHistory:
         full 81 & trace 82 12 2 5
         index 12 & value 0 > 12=0 -12 from 12 to 5
@@ -64,23 +63,23 @@ const Stories<GameFixture> stories("PlayTest", R"(
     ASolveGoesOnWhereTheFewestValuesAreFree:
         fill 4..815.29 92734685. .58.9..64 3152.9648 .92...517 846571293 6394..1.2 271963485 584127936
         index 28 & cancel
-        solve > +28 2=6 dead 32 +2 2=0 dead 32 -2 28=7 dead 0 & retries > 1
-        solve > 2=6 +2 & retries > 0
+        solve > +28 from 28 to 2 2=6 dead 32 +2 2=0 dead 32 -2 from 2 to 28 28=7 dead 0 & retries > 1
+        solve > from 28 to 2 2=6 +2 & retries > 0
     ADeadEndThatTheRetreatDoesNotResolveEndsTheSolve:
         fill 58961.23. 723.956.. .6123789. .4278..6. .7.56.4.3 15.92.7.. 2143..956 .37.5.1.2 ..51423.8
         index 46 & solve
-        solve > 6=4 dead 39 +6 6=0 dead 39 -6 46=0 dead 0 -46 46=8 dead 39 Beep
+        solve > from 46 to 6 6=4 dead 39 +6 6=0 dead 39 -6 from 6 to 46 46=0 dead 0 -46 46=8 dead 39 Beep
     // The retreat empties field 3, because no other value is free for it, and fills it again.
     AFieldThatHasLeftTheHistoryDoesNotComeBack:
         fill ..3456789 ..2...... ......... ......... ..1 & index 3
-        solve > +3 1=1 dead 2 +1 1=0 dead 0 -1 3=0 -3 3=3 1=1 dead 2 +1 1=0 dead 0 -1 1=1 dead 2 Beep
+        solve > +3 from 3 to 1 1=1 dead 2 +1 1=0 dead 0 -1 from 1 to 3 3=0 -3 3=3 from 3 to 1 1=1 dead 2 +1 1=0 dead 0 -1 1=1 dead 2 Beep
     EscAsksOnceForEachPress:
         esc 0 1 1 & answer No
-        answer Yes & solve > 1=1 +1 Box(ESC gedrückt|Abbrechen?|- Yes No) 2=2 +2 Box(ESC gedrückt|Abbrechen?|- Yes No)
+        answer Yes & solve > to 1 1=1 +1 Box(ESC gedrückt|Abbrechen?|- Yes No) from 1 to 2 2=2 +2 Box(ESC gedrückt|Abbrechen?|- Yes No)
     // Also the cancel of an earlier solve is forgotten.
     EscDoesNotAskForWhatIsRequestedAlready:
         cancel & esc 0 1
-        solve > 1=1 +1 & answer Yes
+        solve > to 1 1=1 +1 & answer Yes
         solve > Box(ESC gedrückt|Abbrechen?|- Yes No)
 )");
 

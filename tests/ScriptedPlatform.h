@@ -13,7 +13,7 @@ public:
     ~ScriptedPlatform() override { Platform::SetCurrent(nullptr); }
 
     std::vector<int> Esc;             ///< the next answers to EscPressed; not pressed after them
-    std::vector<std::string> Answers; ///< to the next questions, "Yes" or "No"
+    std::vector<std::string> Answers; ///< to the next questions, "Yes" or "No"; a file for a dialog
     std::string Folder = ".";
     bool Hourglass = false; ///< the mouse pointer
     bool Closed = false;    ///< the window is closed: no pumps, sleeps and questions

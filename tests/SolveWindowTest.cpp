@@ -30,11 +30,6 @@ const Stories<WindowFixture> stories("SolveWindowTest", R"(
         click btnSolve > +1 & fields 1 11 > 1:green .
         faults > & click btnSolve > +11
         click btnSolve > +21 & fields 21 > 9:green
-    OnlyAConfirmedEscEndsTheSolve:
-        full 1 11 21 & esc 1 1
-        answer No & answer Yes
-        click btnSolve > +1 Box(ESC gedrückt|Abbrechen?|- Yes No) Box(ESC gedrückt|Abbrechen?|- Yes No)
-        faults > & click btnSolve > +11 +21
     APaceForgetsTheCancelOfAStep:
         full 1 11 21 & click optChill(6)
         during click optChill(1)
@@ -72,20 +67,6 @@ TEST_F(SolveWindowTest, AFloodOfClicksIsAnsweredInOrder) {
     user();
     while (answered < sent || sent < 20'000)
         PumpEvents();
-}
-
-// Sixteen handlers nest; what comes then is queued, and checked when its turn comes.
-TEST_F(SolveWindowTest, AQueuedClickOnADisabledControlIsDropped) {
-    int depth = 0, clicks = 0;
-    window.btnInfo.Click = [&] { window.btnInfo.SetEnabled(++clicks < 2); };
-    window.lblWinner.Click = [&] {
-        if (++depth < 16) return window.lblWinner.RaiseClick();
-        for (int i = 0; i < 4; ++i)
-            window.btnInfo.RaiseClick();
-        EXPECT_EQ(clicks, 0);
-    };
-    window.lblWinner.RaiseClick();
-    EXPECT_EQ(depth * 10 + clicks, 162);
 }
 
 } // namespace tessarin

@@ -42,9 +42,6 @@ const Stories<WindowFixture> stories("ViewsTest", R"(
         click lblField(2) & click btnNumPad(10)
         click lblField(1) & hear lblField(2) > row 1, column 2: 1, locked
         hear lblField(1) > row 1, column 1: empty, current, dead & hear lblDeadEnd > dead end: lit
-        hear optChill(5) > pause 800 milliseconds & hear btnNumPad(10) > locke
-        during hear lblField(3) > row 1, column 3: 2, marked
-        click mnuViewNeighbours
         during hear lblField(1) > row 1, column 1: empty, current, freedom 0
         click mnuViewFreedom
     EachActivationRepaintsAndKeepsTheTaskbarEntry:

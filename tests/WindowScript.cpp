@@ -6,9 +6,7 @@
 
 namespace tessarin {
 
-namespace {
-
-std::string NameOf(Color color) {
+static std::string NameOf(Color color) {
     static const std::map<Color, const char*> names{{WindowBackground, "normal"},
                                                     {ButtonText, "text"},
                                                     {Red, "red"},
@@ -17,8 +15,6 @@ std::string NameOf(Color color) {
     const auto name = names.find(color);
     return name == names.end() ? std::to_string(color) : name->second;
 }
-
-} // namespace
 
 const std::vector<std::string> WindowScript::Commands{
     "click lblField(#)",       "click btnNumPad(*)",       "click btnNumPad(10)",

@@ -49,16 +49,4 @@ TEST_F(PaintingTest, DigitsAndTheFocusCanBeReadOnEveryBackgroundAndTheme) {
         << "also of a family that replaces Arial Black";
 }
 
-TEST_F(PaintingTest, BordersAndCaptionsCanBeSeen) {
-    Do("click btnInfo");
-    for (const char* const name : {"lblField(40)", "lblDeadEnd", "fraInfo"}) {
-        const QImage image = Picture(name);
-        const QPoint left(0, 20), bottom(20, image.height() - 1);
-        EXPECT_GT(Contrast(image, {left, left}, {1, 20}), 3) << name;
-        EXPECT_GT(Contrast(image, {bottom, bottom}, bottom - QPoint(0, 1)), 3) << name;
-    }
-    EXPECT_GT(Contrast(Picture("Image1(0)"), {0, 0, 32, 32}, {0, 0}), 3);
-    EXPECT_GT(Contrast(Picture("fraInfo"), {8, 2, 60, 10}, {4, 2}), 3) << "caption";
-}
-
 } // namespace tessarin

@@ -64,13 +64,4 @@ TEST_F(SolvingTest, TheRotorTurnsInPauses) {
     EXPECT_GE(time.elapsed(), 600);
 }
 
-TEST_F(SolvingTest, TheRotorTurnsDuringACommandInsideItsTick) {
-    int ticks = 0;
-    platform.EachPump = [&] {
-        if (++ticks == 1) QTest::qWait(100);
-    };
-    window.ctlRotor1.SetRunning(true);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 5; }));
-}
-
 } // namespace tessarin
