@@ -38,7 +38,7 @@ protected:
         add("auto", [this](int value, auto&) { play.SetValue(value, true); });
         add("next", [this](int set, auto&) { Tell(play.NextFreeValue(set == 1)); });
         add("goto", [this](int fill, auto&) { play.GotoNextFreeField(fill == 1); });
-        add("back", [this](int fill, auto&) { play.GoBack(fill == 1); });
+        add("back", [this](int, auto&) { play.GoBack(); });
         add("retreat", [this](int fill, auto&) {
             Tell(play.GoBackToFreedom(fill == 1) ? "moved" : "stayed");
         });

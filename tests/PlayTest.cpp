@@ -23,13 +23,9 @@ const Stories<GameFixture> stories("PlayTest", R"(
         full 81 & trace 82 12 2 5
         index 12 & value 0 > 12=0 -12 from 12 to 5
         value 0 > 5=0 -5 from 5 to 2
-        index 20 & back 0 > 20=0 from 20 to 2
+        index 20 & back > 20=0 from 20 to 2
         // An entry of a larger grid leads nowhere.
-        back 0 > 2=0 -2 & back 0 >
-    GoingBackCanRaiseTheFieldBefore:
-        fill 3.125.... 67....... 9 & set 81 1
-        index 81 & trace 1 81
-        back 1 > 81=0 -81 from 81 to 1 1=4
+        back > 2=0 -2 & back >
     // Only 9 is free for the fields 41 and 76.
     TheNextFreeFieldIsTheMostConstrained:
         fill ......... ......... ......... ......... 1234.5678 ......... ......... ......... 876.54321
@@ -44,9 +40,6 @@ const Stories<GameFixture> stories("PlayTest", R"(
         set 81 1 & index 81
         retreat 0 > 81=0 -81 from 81 to 1 moved & index 80
         retreat 1 > from 80 to 1 1=8 moved & retries > 2
-    ARetreatThatStaysRestoresItsField:
-        full 81 & trace
-        index 5 & retreat 1 > 5=0 5=5 +5 Beep stayed
     // The newest entry is empty and has no free value: no step would change anything.
     ARetreatAlongAClearedGridEnds:
         fill .23456789 1 & trace 2 1

@@ -43,12 +43,10 @@ const Stories<WindowFixture> stories("SolveWindowTest", R"(
 
 TEST_F(SolveWindowTest, TheRotorStartsAgainAfterItsFirstPicture) {
     auto& timer = dynamic_cast<Timer&>(toolkit.Find("Timer1"));
-    for (const int start : {1, 2}) {
-        window.ctlRotor1.SetRunning(start > 0);
-        for (int i = 1; i <= 13; ++i) {
-            timer.RaiseTick();
-            EXPECT_TRUE(toolkit.Find("Image1(" + std::to_string(i % 12) + ")").Visible()) << i;
-        }
+    for (const int picture : {1, 2, 1, 2}) {
+        if (picture == 1) window.ctlRotor1.SetRunning(true);
+        timer.RaiseTick();
+        EXPECT_TRUE(toolkit.Find("Image1(" + std::to_string(picture) + ")").Visible());
     }
 }
 

@@ -66,7 +66,6 @@ TEST_F(WindowTest, TheWindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
     EXPECT_EQ(form->minimumSize(), form->maximumSize());
     EXPECT_FALSE(form->windowFlags() & Qt::WindowMinMaxButtonsHint);
     EXPECT_EQ(Widget("lblField(81)").geometry(), QRect(360, 368, 40, 40));
-    EXPECT_EQ(Widget("btnSolve").toolTip(), "solve the sudoku");
 }
 
 TEST_F(WindowTest, AReturnFromAnotherWindowRepaintsButNotOneFromAnOwnBox) {
