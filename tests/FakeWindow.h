@@ -69,16 +69,15 @@ public:
 class WindowFixture : public testing::Test, protected FakeWindow {
 protected:
     WindowFixture() {
-        const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
-        add("file", [this](int, auto&) { Tell(window.lblFile.Caption()); });
-        add("pad", [this](int, auto&) { Tell(Pad()); });
-        add("info", [this](int, auto&) { Tell(window.lblInfo.Caption()); });
-        add("hear", [this](int, auto& name) { Tell(toolkit.Find(name).AccessibleName()); });
-        add("hourglass", [this](int, auto&) { Tell(platform.Hourglass); });
-        add("esc", [this](int, auto& presses) { platform.Esc = Numbers(presses); });
-        add("fail", [](int, auto&) { throw "something that is no exception"; });
-        add("activate", [this](int, auto&) { window.RaiseActivate(); });
-        add("marked", [this](int, auto&) {
+        Add("file", [this](int, auto&) { Tell(window.lblFile.Caption()); });
+        Add("pad", [this](int, auto&) { Tell(Pad()); });
+        Add("info", [this](int, auto&) { Tell(window.lblInfo.Caption()); });
+        Add("hear", [this](int, auto& name) { Tell(toolkit.Find(name).AccessibleName()); });
+        Add("hourglass", [this](int, auto&) { Tell(platform.Hourglass); });
+        Add("esc", [this](int, auto& presses) { platform.Esc = Numbers(presses); });
+        Add("fail", [](int, auto&) { throw "something that is no exception"; });
+        Add("activate", [this](int, auto&) { window.RaiseActivate(); });
+        Add("marked", [this](int, auto&) {
             for (int i = 1; i <= 81; ++i)
                 if (Field(i).find("yellow") != std::string::npos) Tell(i);
         });

@@ -35,9 +35,7 @@ const Stories<GameFixture> stories("FilesTest", R"(
         tocsv mine > & tocsv gone/grid >
         read mine > mine & read gone/grid >
     AnExportWithoutNameLiesBesideTheProgram:
-        set 1 5 & tocsv
-        tosdk & set 1 6
-        // Within the same second.
+        set 1 5 & tosdk
         tocsv & read Tessarin-20220429-064952.csv > Index;Value;Locked|1;5;0
         csv & fromsdk Tessarin-20220429-064952.sdk
         is > |1;5;1

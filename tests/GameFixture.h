@@ -28,36 +28,35 @@ protected:
         Hear(game.Events.IsWinner, [this](int i) { Tell("winner ", i); });
         Hear(game.Events.IsDeadEnd, [this](int i) { Tell("dead ", i); });
 
-        const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
-        add("tellpumps", [this](int, auto&) { platform.TellsPumps = true; });
-        add("wait", [](int milliseconds, auto&) { Wait(milliseconds); });
-        add("init", [this](int dimension, auto&) { Tell(grid.Init(dimension)); });
-        add("free", [this](int i, auto&) { Tell(At(i).FreeValuesList()); });
+        Add("tellpumps", [this](int, auto&) { platform.TellsPumps = true; });
+        Add("wait", [](int milliseconds, auto&) { Wait(milliseconds); });
+        Add("init", [this](int dimension, auto&) { Tell(grid.Init(dimension)); });
+        Add("free", [this](int i, auto&) { Tell(At(i).FreeValuesList()); });
         // The player. "auto" enters the next free value, or the value that is given.
-        add("value", [this](int value, auto&) { play.SetValue(value); });
-        add("auto", [this](int value, auto&) { play.SetValue(value, true); });
-        add("next", [this](int set, auto&) { Tell(play.NextFreeValue(set == 1)); });
-        add("goto", [this](int fill, auto&) { play.GotoNextFreeField(fill == 1); });
-        add("back", [this](int, auto&) { play.GoBack(); });
-        add("retreat", [this](int fill, auto&) {
+        Add("value", [this](int value, auto&) { play.SetValue(value); });
+        Add("auto", [this](int value, auto&) { play.SetValue(value, true); });
+        Add("next", [this](int set, auto&) { Tell(play.NextFreeValue(set == 1)); });
+        Add("goto", [this](int fill, auto&) { play.GotoNextFreeField(fill == 1); });
+        Add("back", [this](int, auto&) { play.GoBack(); });
+        Add("retreat", [this](int fill, auto&) {
             Tell(play.GoBackToFreedom(fill == 1) ? "moved" : "stayed");
         });
-        add("retries", [this](int, auto&) { Tell(play.Retries); });
-        add("solve", [this](int, auto&) { play.Solve(); });
+        Add("retries", [this](int, auto&) { Tell(play.Retries); });
+        Add("solve", [this](int, auto&) { play.Solve(); });
         // What the user does in the next solve: requests a cancel with every change; presses ESC,
         // or not, before each cycle; answers.
-        add("cancel",
+        Add("cancel",
             [this](int, auto&) { Hear(game.Events.StatusChanged, [](int) { SetCancel(); }); });
-        add("esc", [this](int, auto& presses) { platform.Esc = Numbers(presses); });
-        add("answer", [this](int, auto& text) { platform.Answers.push_back(text); });
+        Add("esc", [this](int, auto& presses) { platform.Esc = Numbers(presses); });
+        Add("answer", [this](int, auto& text) { platform.Answers.push_back(text); });
         // Files in the test's folder, or without a name.
         const auto path = [this](auto& file) { return file.empty() ? "" : folder + file; };
-        add("tocsv", [=, this](int, auto& file) { game.FileExportCSV(path(file)); });
-        add("tosdk", [=, this](int, auto& file) { game.FileExportSDK(path(file)); });
-        add("fromcsv", [=, this](int, auto& file) { game.FileImportCSV(path(file)); });
-        add("fromsdk", [=, this](int, auto& file) { game.FileImportSDK(path(file)); });
-        add("sdk", [this](int, auto& text) { grid.SetTextSDK(ReplaceAll(text, "|", "\r\n")); });
-        add("text", [this](int, auto&) { Tell(grid.TextSDK()); });
+        Add("tocsv", [=, this](int, auto& file) { game.FileExportCSV(path(file)); });
+        Add("tosdk", [=, this](int, auto& file) { game.FileExportSDK(path(file)); });
+        Add("fromcsv", [=, this](int, auto& file) { game.FileImportCSV(path(file)); });
+        Add("fromsdk", [=, this](int, auto& file) { game.FileImportSDK(path(file)); });
+        Add("sdk", [this](int, auto& text) { grid.SetTextSDK(ReplaceAll(text, "|", "\r\n")); });
+        Add("text", [this](int, auto&) { Tell(grid.TextSDK()); });
     }
     void Hear(auto& event, auto handler) { mEvents.push_back(event.Connect(handler)); }
 

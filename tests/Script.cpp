@@ -64,40 +64,39 @@ Script::Script(Recorder& recorder, Game& played)
 }
 
 void Script::AddCommands() {
-    const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
     const auto lines = [](const auto& text) { return ReplaceAll(text, "|", "\r\n"); };
     // Nine groups of nine make a whole grid; "." and all that is left out is empty.
-    add("fill", [this](int, auto& cells) { Fill(cells); });
+    Add("fill", [this](int, auto& cells) { Fill(cells); });
     // A full grid but for some fields; the first of them becomes the current one.
-    add("full", [this](int first, auto& empty) {
+    Add("full", [this](int first, auto& empty) {
         Fill("123456789456789123789123456234567891567891234891234567345678912678912345912345678");
         for (const int index : Numbers(empty))
             At(index).SetValue(0);
         grid.SetIndex(first);
     });
-    add("index", [this](int i, auto&) { grid.SetIndex(i); });
-    add("set", [this](int i, auto& text) { At(i).SetValue(Numbers(text).at(1)); });
-    add("lock", [this](int i, auto& text) { At(i).SetLocked(Numbers(text).at(1) == 1); });
-    add("csv", [=, this](int, auto& text) { grid.SetTextCSV(lines(text)); });
-    add("is", [this](int, auto&) { Tell(grid.TextCSV().substr(18)); });
-    add("cursor", [this](int, auto&) { Tell(grid.Index()); });
+    Add("index", [this](int i, auto&) { grid.SetIndex(i); });
+    Add("set", [this](int i, auto& text) { At(i).SetValue(Numbers(text).at(1)); });
+    Add("lock", [this](int i, auto& text) { At(i).SetLocked(Numbers(text).at(1) == 1); });
+    Add("csv", [=, this](int, auto& text) { grid.SetTextCSV(lines(text)); });
+    Add("is", [this](int, auto&) { Tell(grid.TextCSV().substr(18)); });
+    Add("cursor", [this](int, auto&) { Tell(grid.Index()); });
     // How many fields are empty, locked and entered, and the next free field.
-    add("counts", [this](int, auto&) {
+    Add("counts", [this](int, auto&) {
         Tell(grid.FreeCount(), " ", grid.LockedCount(), " ", grid.SetCount(), " ",
              grid.NextFreeField());
     });
-    add("trace", [this](int, auto& history) { // with this history
+    Add("trace", [this](int, auto& history) { // with this history
         play.Reset();
         play.SetTracing(true);
         for (const int index : Numbers(history))
             play.History->Add(index);
     });
-    add("write", [=, this](int, auto& text) { // a file: its name, and lines separated by "|"
+    Add("write", [=, this](int, auto& text) { // a file: its name, and lines separated by "|"
         const auto end = text.find(' ');
         WriteTextFile(folder + text.substr(0, end), lines(text.substr(end + 1)), "", true);
     });
-    add("read", [this](int, auto& name) { Tell(ReadTextFile(folder + name)); });
-    add("pump", [this](int n, auto& text) {
+    Add("read", [this](int, auto& name) { Tell(ReadTextFile(folder + name)); });
+    Add("pump", [this](int n, auto& text) {
         mRecorder.AtPump(n, [this, step = text.substr(text.find(' '))] { Step(step); });
     });
 }

@@ -98,13 +98,13 @@ public:
 
 protected:
     using Command = std::function<void(int, const std::string&)>;
+    /// Adds a command, the first word of a step. It gets the first number and all other words.
+    void Add(const char* name, Command command) { mCommands[name] = std::move(command); }
     void Tell(const auto&... parts) { mRecorder.Tell(parts...); }
 
     /// Shows a grid that no event has told of.
     virtual void Refresh() {}
 
-    /// The commands by the first word of a step. Each gets the first number and all other words.
-    std::map<std::string, Command> mCommands;
     Recorder& mRecorder;
 
 private:
@@ -112,6 +112,7 @@ private:
     void Fill(std::string cells);
     void Step(const std::string& step);
 
+    std::map<std::string, Command> mCommands;
     std::vector<Story> mDuring;
     Connection mChanges;
 };

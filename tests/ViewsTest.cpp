@@ -10,10 +10,9 @@ const Stories<WindowFixture> stories("ViewsTest", R"(
     AMarkWinsOverDeadAndDeadOverCurrent:
         fill .12345678 . & set 10 9
         index 2 & fields 1 2 > .:red 1:green
-        lock 2 1
+        lock 2 1 & click lblField(1)
         during fields 1 3 > .:yellow 2:yellow
-        click mnuViewNeighbours & click lblField(1)
-        fields 1 2 > .:red 1/red
+        click mnuViewNeighbours & fields 1 2 > .:red 1/red
     DeadCellsAreRedWhileTheirNumberIsShown:
         click lblDeadEnd > Box(|Dead cells = 0|- OK)
         fill ......... 12.345678 ......... 34.781256 & set 75 9
@@ -54,7 +53,6 @@ TEST_F(ViewsTest, GroupsAreShownForASecondEach) {
     platform.Meanwhile = [&] { shown.push_back(Told("marked")); };
     EXPECT_EQ(Told("click mnuViewGroups").substr(0, 24), "Sleep(1000) Sleep(1000) ");
     ASSERT_EQ(shown.size(), 27U);
-    EXPECT_EQ(shown[9], "1 10 19 28 37 46 55 64 73");
     EXPECT_EQ(shown[26], "61 62 63 70 71 72 79 80 81");
 }
 

@@ -28,24 +28,23 @@ const std::vector<std::string> WindowScript::Commands{
 
 WindowScript::WindowScript(Recorder& recorder, frmTessarin& worked)
     : Script(recorder, *goGame), window(worked) {
-    const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
-    add("click", [this](int, auto& name) { Click(name); });
-    add("answer", [this](int, auto& answer) { Answer(answer); });
-    add("choose", [this](int, auto& file) { Answer(folder + file); });
-    add("import", [this](int, auto& lines) {
+    Add("click", [this](int, auto& name) { Click(name); });
+    Add("answer", [this](int, auto& answer) { Answer(answer); });
+    Add("choose", [this](int, auto& file) { Answer(folder + file); });
+    Add("import", [this](int, auto& lines) {
         Told("write import.csv Index;Value;Locked|" + lines);
         Answer(folder + "import.csv");
         Click("mnuFileImportCSV");
     });
-    add("fields", [this](int, auto& indices) {
+    Add("fields", [this](int, auto& indices) {
         for (const int index : Numbers(indices))
             Tell(Field(index));
     });
     // The dead-end and the winner light.
-    add("lights", [this](int, auto&) {
+    Add("lights", [this](int, auto&) {
         Tell(NameOf(window.lblDeadEnd.BackColor()), " ", NameOf(window.lblWinner.BackColor()));
     });
-    add("faults", [this](int, auto&) { Tell(Faults()); });
+    Add("faults", [this](int, auto&) { Tell(Faults()); });
 }
 
 std::string WindowScript::Field(int index) {
@@ -71,9 +70,8 @@ std::string WindowScript::Pad() {
 
 std::string WindowScript::Faults() {
     std::ostringstream faults;
-    for (const Control* const control :
-         std::initializer_list<Control*>{&window.mnuFile, &window.mnuEdit, &window.mnuView,
-                                         &window.mnuHelp, &window.fraAction, &window.fraNumPad})
+    for (const Control* const control : std::initializer_list<Control*>{
+             &window.mnuFile, &window.mnuView, &window.fraAction, &window.fraNumPad})
         if (!control->Enabled()) faults << control->Name() << " is disabled; ";
     if (window.ViewRunning()) faults << "a view runs; ";
     if (window.ctlRotor1.Running()) faults << "the rotor turns; ";

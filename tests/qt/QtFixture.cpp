@@ -3,27 +3,25 @@
 namespace tessarin {
 
 QtFixture::QtFixture() : WindowScript(platform, OwnWindow) {
-    const auto add = [this](const char* name, auto command) { mCommands[name] = command; };
-    add("key", [this](int, auto& keys) { Key(QString::fromStdString(keys)); });
-    add("focus", [this](int, auto& name) { Widget(name).setFocus(); });
-    add("focused", [this](int, auto&) { Tell(form->focusWidget()->objectName().toStdString()); });
-    add("activate", [this](int, auto&) { Activate(); });
-    add("close", [this](int, auto&) { form->close(); });
-    add("open", [this](int, auto&) { Tell(form->isVisible()); });
-    add("hourglass", [this](int, auto&) {
+    Add("key", [this](int, auto& keys) { Key(QString::fromStdString(keys)); });
+    Add("focus", [this](int, auto& name) { Widget(name).setFocus(); });
+    Add("focused", [this](int, auto&) { Tell(form->focusWidget()->objectName().toStdString()); });
+    Add("activate", [this](int, auto&) { Activate(); });
+    Add("close", [this](int, auto&) { form->close(); });
+    Add("open", [this](int, auto&) { Tell(form->isVisible()); });
+    Add("hourglass", [this](int, auto&) {
         const QCursor* const pointer = QApplication::overrideCursor();
         Tell(pointer != nullptr && pointer->shape() == Qt::WaitCursor);
     });
-    add("esc", [this](int, auto&) { Tell(platform.EscPressed()); });
-    add("away", [](int, auto&) { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); });
+    Add("esc", [this](int, auto&) { Tell(platform.EscPressed()); });
+    Add("away", [](int, auto&) { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); });
     // From now on these clicks are only told.
-    add("record", [this](int, auto&) {
+    Add("record", [this](int, auto&) {
         window.btnInfo.Click = [this] { Tell("info"); };
         window.lblField.Click = [this](int index) { Tell("field ", index); };
-        window.optChill.Click = [this](int index) { Tell("pace ", index); };
     });
     const auto mouse = [=, this](const char* name, QTest::MouseAction action, auto button) {
-        add(name, [=, this](int, auto& control) {
+        Add(name, [=, this](int, auto& control) {
             const QPoint place = Widget(control).mapTo(form, QPoint(9, 9));
             QTest::mouseEvent(action, form->windowHandle(), button, {}, place);
         });
@@ -34,7 +32,7 @@ QtFixture::QtFixture() : WindowScript(platform, OwnWindow) {
     mouse("rightclick", QTest::MouseClick, Qt::RightButton);
     // A key of the keyboard, with the time in milliseconds: "up 1200 Space".
     const auto key = [=, this](const char* name, QEvent::Type type, bool repeat) {
-        add(name, [=, this](int time, auto& words) {
+        Add(name, [=, this](int time, auto& words) {
             const QString wanted = QString::fromStdString(words).section(' ', 1);
             const int code = QKeySequence(wanted)[0].key();
             const QString text = code < 0x100 ? QString(QChar(code)) : QString();
