@@ -9,6 +9,8 @@ namespace tessarin::qt {
 
 namespace {
 
+constexpr quint64 LongestRepeatDelay = 1000; // in milliseconds
+
 bool MenuOrBoxIsOpen() {
     if (QApplication::activePopupWidget() != nullptr) return true;
     if (QApplication::activeModalWidget() != nullptr) return true;
@@ -51,13 +53,16 @@ bool KeyWatch::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 // X11 sends repeats as pairs of a release and a press with the same time. Qt does not mark them
-// when it has read the release before the press has come, or when the focus has changed.
+// when it has read the release before the press has come, or when the focus has changed. But a
+// release can also be lost, to a window behind a box that has just opened: a press of the same key
+// that comes late is a new one.
 bool KeyWatch::Press(const QObject& window, const QKeyEvent& key) {
     const bool hasTimes = mReleaseTime != 0 && key.timestamp() != 0;
     const bool isPair = hasTimes && key.timestamp() - mReleaseTime <= 1;
-    const bool repeated =
-        key.isAutoRepeat() || key.key() == mHeld || (isPair && key.key() == mReleased);
+    const bool isHeld = key.key() == mHeld && key.timestamp() - mPressTime < LongestRepeatDelay;
+    const bool repeated = key.isAutoRepeat() || isHeld || (isPair && key.key() == mReleased);
     mHeld = key.key();
+    mPressTime = key.timestamp();
     if (!repeated) mPressedIn = &window;
     if (mHeld == Qt::Key_Escape && !repeated && !MenuOrBoxIsOpen()) mbEscDown = mbEscPressed = true;
     return repeated && (mPressedIn != &window || !MayRepeat(mHeld));

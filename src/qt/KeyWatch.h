@@ -29,6 +29,7 @@ private:
 
     int mHeld = 0;                       // the key that is down
     const QObject* mPressedIn = nullptr; // the window that has got its press
+    quint64 mPressTime = 0;              // of its last press or repeat, in milliseconds
     int mReleased = 0;                   // the key that was released last
     quint64 mReleaseTime = 0;            // in milliseconds, 0 when unknown
     bool mbEscDown = false;              // down since a press that counts

@@ -5,6 +5,7 @@
 #include "qt/QtToolkit.h"
 #include "toolkit/CommonDialog.h"
 
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -14,6 +15,7 @@
 #include <QSplitter>
 #include <QTreeView>
 
+#include <climits>
 #include <utility>
 
 namespace tessarin::qt {
@@ -81,6 +83,8 @@ protected:
                                           "Please verify the correct file name was given.");
         if (mRequest.PathMustExist && !file.dir().exists())
             return Warn(file.path() + "\nThis folder does not exist.");
+        if (QFile::encodeName(file.fileName()).size() > NAME_MAX)
+            return Warn("This file name is too long.");
         mChosen = path;
         done(Accepted);
     }

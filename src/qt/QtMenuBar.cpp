@@ -49,7 +49,8 @@ bool QtMenuBar::Pressed(const QKeyEvent& key) {
         if (!key.isAutoRepeat()) Toggle();
         return true;
     }
-    return (hasFocus() || key.modifiers() == Qt::AltModifier) && Open(key.text());
+    const auto modifiers = key.modifiers() & ~Qt::ShiftModifier; // the "?" needs it
+    return (hasFocus() || modifiers == Qt::AltModifier) && Open(key.text());
 }
 
 bool QtMenuBar::Open(const QString& letter) {
