@@ -9,23 +9,23 @@ using FilesTest = GameFixture;
 const Stories<GameFixture> stories("FilesTest", R"(
     ALineOfCSVHasIndexValueAndLock:
         fill 123 & csv Index;Value;Locked|5;3;1|7;4;2|8;1;1;x|| 9 ;  +9 ; 0
-        is > |5;3;1|7;4;0|8;1;1|9;9;0 & counts > 77 2 2 1
+        is > |5;3;1|7;4;0|8;1;1|9;9;0 & counts > 77 2
         csv Index;Value;Locked|5;2147483647;-1|1;-3;1|| & is > |1;-3;1|5;2147483647;0
     ABadLineOfCSVEndsTheLoad:
         csv Index;Value;Locked|5;3;1|7;4|9;9;0 > ! too few items in "7;4" & is > |5;3;1|7;4;0
         csv Index;Value;Locked|5;3;1|82;x;1|9;9;0 > ! no item at position 82 of 81 & is > |5;3;1
         csv Index;Value;Locked|7;4;0x4|9;9;0 > ! "0x4" is not a whole number & is > |7;4;0
-        csv Index;Value;Locked|7;4;-2147483649 > ! "-2147483649" is outside the 32-bit range & counts > 80 0 1 1
+        csv Index;Value;Locked|7;4;-2147483649 > ! "-2147483649" is outside the 32-bit range & counts > 80 0
     AnotherFirstLineOfCSVLoadsNothing:
         csv index;value;locked|5;3;1 & is >
         csv |Index;Value;Locked|5;3;1 & is >
     SDKHasARowOfValuesForEachRow:
         fill 5........ .3 & text > "Sudoku"|5,0,0,0,0,0,0,0,0|0,3,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|0,0,0,0,0,0,0,0,0|
-        sdk "Sudoku"|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0,25| > & counts > 624 1 0 2
+        sdk "Sudoku"|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0,25| > & counts > 624 1
     ARowOfSDKMayBeShortOrLong:
         sdk "Sudoku"|1, -2 ,12||3|0|0|0|0|0|0| & is > |1;1;1|2;-2;1|3;12;1|19;3;1
         sdk "Sudoku"|0,0,0,0,0,0,0,0,0,1,2|3|0|0|0|0|0|0|0| & is > |10;3;1|11;2;1
-        sdk "Sudoku"|1,,3|0|0|0|0|0|0|0|0| > ! "" is not a whole number & counts > 80 1 0 2
+        sdk "Sudoku"|1,,3|0|0|0|0|0|0|0|0| > ! "" is not a whole number & counts > 80 1
         sdk "Sudoku"|7|0|0|0|0|0|0|0|0,0,0,0,0,0,0,0,5,x| > ! no item at position 82 of 81 & is > |1;7;1|81;5;1
     OtherTextsOfSDKLeaveTheGrid:
         set 1 5 & sdk "sudoku"|1|0|0|0|0|0|0|0|0|

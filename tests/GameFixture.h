@@ -2,7 +2,6 @@
 
 #include "Script.h"
 #include "ScriptedPlatform.h"
-#include "model/Fields.h"
 #include "play/Play.h"
 #include "support/modKbd.h"
 #include "support/modStringLibrary.h"

@@ -1,6 +1,5 @@
 #include "Script.h"
 
-#include "model/Fields.h"
 #include "play/Play.h"
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
@@ -38,10 +37,6 @@ void Recorder::Pumped() {
     if (++mPumps == mPumpOfAction && mAction) std::exchange(mAction, nullptr)();
 }
 
-Field& Script::At(int index) {
-    return *grid.Items.Item(index);
-}
-
 std::vector<int> Numbers(const std::string& text) {
     std::istringstream words(text);
     return {std::istream_iterator<int>(words), {}};
@@ -60,10 +55,7 @@ Script::Script(Recorder& recorder, Game& played)
             Do(story.Rows, story.Line, story.File);
     };
     mChanges = game.Events.StatusChanged.Connect([this](int) { mRecorder.Meanwhile(); });
-    AddCommands();
-}
 
-void Script::AddCommands() {
     const auto lines = [](const auto& text) { return ReplaceAll(text, "|", "\r\n"); };
     // Nine groups of nine make a whole grid; "." and all that is left out is empty.
     Add("fill", [this](int, auto& cells) { Fill(cells); });
@@ -80,11 +72,8 @@ void Script::AddCommands() {
     Add("csv", [=, this](int, auto& text) { grid.SetTextCSV(lines(text)); });
     Add("is", [this](int, auto&) { Tell(grid.TextCSV().substr(18)); });
     Add("cursor", [this](int, auto&) { Tell(grid.Index()); });
-    // How many fields are empty, locked and entered, and the next free field.
-    Add("counts", [this](int, auto&) {
-        Tell(grid.FreeCount(), " ", grid.LockedCount(), " ", grid.SetCount(), " ",
-             grid.NextFreeField());
-    });
+    // How many fields are empty, and how many locked.
+    Add("counts", [this](int, auto&) { Tell(grid.FreeCount(), " ", grid.LockedCount()); });
     Add("trace", [this](int, auto& history) { // with this history
         play.Reset();
         play.SetTracing(true);

@@ -15,6 +15,7 @@
 // field, a step behind "pump 3" inside the third pump from now. After a failure no row is run.
 #pragma once
 
+#include "model/Fields.h"
 #include "play/Game.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +29,6 @@
 
 namespace tessarin {
 
-class Field;
 class Play;
 
 /// The part of a test's platform that records what happens, in order, and acts inside pumps.
@@ -88,7 +88,7 @@ public:
     Script(Recorder& recorder, Game& played);
     virtual ~Script();
 
-    Field& At(int index);
+    Field& At(int index) { return *grid.Items.Item(index); }
 
     /// Runs the rows of a script. (Clang 14 has no std::source_location.)
     void Do(const std::string& rows, int line = __builtin_LINE(),
@@ -108,7 +108,6 @@ protected:
     Recorder& mRecorder;
 
 private:
-    void AddCommands();
     void Fill(std::string cells);
     void Step(const std::string& step);
 

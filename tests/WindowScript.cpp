@@ -1,6 +1,5 @@
 #include "WindowScript.h"
 
-#include "model/Fields.h"
 #include "support/modStringLibrary.h"
 #include "ui/Colors.h"
 

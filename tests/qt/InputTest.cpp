@@ -48,13 +48,13 @@ const Stories<QtFixture> stories("InputTest", R"(
         click lblDeadEnd & is > |2;6;0
     AHeldKeyClicksOnceButArrowsGoOn:
         record & focus btnInfo
-        down 1000 Space & again 1200 Space
-        again 1230 Space & up 1240 Space > info
+        down 1000 Space & down 1200 Space
+        down 1230 Space & up 1240 Space > info
         focus lblField(1) & down 2000 Space > field 1
-        again 2200 Space > & up 2210 Space >
-        down 3000 5 & again 3200 5
+        down 2200 Space > & up 2210 Space >
+        down 3000 5 & down 3200 5
         up 3210 5 & is > |1;5;0
-        down 4000 Right > field 2 & again 4200 Right > field 2
+        down 4000 Right > field 2 & down 4200 Right > field 2
     AClickBesideTheGridLeavesTheKeyboardThere:
         click btnNumPad(5) & click btnInfo
         click optChill(3) & click lblDeadEnd
@@ -102,9 +102,9 @@ const Stories<QtFixture> stories("InputTest", R"(
         during click btnInfo & click btnGoBack
         during click lblDeadEnd & click btnNumPad(11)
         during close & click mnuFileQuit
-        during counts > 3 0 78 11 & hourglass > 1
+        during counts > 3 0 & hourglass > 1
         during click lblField(5) & cursor > 5
-        click btnSolve & counts > 0 0 81 0
+        click btnSolve & counts > 0 0
         hourglass > 0 & open > 1
         click mnuFileQuit & open > 0
     ABoxInASolveHasTheUsualPointer:
@@ -132,8 +132,8 @@ const Stories<QtFixture> stories("InputTest", R"(
     // The first repeat after the focus has changed is not marked as a repeat.
     RepeatsOfAHeldEscDoNotAnswerItsQuestion:
         full 1 11 & down 1000 Esc
-        during again 1500 Esc & up 1600 Esc
-        during down 1600 Esc & again 1630 Esc
+        during down 1500 Esc & up 1600 Esc
+        during down 1600 Esc & down 1630 Esc
         during up 1700 Esc & answer Yes
         click btnSolve > +1 Box(ESC gedrückt|Abbrechen?)
 )");

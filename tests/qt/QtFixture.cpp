@@ -30,20 +30,20 @@ QtFixture::QtFixture() : WindowScript(platform, OwnWindow) {
     mouse("release", QTest::MouseRelease, Qt::LeftButton);
     mouse("doubleclick", QTest::MouseDClick, Qt::LeftButton);
     mouse("rightclick", QTest::MouseClick, Qt::RightButton);
-    // A key of the keyboard, with the time in milliseconds: "up 1200 Space".
-    const auto key = [=, this](const char* name, QEvent::Type type, bool repeat) {
+    // A key of the keyboard, which repeats while it is down, with the time in milliseconds: "up
+    // 1200 Space".
+    const auto key = [=, this](const char* name, QEvent::Type type) {
         Add(name, [=, this](int time, auto& words) {
             const QString wanted = QString::fromStdString(words).section(' ', 1);
             const int code = QKeySequence(wanted)[0].key();
             const QString text = code < 0x100 ? QString(QChar(code)) : QString();
-            QKeyEvent event(type, code, {}, text, repeat);
+            QKeyEvent event(type, code, {}, text);
             event.setTimestamp(static_cast<quint64>(time));
             QCoreApplication::sendEvent(Top().windowHandle(), &event);
         });
     };
-    key("down", QEvent::KeyPress, false);
-    key("up", QEvent::KeyRelease, false);
-    key("again", QEvent::KeyPress, true);
+    key("down", QEvent::KeyPress);
+    key("up", QEvent::KeyRelease);
 
     QObject::connect(&mEyes, &QTimer::timeout, [this] { LookForBox(); });
     mEyes.start(10);
