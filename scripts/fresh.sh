@@ -87,7 +87,6 @@ finish 'a minimal system'
 chroot "$scratch/base" useradd --create-home --shell /bin/bash newcomer
 echo 'newcomer ALL=(ALL) NOPASSWD: ALL' >"$scratch/base/etc/sudoers.d/newcomer"
 
-
 echo "$release: from a clone, with git"
 cp -a "$scratch/base" "$system"
 git clone --quiet --no-hardlinks . "$system/home/newcomer/tessarin"

@@ -1,7 +1,7 @@
 #!/bin/bash
 # A long run of random users under the sanitizers: soak.sh [users, 300 by default]
-# Each of them takes about 1400 steps and opens the window anew after closing it; every other one
-# also starts steps inside of others.
+# Each of them takes 800 steps or more, some of them inside of others, and opens the window anew
+# after closing it.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"
