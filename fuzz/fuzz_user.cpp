@@ -11,8 +11,6 @@ class RandomUser : public FakeWindow {
 public:
     explicit RandomUser(FuzzedDataProvider& choices) : mChoices(choices) {}
 
-    bool IsOpen() const { return !platform.Closed; }
-
     /// Gives one command and checks what holds between commands.
     void Step() {
         const auto choose = [this](int last) { return mChoices.ConsumeIntegralInRange(0, last); };
@@ -25,7 +23,7 @@ public:
         platform.Answers = {"Yes", "Yes"};
         EXPECT_EQ(Told(step).find("! "), std::string::npos);
         mbStale |= step.starts_with("click optChill");
-        if (--mlDepth > 0 || !IsOpen()) return;
+        if (--mlDepth > 0 || platform.Closed) return;
         // What a quiet solve has changed is not painted if another pace is chosen in it.
         if (std::exchange(mbStale, false)) window.RefreshAll();
         platform.AtPump(0, nullptr);
@@ -45,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzedDataProvider choices(data, size);
     while (choices.remaining_bytes() > 0) {
         tessarin::RandomUser user(choices);
-        while (user.IsOpen() && choices.remaining_bytes() > 0)
+        while (!user.platform.Closed && choices.remaining_bytes() > 0)
             user.Step();
     }
     return 0;

@@ -13,13 +13,6 @@ const Stories<WindowFixture> stories("CommandsTest", R"(
         click btnGoBack > -8 & click btnNextFreeValue >
         click btnNextFreeAuto > +8 & click btnGoBackToFreedom > -8
         click btnGoBackToFreedom > -1 Beep & fields 1 8 > 8:green .
-    ThePadEntersLocksAndClears:
-        click btnNumPad(5) & click btnNumPad(10)
-        click btnNumPad(3) & fields 1 > 5:green/red
-        click btnNumPad(10) & click btnNumPad(9)
-        fields 1 > 9:green & click btnNumPad(0)
-        click btnNumPad(1) & click btnNumPad(11)
-        fields 1 > .:green
     ThePadFollowsTheCurrentField:
         pad > 0123456789XC 0123456789C normal
         fill ......... ......... ......... ......... 1349.78 & click lblField(41)
@@ -60,7 +53,6 @@ const Stories<WindowFixture> stories("CommandsTest", R"(
         set 1 5 & choose new.csv
         click mnuFileExportCSV & file >
         read new.csv > Index;Value;Locked|1;5;0 & click btnNumPad(6) > +1
-        choose gone/new.csv & click mnuFileExportCSV > Save
     AnImportKeepsItsNameInSpiteOfANestedDialog:
         write good.csv Index;Value;Locked|1;5;1 & choose good.csv
         index 2 & pump 1 import 2;5;1
@@ -88,7 +80,6 @@ const Stories<WindowFixture> stories("CommandsTest", R"(
         during hourglass > 0
         click btnSolve > +1 & fields 1 11 > 1:green .
         faults > & click btnSolve > +11
-        click btnSolve > +21 & fields 21 > 9:green
     APaceForgetsTheCancelOfAStep:
         full 1 11 21 & click optChill(6)
         during click optChill(1)

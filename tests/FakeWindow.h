@@ -46,24 +46,21 @@ private:
 };
 
 struct FakeParts {
-    ScriptedPlatform OwnPlatform;
-    FakeToolkit OwnToolkit{OwnPlatform};
-    frmTessarin OwnWindow{OwnToolkit};
+    ScriptedPlatform platform;
+    FakeToolkit toolkit{platform};
+    frmTessarin OwnWindow{toolkit};
 };
 
 /// The window, active, on the toolkit that shows nothing.
-class FakeWindow : FakeParts, public WindowScript {
+class FakeWindow : public FakeParts, public WindowScript {
 public:
-    FakeWindow() : WindowScript(OwnPlatform, OwnWindow) {
+    FakeWindow() : WindowScript(platform, OwnWindow) {
         window.Show();
         window.RaiseActivate();
         mRecorder.Record.clear();
     }
     void Click(const std::string& control) override { toolkit.Find(control).RaiseClick(); }
     void Answer(const std::string& answer) override { platform.Answers.push_back(answer); }
-
-    ScriptedPlatform& platform = OwnPlatform;
-    FakeToolkit& toolkit = OwnToolkit;
 };
 
 class WindowFixture : public testing::Test, protected FakeWindow {

@@ -55,7 +55,6 @@ protected:
         Add("fromcsv", [=, this](int, auto& file) { game.FileImportCSV(path(file)); });
         Add("fromsdk", [=, this](int, auto& file) { game.FileImportSDK(path(file)); });
         Add("sdk", [this](int, auto& text) { grid.SetTextSDK(ReplaceAll(text, "|", "\r\n")); });
-        Add("text", [this](int, auto&) { Tell(grid.TextSDK()); });
     }
     void Hear(auto& event, auto handler) { mEvents.push_back(event.Connect(handler)); }
 

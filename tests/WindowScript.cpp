@@ -48,12 +48,11 @@ WindowScript::WindowScript(Recorder& recorder, frmTessarin& worked)
 
 std::string WindowScript::Field(int index) {
     const Label& label = window.lblField(index);
-    const auto& [font, size, italic] = label.Font();
     std::ostringstream look;
     look << (label.Caption().empty() ? "." : label.Caption());
     if (label.BackColor() != WindowBackground) look << ":" << NameOf(label.BackColor());
     if (label.ForeColor() != ButtonText) look << "/" << NameOf(label.ForeColor());
-    if (label.Font() != FieldFont) look << ":" << font << " " << size << (italic ? " italic" : "");
+    if (label.Font() != FieldFont) look << ":" << label.Font().Name << " " << label.Font().Size;
     return look.str();
 }
 

@@ -29,8 +29,6 @@ protected:
     std::string Field(int index);
     /// The visible keys, the enabled keys and the background.
     std::string Pad();
-
-private:
     std::vector<std::string> Shown();
 };
 
