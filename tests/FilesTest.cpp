@@ -45,7 +45,7 @@ const Stories<GameFixture> stories("FilesTest", R"(
 )");
 
 TEST_F(FilesTest, ALineOfCSVEndsWithTwoCharacters) {
-    grid.SetTextCSV("Index;Value;Locked\n1;5;1");
+    grid.SetTextCSV("Index;Value;Locked\n1;5;1\r\n2;6;1");
     EXPECT_EQ(grid.FreeCount(), 81);
 }
 
