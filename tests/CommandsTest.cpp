@@ -52,7 +52,7 @@ const Stories<WindowFixture> stories("CommandsTest", R"(
     AnExportWritesANewFileAndStartsTheHistory:
         set 1 5 & choose new.csv
         click mnuFileExportCSV & file >
-        read new.csv > Index;Value;Locked|1;5;0 & click btnNumPad(6) > +1
+        read new.csv > Index;Value;Locked|1;5;0 & click btnNumPad(9) > +1
     AnImportKeepsItsNameInSpiteOfANestedDialog:
         write good.csv Index;Value;Locked|1;5;1 & choose good.csv
         index 2 & pump 1 import 2;5;1

@@ -33,7 +33,7 @@ const Stories<WindowFixture> stories("ViewsTest", R"(
     ThePanelDescribesTheFieldPaintedLast:
         fill .12345678 . & set 10 9
         click lblField(2) & click btnGoBackToFreedom > Beep
-        info > Index=2|Value=1||Freedom=0|FreeValuesList=||IsCursor=True|IsLocked=False|IsEmpty=False|IsDeadCell=False||Retries=1|DeadCount=1
+        set 10 0 & info > Index=10|Value=0||Freedom=7|FreeValuesList=3;4;5;6;7;8;9;||IsCursor=False|IsLocked=False|IsEmpty=True|IsDeadCell=False||Retries=1|DeadCount=0
     ScreenReadersHearWhatTheColoursTell:
         fill .12345678 & set 10 9
         click lblField(2) & click btnNumPad(10)
