@@ -125,7 +125,7 @@ const Stories<QtFixture> stories("InputTest", R"(
     APressCountsAfterASwitchToAnotherProgram:
         down 2000 Esc & away
         esc > 1 & esc > 0
-        down 3000 Esc & esc > 1
+        down 2500 Esc & esc > 1
     // The first repeat after the focus has changed is not marked as a repeat.
     RepeatsOfAHeldEscDoNotAnswerItsQuestion:
         full 1 11 & down 1000 Esc
