@@ -9,8 +9,8 @@
 
 #include <QAccessibleWidget>
 #include <QGroupBox>
-#include <QLabel>
 #include <QPainter>
+#include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -97,12 +97,19 @@ protected:
     }
 };
 
-class QtPicture : public QLabel, public QtPeer {
+// Reads the picture's file when it is first painted: twelve of them would slow down the start.
+class QtPicture : public QWidget, public QtPeer {
 public:
-    QtPicture(Control& picture, QWidget& parent) : QLabel(&parent), QtPeer(picture, *this) {
-        setPixmap(ResourcePath(picture.Properties().PictureFile));
-        setScaledContents(true);
+    QtPicture(Control& picture, QWidget& parent) : QWidget(&parent), QtPeer(picture, *this) {}
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        if (mPixmap.isNull()) mPixmap.load(ResourcePath(mControl.Properties().PictureFile));
+        QPainter(this).drawPixmap(rect(), mPixmap);
     }
+
+private:
+    QPixmap mPixmap;
 };
 
 // A QTimer does not fire again before its handler has returned. But a tick pumps window events, and
