@@ -14,8 +14,7 @@ public:
     /// Gives one command and checks what holds between commands.
     void Step() {
         const auto choose = [this](int last) { return mChoices.ConsumeIntegralInRange(0, last); };
-        const auto command = static_cast<std::size_t>(choose(static_cast<int>(Commands.size()) - 1));
-        std::string step = Commands.at(command);
+        std::string step = *(Commands.begin() + choose(static_cast<int>(Commands.size()) - 1));
         step = ReplaceAll(step, "#", std::to_string(choose(80) + 1));
         step = ReplaceAll(step, "*", std::to_string(choose(6)));
         SCOPED_TRACE(step);
