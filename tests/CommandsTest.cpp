@@ -113,8 +113,12 @@ TEST_F(CommandsTest, AFloodOfClicksIsAnsweredInOrder) {
         EXPECT_EQ(index, answered++ % 80 + 1);
         grid.SetIndex(index);
     };
+    window.btnInfo.Click = [] { ADD_FAILURE() << "it is disabled by then"; };
     const std::function<void()> user = [&] {
         if (sent < 20'000) platform.AtPump(1, user);
+        window.btnInfo.SetEnabled(sent > 2000); // now its click waits
+        window.btnInfo.RaiseClick();
+        window.btnInfo.SetEnabled(false);
         for (int i = 0; i < 80; ++i)
             window.lblField(sent++ % 80 + 1).RaiseClick();
     };

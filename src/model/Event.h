@@ -7,13 +7,15 @@
 
 namespace tessarin {
 
-/// Keeps a handler connected to an event while it or a copy of it lives. It may outlive the event.
+/// Keeps a handler connected to an event while it lives. It may outlive the event.
 class Connection {
 public:
     Connection() = default;
     explicit Connection(std::shared_ptr<void> token) : mToken(std::move(token)) {}
+    Connection(Connection&&) = default; // a copy would keep the handler connected
+    Connection& operator=(Connection&&) = default;
 
-    /// Unless a copy is left, the handler is not called again, not even by a Raise in progress.
+    /// The handler is not called again, not even by a Raise in progress.
     void Disconnect() { mToken.reset(); }
 
 private:

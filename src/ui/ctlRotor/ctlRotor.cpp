@@ -12,9 +12,14 @@ namespace {
 constexpr int Pictures = 12;
 constexpr int TickMilliseconds = 5;
 constexpr float PictureSide = 480;
+constexpr int PicturesInColumn = 4;
 
-ControlProperties PictureOf(int index) {
+ControlProperties PictureAt(int index) {
+    const int column = index / PicturesInColumn;
+    const int row = index % PicturesInColumn;
     return {.Name = "Image1",
+            .Left = PictureSide * static_cast<float>(column),
+            .Top = PictureSide * static_cast<float>(row),
             .Width = PictureSide,
             .Height = PictureSide,
             .Visible = false,
@@ -24,9 +29,9 @@ ControlProperties PictureOf(int index) {
 } // namespace
 
 ctlRotor::ctlRotor(Control& container, ControlProperties properties)
-    : UserControl(container, std::move(properties)), Image1(*this, PictureOf(0)) {
+    : UserControl(container, std::move(properties)), Image1(*this, PictureAt(0)) {
     for (int i = 1; i < Pictures; ++i)
-        Image1.Add(i, PictureOf(i));
+        Image1.Add(i, PictureAt(i));
     Timer1.Tick = [this] { Timer1_Timer(); };
     UserControl_Initialize();
     UserControl_Resize();
@@ -39,6 +44,8 @@ void ctlRotor::UserControl_Initialize() {
 }
 
 void ctlRotor::UserControl_Resize() {
+    for (int i = 1; i < Pictures; ++i)
+        Image1(i).MoveTo(Image1(0));
     SizeLike(Image1(0));
 }
 
