@@ -26,9 +26,6 @@ public:
     QWidget& Client() { return mClient; }
 
     KeyboardFocus& Focus() { return mFocus; }
-    QRect GridOnScreen() const {
-        return mFocus.GridBounds().translated(mClient.mapToGlobal(QPoint()));
-    }
     const QMargins& Frame() const { return mFrame.Margins(); }
 
 protected:

@@ -5,13 +5,6 @@
 
 namespace tessarin::qt {
 
-namespace {
-
-// This family is heavy at any weight. The families that replace it where it is missing are not.
-constexpr auto HeavyFamily = "Arial Black";
-
-} // namespace
-
 int Pixels(float twips) {
     return qRound(twips / 15);
 }
@@ -36,6 +29,8 @@ QColor LineColor() {
 }
 
 QFont ToQt(const FontStyle& font) {
+    // This family is heavy at any weight. The families that replace it where it is missing are not.
+    constexpr auto HeavyFamily = "Arial Black";
     QFont result = QApplication::font();
     if (font.Name == HeavyFamily) {
         result.setFamilies({HeavyFamily, "Open Sans", "DejaVu Sans"});

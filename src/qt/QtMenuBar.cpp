@@ -19,26 +19,23 @@ QtMenuBar::QtMenuBar(QWidget& window, KeyboardFocus& focus) : QMenuBar(&window),
     qApp->installEventFilter(this);
 }
 
-void QtMenuBar::Leave() {
-    if (hasFocus()) Toggle();
-    if (hasFocus()) mFocus.ToGrid();
-}
-
 // Watches the window instead of its widgets: QMenuBar itself overlooks a tap on Alt if the focus
 // moves between press and release, as it does during a solve.
 bool QtMenuBar::eventFilter(QObject* receiver, QEvent* event) {
     if (receiver != window()->windowHandle()) return false;
     const QEvent::Type type = event->type();
     if (type == QEvent::KeyPress) return Pressed(*static_cast<QKeyEvent*>(event));
+    bool leaves = type == QEvent::MouseButtonPress && !underMouse();
     if (type == QEvent::KeyRelease) {
-        const bool isAlt = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt;
-        if (isAlt && std::exchange(mbAltAlone, false)) Toggle();
-        // QMenuBar keeps the focus if the control that had it before is disabled or hidden by now.
-        if (hasFocus() && activeAction() == nullptr) mFocus.ToGrid();
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Alt && std::exchange(mbAltAlone, false)) Toggle();
+        // After ESC has closed the last menu, Qt leaves the focus on the menu bar.
+        leaves = key == Qt::Key_Escape && QApplication::activePopupWidget() == nullptr;
     }
-    if (type == QEvent::MouseButtonPress && !underMouse()) Leave();
-    const bool leavesWindow = type == QEvent::FocusOut;
-    if (leavesWindow || type == QEvent::MouseButtonPress) mbAltAlone = false;
+    if (leaves && hasFocus()) Toggle();
+    // QMenuBar keeps the focus if the control that had it before is disabled or hidden by now.
+    if (hasFocus() && activeAction() == nullptr) mFocus.ToGrid();
+    if (type == QEvent::FocusOut || type == QEvent::MouseButtonPress) mbAltAlone = false;
     return false;
 }
 
@@ -84,22 +81,6 @@ void QtMenuBar::initStyleOption(QStyleOptionMenuItem* option, const QAction* act
 
 namespace {
 
-// After ESC has closed the last menu, Qt leaves the focus on the menu bar.
-class BarMenu : public QMenu {
-public:
-    explicit BarMenu(QtMenuBar& bar) : QMenu(&bar), mBar(bar) { setFont(bar.font()); }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        QMenu::keyPressEvent(event);
-        const bool isClosed = QApplication::activePopupWidget() == nullptr;
-        if (event->key() == Qt::Key_Escape && isClosed) mBar.Leave();
-    }
-
-private:
-    QtMenuBar& mBar;
-};
-
 class QtMenuPeer : public QAction, public ControlPeer {
 public:
     QtMenuPeer(Control& item, QtMenuBar& bar) : QAction(&bar), mItem(item), mBar(bar) {
@@ -124,7 +105,8 @@ public:
 private:
     QWidget& Menu() {
         if (!mMenu) {
-            mMenu = std::make_unique<BarMenu>(mBar);
+            mMenu = std::make_unique<QMenu>(&mBar);
+            mMenu->setFont(mBar.font());
             setMenu(mMenu.get());
         }
         return *mMenu;

@@ -16,9 +16,6 @@ class QtMenuBar : public QMenuBar {
 public:
     QtMenuBar(QWidget& window, KeyboardFocus& focus);
 
-    /// If it has the keyboard, gives it back to the control that had it before.
-    void Leave();
-
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
     void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;

@@ -18,10 +18,9 @@ namespace {
 // possible.
 class QtMessageBox : public QMessageBox {
 public:
-    QtMessageBox(const Message& message, QtForm* form) : QMessageBox(form), mForm(form) {
+    QtMessageBox(const Message& message, QtForm& form) : QMessageBox(&form), mForm(form) {
         const bool question = message.ButtonSet == Message::Buttons::YesNo;
-        setWindowTitle(message.Title.empty() && form != nullptr ? form->windowTitle()
-                                                                : ToQt(message.Title));
+        setWindowTitle(message.Title.empty() ? form.windowTitle() : ToQt(message.Title));
         setTextFormat(Qt::PlainText);
         setText(ToQt(message.Prompt));
         setIcon(message.QuestionIcon ? Question : NoIcon);
@@ -45,12 +44,16 @@ protected:
 
     void showEvent(QShowEvent* event) override {
         QMessageBox::showEvent(event);
-        if (mForm == nullptr || mForm->GridOnScreen().isEmpty()) return;
+        const QRect labels = mForm.Focus().GridBounds();
+        if (labels.isEmpty()) return;
         // With a margin: some window managers put the box there, and its frame around it.
-        const QRect grid = mForm->GridOnScreen().marginsAdded(mForm->Frame());
-        const QRect screen = mForm->screen()->availableGeometry();
-        QRect box = QRect(QPoint(), size()).marginsAdded(mForm->Frame());
+        const QPoint client = mForm.Client().mapToGlobal(QPoint());
+        const QRect grid = labels.translated(client).marginsAdded(mForm.Frame());
+        QRect box = QRect(QPoint(), size()).marginsAdded(mForm.Frame());
         box.moveCenter(grid.center());
+        // The places of its top left corner at which it lies on the screen.
+        const QRect screen = mForm.screen()->availableGeometry();
+        const QRect corners = screen.adjusted(0, 0, 1 - box.width(), 1 - box.height());
         const auto covered = [&](const QRect& place) {
             const QRect both = place & grid;
             return both.width() * both.height();
@@ -58,18 +61,16 @@ protected:
         QRect best = grid;
         for (const int y : {box.y(), grid.y() - box.height(), grid.y() + grid.height()})
             for (const int x : {box.x(), grid.x() + grid.width(), grid.x() - box.width()}) {
-                QRect place({x, y}, box.size());
-                place.moveRight(std::min(place.right(), screen.right()));
-                place.moveBottom(std::min(place.bottom(), screen.bottom()));
-                place.moveLeft(std::max(place.left(), screen.left()));
-                place.moveTop(std::max(place.top(), screen.top()));
+                const int left = std::max(corners.left(), std::min(x, corners.right()));
+                const int top = std::max(corners.top(), std::min(y, corners.bottom()));
+                const QRect place({left, top}, box.size());
                 if (covered(place) < covered(best)) best = place;
             }
         move(best.topLeft());
     }
 
 private:
-    QtForm* mForm;
+    QtForm& mForm;
 };
 
 } // namespace
@@ -77,8 +78,8 @@ private:
 Message::Answer QtPlatform::ShowMessage(const Message& message) {
     const bool question = message.ButtonSet == Message::Buttons::YesNo;
     const auto refusal = question ? Message::Answer::No : Message::Answer::Ok;
-    if (mbClosed) return refusal;
-    QtMessageBox box(message, mForm);
+    if (mbClosed || mForm == nullptr) return refusal;
+    QtMessageBox box(message, *mForm);
     return RunModal(box) == QMessageBox::Yes ? Message::Answer::Yes : refusal;
 }
 

@@ -97,19 +97,17 @@ protected:
     }
 };
 
-// Reads the picture's file when it is first painted: twelve of them would slow down the start.
+// Reads the picture's file when it paints, because twelve of them would slow down the start. Qt's
+// cache keeps what is read.
 class QtPicture : public QWidget, public QtPeer {
 public:
     QtPicture(Control& picture, QWidget& parent) : QWidget(&parent), QtPeer(picture, *this) {}
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
-        if (mPixmap.isNull()) mPixmap.load(ResourcePath(mControl.Properties().PictureFile));
-        QPainter(this).drawPixmap(rect(), mPixmap);
+        const QString file = ResourcePath(mControl.Properties().PictureFile);
+        QPainter(this).drawPixmap(rect(), QPixmap(file));
     }
-
-private:
-    QPixmap mPixmap;
 };
 
 // A QTimer does not fire again before its handler has returned. But a tick pumps window events, and

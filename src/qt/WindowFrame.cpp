@@ -20,20 +20,17 @@ QSize WindowFrame::Inside() const {
     return inside.expandedTo({0, mlLeastHeight});
 }
 
+// X11 tells the frame with the first move, other systems with the first paint. Margins of zero mean
+// "not known yet" before the first paint and "no frame" after it.
 bool WindowFrame::Follow(const QEvent& event) {
     const bool isPaint = event.type() == QEvent::Paint;
     const bool isResize = event.type() == QEvent::Resize;
     const bool hasWrongSize = isResize && mWindow.size() != Inside();
     if (hasWrongSize || event.type() == QEvent::WindowStateChange) Fix();
-    return (isPaint || isResize || event.type() == QEvent::Move) && Measure(isPaint);
-}
-
-// X11 tells the frame with the first move, other systems with the first paint. Margins of zero mean
-// "not known yet" before the first paint and "no frame" after it.
-bool WindowFrame::Measure(bool trustZero) {
-    if (!mWindow.isVisible() || mWindow.windowHandle() == nullptr) return false;
+    if (!isPaint && !isResize && event.type() != QEvent::Move) return false;
+    if (!mWindow.isVisible()) return false;
     const QMargins margins = mWindow.windowHandle()->frameMargins();
-    if (margins == mMargins || (margins.isNull() && !trustZero)) return false;
+    if (margins == mMargins || (margins.isNull() && !isPaint)) return false;
     mMargins = margins;
     Fix();
     return true;

@@ -25,7 +25,6 @@ public:
     bool Follow(const QEvent& event);
 
 private:
-    bool Measure(bool trustZero);
     void Fix();
 
     QWidget& mWindow;

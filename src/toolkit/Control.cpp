@@ -14,16 +14,6 @@ Control::Control(Toolkit& toolkit, Form& form, Control* container, ControlProper
 Control::Control(Control& container, ControlProperties properties)
     : Control(container.mToolkit, container.mForm, &container, std::move(properties)) {}
 
-void Control::MoveTo(const Control& other) {
-    SetLeft(other.Left());
-    SetTop(other.Top());
-}
-
-void Control::SizeLike(const Control& other) {
-    SetWidth(other.Width());
-    SetHeight(other.Height());
-}
-
 bool Control::Reachable() const {
     if (!Enabled() || !Visible()) return false;
     return mContainer == nullptr || mContainer->Reachable();

@@ -83,8 +83,6 @@ public:
     void SetTop(float top) { Assign(mProperties.Top, top, Property::Bounds); }
     void SetWidth(float width) { Assign(mProperties.Width, width, Property::Bounds); }
     void SetHeight(float height) { Assign(mProperties.Height, height, Property::Bounds); }
-    void MoveTo(const Control& other);
-    void SizeLike(const Control& other);
 
     /// The control's own flag: a hidden container hides it all the same.
     bool Visible() const { return mProperties.Visible; }

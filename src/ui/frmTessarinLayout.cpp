@@ -90,8 +90,10 @@ void frmTessarin::ArrangeActionPanel() {
         {btnGoBackToFreedom, 5}, {btnNextFreeValue, 6}, {lblDeadEnd, 7}, {btnInfo, 8},
         {lblWinner, 9}};
     for (const auto& [control, key] : places) {
-        control.MoveTo(btnNumPad(key));
-        control.SizeLike(btnNumPad(1));
+        control.SetLeft(btnNumPad(key).Left());
+        control.SetTop(btnNumPad(key).Top());
+        control.SetWidth(FieldSide);
+        control.SetHeight(FieldSide);
         control.SetFont(font);
     }
     for (Label* const indicator : {&lblDeadEnd, &lblWinner}) {

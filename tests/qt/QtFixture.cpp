@@ -87,7 +87,6 @@ void QtFixture::OpenMenuAndClick(const QString& entry) {
 }
 
 QWidget& QtFixture::Top() {
-    if (QWidget* const menu = QApplication::activePopupWidget()) return *menu;
     QWidget* const box = QApplication::activeModalWidget();
     return box == nullptr ? *form : *box;
 }

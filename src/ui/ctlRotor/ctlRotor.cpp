@@ -44,9 +44,12 @@ void ctlRotor::UserControl_Initialize() {
 }
 
 void ctlRotor::UserControl_Resize() {
-    for (int i = 1; i < Pictures; ++i)
-        Image1(i).MoveTo(Image1(0));
-    SizeLike(Image1(0));
+    for (int i = 1; i < Pictures; ++i) {
+        Image1(i).SetLeft(Image1(0).Left());
+        Image1(i).SetTop(Image1(0).Top());
+    }
+    SetWidth(Image1(0).Width());
+    SetHeight(Image1(0).Height());
 }
 
 void ctlRotor::SetRunning(bool SetRunning) {
