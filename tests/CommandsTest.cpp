@@ -60,11 +60,9 @@ const Stories<WindowFixture> stories("CommandsTest", R"(
         is > |1;5;1
     // A cursor move paints two fields and a value one.
     APaceIsThePauseAfterEachPaintedField:
-        full 1 11 & click optChill(2)
-        click btnSolve > +1 Sleep(100) Sleep(100) Sleep(100) Sleep(100) +11
+        full 1 11 & click optChill(5)
+        click btnSolve > +1 Sleep(800) Sleep(800) Sleep(800) Sleep(800) +11
         fields 1 11 > 1 5:green & lights > normal green
-        full 1 & click optChill(5)
-        click btnSolve > Sleep(800)
     QuietPaintsNothingUntilTheEnd:
         full 1 11 21 & click optChill(0)
         during fields 1 > .:green

@@ -45,14 +45,8 @@ private:
     std::map<std::string, Control*> mControls;
 };
 
-struct FakeParts {
-    ScriptedPlatform platform;
-    FakeToolkit toolkit{platform};
-    frmTessarin OwnWindow{toolkit};
-};
-
 /// The window, active, on the toolkit that shows nothing.
-class FakeWindow : public FakeParts, public WindowScript {
+class FakeWindow : public WindowParts<ScriptedPlatform, FakeToolkit>, public WindowScript {
 public:
     FakeWindow() : WindowScript(platform, OwnWindow) {
         window.Show();

@@ -18,7 +18,6 @@ const Stories<GameFixture> stories("FilesTest", R"(
         csv Index;Value;Locked|7;4;-2147483649 > ! "-2147483649" is outside the 32-bit range & counts > 80 0
         // Another first line loads nothing.
         csv index;value;locked|5;3;1 & is >
-        csv |Index;Value;Locked|5;3;1 & is >
     ARowOfSDKMayBeShortOrLong:
         sdk "Sudoku"|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0,25| > & counts > 624 1
         sdk "Sudoku"|1, -2 ,12||3|0|0|0|0|0|0| & is > |1;1;1|2;-2;1|3;12;1|19;3;1

@@ -28,15 +28,6 @@ void Recorder::TellText(const std::string& text) {
     if (!text.empty()) Record += text + " ";
 }
 
-void Recorder::AtPump(int n, std::function<void()> action) {
-    mPumpOfAction = mPumps + n;
-    mAction = std::move(action);
-}
-
-void Recorder::Pumped() {
-    if (++mPumps == mPumpOfAction && mAction) std::exchange(mAction, nullptr)();
-}
-
 std::vector<int> Numbers(const std::string& text) {
     std::istringstream words(text);
     return {std::istream_iterator<int>(words), {}};

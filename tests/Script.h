@@ -42,7 +42,10 @@ public:
         TellText(text.str());
     }
     /// Runs `action` inside the n-th pump from now, once.
-    void AtPump(int n, std::function<void()> action);
+    void AtPump(int n, std::function<void()> action) {
+        mPumpOfAction = mPumps + n;
+        mAction = std::move(action);
+    }
 
     std::string Record; ///< each item with a blank behind it
     bool TellsPumps = false;
@@ -51,7 +54,9 @@ public:
 
 protected:
     /// To be called in each pump.
-    void Pumped();
+    void Pumped() {
+        if (++mPumps == mPumpOfAction && mAction) std::exchange(mAction, nullptr)();
+    }
 
 private:
     void TellText(const std::string& text);

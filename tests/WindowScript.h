@@ -9,6 +9,14 @@
 
 namespace tessarin {
 
+/// What has to exist before the script.
+template <class PlatformType, class ToolkitType>
+struct WindowParts {
+    PlatformType platform;
+    ToolkitType toolkit{platform};
+    frmTessarin OwnWindow{toolkit};
+};
+
 class WindowScript : public Script {
 public:
     frmTessarin& window;

@@ -31,11 +31,7 @@ public:
     void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
 };
 
-struct QtParts {
-    SpyPlatform platform;
-    qt::QtToolkit toolkit{platform};
-    frmTessarin OwnWindow{toolkit};
-};
+using QtParts = WindowParts<SpyPlatform, qt::QtToolkit>;
 
 /// The window, shown and active. A step that the user does returns when its command has ended and
 /// its boxes are answered: by what is set for them, else a message with OK and a dialog with ESC.
@@ -52,7 +48,6 @@ protected:
 
     QWidget& Widget(const std::string& name);
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
-    static QWidget& Box() { return *QApplication::activeModalWidget(); }
 
 private:
     void Activate();

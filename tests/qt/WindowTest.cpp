@@ -47,7 +47,8 @@ TEST_F(WindowTest, ABoxLiesBesideTheGridIfTheScreenHasRoom) {
     platform.Meanwhile = [this] {
         const QRect fields = Widget("lblField(1)").geometry() | Widget("lblField(81)").geometry();
         const QPoint client = form->mapToGlobal(MenuBar().geometry().bottomLeft());
-        EXPECT_FALSE(Box().frameGeometry().intersects(fields.translated(client)));
+        const QRect box = QApplication::activeModalWidget()->frameGeometry();
+        EXPECT_FALSE(box.intersects(fields.translated(client)));
     };
     Click("mnuViewNeighbours");
 }
@@ -55,7 +56,7 @@ TEST_F(WindowTest, ABoxLiesBesideTheGridIfTheScreenHasRoom) {
 TEST_F(WindowTest, ADialogOpensInTheFolderOfTheFileBeforeAndLeavesNoSettings) {
     Do("import 1;5;1");
     platform.Meanwhile = [this] {
-        const auto& dialog = dynamic_cast<QFileDialog&>(Box());
+        const auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
         EXPECT_EQ(dialog.directory().path().toStdString() + "/", folder);
     };
     Click("mnuFileExportCSV");
