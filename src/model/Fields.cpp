@@ -30,7 +30,8 @@ auto* Find(auto& items, int position) {
 }
 
 // What each group of the board holds, collected in one walk over the fields: to ask every empty
-// field for its Freedom would take four times as long.
+// field for its Freedom would take four times as long. Both agree as long as a field names the
+// groups that name it, as Field::GroupAdd leaves them.
 std::vector<ValueSet> HeldByGroup(const Collection<std::shared_ptr<Field>>& fields, int numbers) {
     const int groups = goBoard->Groups ? goBoard->Groups->Items.Count() : 0;
     std::vector<ValueSet> held(static_cast<std::size_t>(groups), ValueSet(numbers));

@@ -31,14 +31,19 @@ int Write(const std::string& FileName, const std::string& bytes, bool replaceExi
     return written ? errno : error;
 }
 
+// Opens a regular file alone: a pipe or device could block for ever or never end.
+std::ifstream Open(const std::string& FileName) {
+    std::ifstream file;
+    std::error_code error;
+    if (std::filesystem::is_regular_file(FileName, error)) file.open(FileName, std::ios::binary);
+    return file;
+}
+
 } // namespace
 
 std::string ReadTextFile(const std::string& FileName) {
-    // A pipe or device could block for ever or never end.
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(FileName, error)) return "";
     try {
-        std::ifstream file(FileName, std::ios::binary);
+        std::ifstream file = Open(FileName);
         return {std::istreambuf_iterator<char>(file), {}};
     } catch (const std::exception&) { // a read error, or more than fits into the memory
         return "";
@@ -54,10 +59,13 @@ std::string WriteTextFile(const std::string& FileName, const std::string& text,
 }
 
 std::string DetectCharset(const std::string& FileName) {
-    const std::string text = ReadTextFile(FileName);
-    if (text.empty()) return "";
-    if (text.starts_with(BomUnicode())) return "unicode";
-    if (text.starts_with(BomUtf8())) return "utf-8";
+    std::ifstream file = Open(FileName);
+    std::string start(3, '\0');
+    file.read(start.data(), 3);
+    start.resize(static_cast<std::size_t>(file.gcount()));
+    if (start.empty()) return "";
+    if (start.starts_with(BomUnicode())) return "unicode";
+    if (start.starts_with(BomUtf8())) return "utf-8";
     return "x-ansi";
 }
 

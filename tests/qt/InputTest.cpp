@@ -73,8 +73,13 @@ const Stories<QtFixture> stories("InputTest", R"(
         key C & focused > lblField(1)
     AClickElsewhereLeavesTheMenuBar:
         focus btnNumPad(5) & key Alt
-        click btnNumPad(5) & key Right
-        cursor > 2
+        click btnInfo & focused > btnNumPad(5)
+        // Now that key cannot have the keyboard any more.
+        key Alt & lock 1 1
+        key Alt & focused > lblField(1)
+        // Alt was not pressed alone.
+        down 9000 Alt & click lblField(5)
+        up 9100 Alt & focused > lblField(5)
     CommandsHaveKeys:
         key 5 & key Delete
         is > & key 5
