@@ -16,13 +16,13 @@ public:
         const auto choose = [this](int last) { return mChoices.ConsumeIntegralInRange(0, last); };
         std::string step = *(Commands.begin() + choose(static_cast<int>(Commands.size()) - 1));
         step = ReplaceAll(step, "#", std::to_string(choose(80) + 1));
-        step = ReplaceAll(step, "*", std::to_string(choose(6)));
+        step = ReplaceAll(step, "*", std::to_string(choose(9)));
         SCOPED_TRACE(step);
         if (++mlDepth < 3) platform.AtPump(choose(420), [this] { Step(); });
         platform.Esc = {0, 0, 0, 0, 0, 0, 0, 0, 1}; // a solve that takes long is cancelled
         platform.Answers = {"Yes", "Yes"};
         EXPECT_EQ(Told(step).find("! "), std::string::npos);
-        mbStale |= step.starts_with("click optChill");
+        mbStale |= step.starts_with("pace");
         if (--mlDepth > 0 || platform.Closed) return;
         // What a quiet solve has changed is not painted if another pace is chosen in it.
         if (std::exchange(mbStale, false)) window.RefreshAll();

@@ -60,27 +60,27 @@ const Stories<WindowFixture> stories("CommandsTest", R"(
         is > |1;5;1
     // A cursor move paints two fields and a value one.
     APaceIsThePauseAfterEachPaintedField:
-        full 1 11 & click optChill(5)
+        full 1 11 & pace 800
         click btnSolve > +1 Sleep(800) Sleep(800) Sleep(800) Sleep(800) +11
         fields 1 11 > 1 5:green & lights > normal green
     QuietPaintsNothingUntilTheEnd:
-        full 1 11 21 & click optChill(0)
+        full 1 11 21 & pace Quiet
         during fields 1 > .:green
         click btnSolve & fields 1 11 21 > 1 5 9:green
     QuietChosenInASolveRepaintsAtItsEnd:
         full 1 11 21
-        during click optChill(0)
+        during pace Quiet
         // A command still paints.
         during click mnuEditLockAllSet & fields 2 81 > 2/red 8/red
         click btnSolve & fields 1 11 21 > 1/red 5 9:green
     StepMakesOneCycleForEachClick:
-        full 1 11 21 & click optChill(6)
+        full 1 11 21 & pace Step
         during hourglass > 0
         click btnSolve > +1 & fields 1 11 > 1:green .
         faults > & click btnSolve > +11
     APaceForgetsTheCancelOfAStep:
-        full 1 11 21 & click optChill(6)
-        during click optChill(1)
+        full 1 11 21 & pace Step
+        during pace 0
         click btnSolve > +1 +11 +21 & faults >
     AnErrorLeavesAUsableWindow:
         full 1 11 21

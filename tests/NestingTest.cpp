@@ -18,7 +18,7 @@ TEST_P(NestingTest, LeavesNothingStuckAndAllPainted) {
             SCOPED_TRACE(outer + " with " + inner + " in pump " + std::to_string(pump));
             FakeWindow user;
             user.Do("full 41 1 9 21 45 80 & trace 3 40");
-            user.Do("click optChill(2) & click lblField(3)");
+            user.Do("pace 100 & click lblField(3)");
             user.platform.Answers.assign(9, "Yes");
             bool ran = false;
             user.platform.AtPump(pump, [&] {

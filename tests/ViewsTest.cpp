@@ -18,7 +18,7 @@ const Stories<WindowFixture> stories("ViewsTest", R"(
         during fields 12 30 > .:red .:red
         click lblDeadEnd > Box(|Dead cells = 2|- OK) & fields 12 30 > . .
     NeighboursAreYellowWhileTheirNumberIsShown:
-        click lblField(81) & click optChill(5)
+        click lblField(81) & pace 800
         during marked > 9 18 27 36 45 54 61 62 63 70 71 72 73 74 75 76 77 78 79 80 81
         click mnuViewNeighbours > Box(|Neigbours = 21|- OK) & marked >
         // Those that were marked are unmarked.

@@ -6,28 +6,31 @@
 namespace tessarin {
 
 static std::string NameOf(Color color) {
-    static const std::map<Color, const char*> names{{WindowBackground, "normal"},
+    static const std::map<Color, std::string> names{{WindowBackground, "normal"},
                                                     {ButtonText, "text"},
                                                     {Red, "red"},
                                                     {Green, "green"},
                                                     {Yellow, "yellow"}};
-    const auto name = names.find(color);
-    return name == names.end() ? std::to_string(color) : name->second;
+    return names.contains(color) ? names.at(color) : std::to_string(color);
 }
 
+// clang-format off
 const std::vector<std::string> WindowScript::Commands{
     "click lblField(#)",       "click btnNumPad(*)",       "click btnNumPad(10)",
     "click btnNumPad(11)",     "click btnNextFree",        "click btnNextFreeAuto",
     "click btnGoBack",         "click btnGoBackToFreedom", "click btnNextFreeValue",
-    "click btnSolve",          "click optChill(*)",        "click btnInfo",
-    "click lblDeadEnd",        "click mnuViewFreedom",     "click mnuViewGroups",
-    "click mnuViewNeighbours", "click mnuEditClearFree",   "click mnuEditClearAll",
-    "click mnuEditLockAllSet", "click mnuEditLockClear",   "click mnuFileExportCSV",
-    "click mnuAbout",          "import 3;7;1|#;4;0",       "click mnuFileQuit"};
+    "click btnSolve",          "click btnInfo",            "click lblDeadEnd",
+    "click mnuViewFreedom",    "click mnuViewGroups",      "click mnuViewNeighbours",
+    "click mnuEditClearFree",  "click mnuEditClearAll",    "click mnuEditLockAllSet",
+    "click mnuEditLockClear",  "click mnuFileExportCSV",   "click mnuAbout",
+    "import 3;7;1|#;4;0",      "click mnuFileQuit",        "pace Quiet",
+    "pace 0",                  "pace 800",                 "pace Step"};
+// clang-format on
 
 WindowScript::WindowScript(Recorder& recorder, frmTessarin& worked)
     : Script(recorder, *goGame), window(worked) {
     Add("click", [this](int, auto& name) { Click(name); });
+    Add("pace", [this](int, auto& pace) { Click(window.PaceOption(pace).Name()); });
     Add("answer", [this](int, auto& answer) { Answer(answer); });
     Add("choose", [this](int, auto& file) { Answer(folder + file); });
     Add("import", [this](int, auto& lines) {

@@ -27,7 +27,7 @@ public:
     /// The button to be pressed in the next box, or the file to be chosen in the next dialog.
     virtual void Answer(const std::string& answer) = 0;
 
-    /// The commands of the window, as steps: "#" is any field, "*" any key or pace.
+    /// The commands of the window, as steps: "#" is any field, "*" any digit.
     static const std::vector<std::string> Commands;
     /// What is wrong while no command runs: something is stuck, or grid and window do not agree.
     std::string Faults();

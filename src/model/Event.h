@@ -7,16 +7,14 @@
 
 namespace tessarin {
 
-/// Keeps a handler connected to an event while it lives. It may outlive the event.
+/// Keeps a handler connected to an event while it lives; a handler whose connection has died is not
+/// called again, not even by a Raise in progress. It may outlive the event.
 class Connection {
 public:
     Connection() = default;
     explicit Connection(std::shared_ptr<void> token) : mToken(std::move(token)) {}
     Connection(Connection&&) = default; // a copy would keep the handler connected
     Connection& operator=(Connection&&) = default;
-
-    /// The handler is not called again, not even by a Raise in progress.
-    void Disconnect() { mToken.reset(); }
 
 private:
     std::shared_ptr<void> mToken;

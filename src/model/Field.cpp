@@ -37,7 +37,7 @@ ValueSet Field::TakenValues() const {
     for (const int index : InGroups) {
         const auto* const group = goBoard->Groups ? goBoard->Groups->Items.Find(index) : nullptr;
         if (group == nullptr) continue;
-        taken.Add(mlValue); // a group that was registered by hand may not list this field
+        taken.Add(mlValue); // a group that was registered by hand might not list this field
         for (const int member : (*group)->Fields)
             if (const auto* const field = goBoard->Fields->Items.Find(member))
                 taken.Add((*field)->Value());

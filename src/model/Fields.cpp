@@ -121,7 +121,7 @@ void Fields::FieldChanged(int ThisIndex) {
         Events.IsWinner.Raise(IsWinner() ? index : 0);
     else if (status == 2)
         Events.IsDeadEnd.Raise(DeadField());
-    if (status != 1) PumpEvents();
+    if (status != 1) PumpEvents(); // after that event
     PumpEvents();
 }
 

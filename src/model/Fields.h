@@ -45,7 +45,7 @@ public:
 
     /// Replaces all fields by those of a dimension that is odd and at least 3 (0: dimension 3),
     /// removes the cursor and raises Init. Returns "", or why the dimension is refused and the grid
-    /// unchanged. Throws std::overflow_error for a dimension above 215.
+    /// unchanged. Throws std::overflow_error for an odd dimension above 215.
     std::string Init(int MyDimension = 0);
     /// Empties and unlocks all fields, or only those that are not locked, and puts the cursor on
     /// field 1. Raises only the events of the cursor.
@@ -65,7 +65,7 @@ public:
     /// Raises Init only.
     void SetTextSDK(std::string_view MyTextCSV);
 
-    /// Locks or unlocks every field that holds a value.
+    /// Locks or unlocks every field with a value above 0.
     void SetLockAll(bool LockState);
 
     // The status. Each of these counts the fields first if the status is out of date.
@@ -102,11 +102,13 @@ public:
     int Numbers() const;
     int Dimension() const { return mlDimension; }
 
-    /// For Field alone: the value of field ThisIndex, or the lock of any field (0), has changed.
-    /// Raises StatusChanged and then what Status says, except while the grid is being rebuilt.
+private:
+    friend class Field; // which tells of its changes
+
+    // The value of field ThisIndex, or the lock of any field (0), has changed. Raises StatusChanged
+    // and then what Status says, except while the grid is being rebuilt.
     void FieldChanged(int ThisIndex);
 
-private:
     // What one pass over all fields counts.
     struct Counts {
         int Free = 0;

@@ -13,8 +13,8 @@ namespace tessarin {
 class ValueSet {
 public:
     /// An empty set for the values 1 to `numbers`.
-    explicit ValueSet(int numbers) : mNumbers(static_cast<unsigned>(numbers)) {
-        if (mNumbers > WordSize) mAbove.resize((mNumbers - 1) / WordSize);
+    explicit ValueSet(int numbers) : mlNumbers(static_cast<unsigned>(numbers)) {
+        if (mlNumbers > WordSize) mAbove.resize((mlNumbers - 1) / WordSize);
     }
 
     void Clear() {
@@ -24,7 +24,7 @@ public:
     /// Ignores a value outside 1 to `numbers`.
     void Add(int value) {
         const unsigned place = Place(value);
-        if (place >= mNumbers) return;
+        if (place >= mlNumbers) return;
         (place < WordSize ? mWord : mAbove[place / WordSize - 1]) |= Bit(place);
     }
     /// Adds the values of a set for the same `numbers`.
@@ -35,7 +35,7 @@ public:
     }
     bool Contains(int value) const {
         const unsigned place = Place(value);
-        if (place >= mNumbers) return false;
+        if (place >= mlNumbers) return false;
         return ((place < WordSize ? mWord : mAbove[place / WordSize - 1]) & Bit(place)) != 0;
     }
     int Count() const {
@@ -53,7 +53,7 @@ private:
     static unsigned Place(int value) { return static_cast<unsigned>(value) - 1; }
     static Word Bit(unsigned place) { return Word{1} << place % WordSize; }
 
-    unsigned mNumbers;
+    unsigned mlNumbers;
     Word mWord = 0;           // the values 1 to 64
     std::vector<Word> mAbove; // the others
 };

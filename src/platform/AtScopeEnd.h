@@ -6,7 +6,7 @@ namespace tessarin {
 
 /// Calls a function at the end of its own life, also when an error ends it.
 template <class Function>
-class AtScopeEnd {
+class [[nodiscard]] AtScopeEnd {
 public:
     explicit AtScopeEnd(Function function) : mFunction(std::move(function)) {}
     AtScopeEnd(const AtScopeEnd&) = delete;

@@ -6,7 +6,7 @@ namespace tessarin {
 
 /// Sets a variable while it lives, then restores the old value.
 template <class T>
-class ScopedValue {
+class [[nodiscard]] ScopedValue {
 public:
     ScopedValue(T& variable, T value)
         : mVariable(variable), mBefore(std::exchange(variable, std::move(value))) {}

@@ -33,7 +33,7 @@ KeyWatch::KeyWatch() {
     // The release of a key that is down now may go to another program.
     connect(qApp, &QApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationActive) return;
-        mHeld = 0;
+        mlHeld = 0;
         mbEscDown = false;
     });
 }
@@ -45,10 +45,10 @@ bool KeyWatch::eventFilter(QObject* receiver, QEvent* event) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
     if (event->type() == QEvent::KeyPress) return Press(*receiver, key);
     if (key.isAutoRepeat()) return false;
-    mHeld = 0;
-    mReleased = key.key();
-    mReleaseTime = key.timestamp();
-    if (mReleased == Qt::Key_Escape) mbEscDown = false;
+    mlHeld = 0;
+    mlReleased = key.key();
+    mlReleaseTime = key.timestamp();
+    if (mlReleased == Qt::Key_Escape) mbEscDown = false;
     return false;
 }
 
@@ -57,15 +57,16 @@ bool KeyWatch::eventFilter(QObject* receiver, QEvent* event) {
 // release can also be lost, to a window behind a box that has just opened: a press of the same key
 // that comes late is a new one.
 bool KeyWatch::Press(const QObject& window, const QKeyEvent& key) {
-    const bool hasTimes = mReleaseTime != 0 && key.timestamp() != 0;
-    const bool isPair = hasTimes && key.timestamp() - mReleaseTime <= 1;
-    const bool isHeld = key.key() == mHeld && key.timestamp() - mPressTime < LongestRepeatDelay;
-    const bool repeated = key.isAutoRepeat() || isHeld || (isPair && key.key() == mReleased);
-    mHeld = key.key();
-    mPressTime = key.timestamp();
+    const bool hasTimes = mlReleaseTime != 0 && key.timestamp() != 0;
+    const bool isPair = hasTimes && key.timestamp() - mlReleaseTime <= 1;
+    const bool isHeld = key.key() == mlHeld && key.timestamp() - mlPressTime < LongestRepeatDelay;
+    const bool repeated = key.isAutoRepeat() || isHeld || (isPair && key.key() == mlReleased);
+    mlHeld = key.key();
+    mlPressTime = key.timestamp();
     if (!repeated) mPressedIn = &window;
-    if (mHeld == Qt::Key_Escape && !repeated && !MenuOrBoxIsOpen()) mbEscDown = mbEscPressed = true;
-    return repeated && (mPressedIn != &window || !MayRepeat(mHeld));
+    if (mlHeld == Qt::Key_Escape && !repeated && !MenuOrBoxIsOpen())
+        mbEscDown = mbEscPressed = true;
+    return repeated && (mPressedIn != &window || !MayRepeat(mlHeld));
 }
 
 } // namespace tessarin::qt

@@ -9,9 +9,9 @@ class QKeyEvent;
 namespace tessarin::qt {
 
 /// Watches the keyboard at the windows, whatever control has the focus. A key that is held counts
-/// once: its repeats are swallowed, except those of arrow keys, Tab and of a text that is typed,
-/// and even those in a window that has opened since the press. A press of ESC that closes a menu, a
-/// message box or a dialog does not count as a query.
+/// once: its repeats are swallowed. Arrow keys, Tab and text that is typed may repeat, but not in a
+/// window that has opened since the press. A press of ESC that closes a menu, a message box or a
+/// dialog does not count for EscPressed.
 class KeyWatch : public QObject {
 public:
     /// Watches all windows of the application.
@@ -27,11 +27,11 @@ private:
     // Returns whether the press is swallowed.
     bool Press(const QObject& window, const QKeyEvent& key);
 
-    int mHeld = 0;                       // the key that is down
+    int mlHeld = 0;                      // the key that is down
     const QObject* mPressedIn = nullptr; // the window that has got its press
-    quint64 mPressTime = 0;              // of its last press or repeat, in milliseconds
-    int mReleased = 0;                   // the key that was released last
-    quint64 mReleaseTime = 0;            // in milliseconds, 0 when unknown
+    quint64 mlPressTime = 0;             // of its last press or repeat, in milliseconds
+    int mlReleased = 0;                  // the key that was released last
+    quint64 mlReleaseTime = 0;           // in milliseconds, 0 when unknown
     bool mbEscDown = false;              // down since a press that counts
     bool mbEscPressed = false;           // a press that counts has come since the last query
 };

@@ -50,18 +50,19 @@ void KeyboardFocus::ToGrid() {
     mCurrent->update(); // its frame was not shown while the focus was lent
 }
 
-void KeyboardFocus::Leave(const QWidget& widget) {
-    if (IsIn(widget)) ToGrid();
+void KeyboardFocus::SetVisible(QWidget& widget, bool visible) {
+    if (!visible && IsIn(widget)) ToGrid();
+    widget.setVisible(visible);
 }
 
-void KeyboardFocus::Lend(const QWidget& panel) {
-    if (!IsIn(panel)) return;
-    QWidget* const lender = mWindow.focusWidget();
-    ToGrid();
-    if (lender != &panel) mLender = lender;
-}
-
-void KeyboardFocus::Return() {
+void KeyboardFocus::SetEnabled(QWidget& widget, bool enabled) {
+    if (!enabled && IsIn(widget)) {
+        QWidget* const lender = mWindow.focusWidget();
+        ToGrid();
+        if (lender != &widget) mLender = lender;
+    }
+    widget.setEnabled(enabled);
+    // Back to the lender, once its panel is enabled.
     if (!mLender || !mLender->parentWidget()->isEnabled()) return;
     if (mWindow.focusWidget() != mCurrent) return mLender.clear();
     QWidget* const lender = mLender;

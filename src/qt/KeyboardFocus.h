@@ -33,16 +33,14 @@ public:
 
     /// Moves the focus to the grid for good.
     void ToGrid();
-    /// To be called before `widget` is hidden or disabled: if it has the focus, or a control inside
-    /// it, the focus goes to the grid.
-    void Leave(const QWidget& widget);
-    /// As Leave. But a control inside `panel` gets the focus back from Return.
-    void Lend(const QWidget& panel);
-    /// To be called after a widget was enabled. If it was the panel of the control that has lent
-    /// its focus, the control gets it back, unless the user has moved it meanwhile or the control
-    /// itself is disabled or hidden now.
-    void Return();
-    /// Whether the grid has the focus only until Return.
+    /// Shows or hides a widget. If it is hidden, the focus goes from it, or from a control inside
+    /// it, to the grid.
+    void SetVisible(QWidget& widget, bool visible);
+    /// Enables or disables a widget. If it is disabled, the focus goes as above. A control inside
+    /// it gets the focus back when the widget is enabled again, unless the user has moved it
+    /// meanwhile or the control itself is disabled or hidden now.
+    void SetEnabled(QWidget& widget, bool enabled);
+    /// Whether the grid has the focus only until its lender is enabled.
     bool IsLent() const { return mLender != nullptr; }
 
 private:

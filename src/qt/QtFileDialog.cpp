@@ -61,7 +61,7 @@ public:
     }
 
     /// The full path, when the dialog was accepted.
-    QString Chosen() const { return mChosen; }
+    QString Chosen() const { return msChosen; }
 
 protected:
     // QFileDialog reads quotes as separators of several names; here they belong to one name. A file
@@ -85,7 +85,7 @@ protected:
             return Warn(file.path() + "\nThis folder does not exist.");
         if (QFile::encodeName(file.fileName()).size() > NAME_MAX)
             return Warn("This file name is too long.");
-        mChosen = path;
+        msChosen = path;
         done(Accepted);
     }
 
@@ -93,7 +93,7 @@ private:
     void Warn(const QString& text) { QMessageBox::warning(this, windowTitle(), text); }
 
     const CommonDialog mRequest; // a copy, as a command that runs meanwhile may change the original
-    QString mChosen;
+    QString msChosen;
 };
 
 } // namespace

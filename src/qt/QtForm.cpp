@@ -36,7 +36,6 @@ QtForm::QtForm(Form& form, QtPlatform& platform)
 }
 
 void QtForm::Changed(Property property) {
-    if (property == Property::Texts) setWindowTitle(ToQt(mForm.Caption()));
     if (property == Property::Bounds) {
         const int least = mMenuBar.sizeHint().height() + Pixels(mForm.MinClientHeight);
         mFrame.SetSize({Pixels(mForm.Width()), Pixels(mForm.Height())}, least);
@@ -53,7 +52,7 @@ void QtForm::Changed(Property property) {
 }
 
 void QtForm::Arrange() {
-    const QSize size = mFrame.Inside();
+    const QSize size = mFrame.InnerSize();
     const int menuHeight = mMenuBar.sizeHint().height();
     mMenuBar.setGeometry(0, 0, size.width(), menuHeight);
     mClient.setGeometry(0, menuHeight, size.width(), size.height() - menuHeight);
@@ -64,6 +63,7 @@ void QtForm::Arrange() {
 bool QtForm::event(QEvent* event) {
     const bool handled = QWidget::event(event);
     if (mFrame.Follow(*event)) Arrange();
+    // A box of our own has not hidden much, and its end would repaint inside the running command.
     if (event->type() == QEvent::WindowActivate && !std::exchange(mbLeftForOwnBox, false))
         Activate();
     if (event->type() == QEvent::WindowDeactivate)
@@ -88,7 +88,7 @@ void QtForm::keyPressEvent(QKeyEvent* event) {
     if (mMenuBar.hasFocus()) return;
     const auto buttons = mClient.findChildren<QPushButton*>();
     for (QPushButton* const button : buttons)
-        if (button->isVisible() && dynamic_cast<QtPeer&>(*button).IsKey(*event)) {
+        if (button->isVisible() && dynamic_cast<QtPeer&>(*button).IsClickedBy(*event)) {
             event->accept();
             return button->click();
         }

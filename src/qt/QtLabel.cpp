@@ -17,7 +17,7 @@ QtLabel::QtLabel(Control& label, QWidget& parent) : QLabel(&parent), QtPeer(labe
     if (mControl.Properties().Keys == KeyStop::Own) setFocusPolicy(Qt::TabFocus);
 }
 
-void QtLabel::Select() {
+void QtLabel::MakeCurrent() {
     mForm.Focus().MakeCurrent(*this);
 }
 

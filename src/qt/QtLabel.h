@@ -13,7 +13,7 @@ class QtLabel : public QLabel, public QtPeer {
 public:
     QtLabel(Control& label, QWidget& parent);
 
-    void Select() override;
+    void MakeCurrent() override;
 
     void Press() { mControl.RaiseClick(); }
     /// Whether it is there to be clicked, so that it has a place for the focus.

@@ -47,7 +47,7 @@ QList<QKeySequence> Shortcuts(const Control& control) {
     return QKeySequence::listFromString(ToQt(control.Properties().Shortcuts));
 }
 
-QString Plain(const std::string& caption) {
+QString EscapeAmpersands(const std::string& caption) {
     return ToQt(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 

@@ -35,6 +35,6 @@ inline QString ResourcePath(const std::string& file) {
 /// The keys that click a control, wherever the focus is.
 QList<QKeySequence> Shortcuts(const Control& control);
 /// A caption for a button or menu entry, with "&" escaped, which would mark a shortcut.
-QString Plain(const std::string& caption);
+QString EscapeAmpersands(const std::string& caption);
 
 } // namespace tessarin::qt

@@ -86,7 +86,7 @@ public:
     QtMenuPeer(Control& item, QtMenuBar& bar) : QAction(&bar), mItem(item), mBar(bar) {
         setObjectName(ToQt(item.Name()));
         setSeparator(item.Caption() == "-");
-        if (!isSeparator()) setText(Plain(item.Caption()));
+        if (!isSeparator()) setText(EscapeAmpersands(item.Caption()));
         setShortcuts(Shortcuts(item));
         setAutoRepeat(false);
         connect(this, &QAction::triggered, [&item] { item.RaiseClick(); });
@@ -95,7 +95,6 @@ public:
     }
 
     void Changed(Property property) override {
-        if (property == Property::Texts) setText(Plain(mItem.Caption()));
         if (property != Property::Enabled) return;
         setEnabled(mItem.Enabled());
         // The entries of an open menu still answer when only its action is disabled.

@@ -10,8 +10,9 @@ namespace tessarin::qt {
 
 class KeyboardFocus;
 
-/// A menu bar that shows where the keyboard is. A tap on Alt, or F10, goes to its first title and
-/// back, as a click elsewhere does; Alt with the first letter of a title opens that menu.
+/// A menu bar that shows where the keyboard is. A tap on Alt, or F10, goes to its first title, and
+/// back again; a click elsewhere goes back, too. Alt with the first letter of a title opens that
+/// menu.
 class QtMenuBar : public QMenuBar {
 public:
     QtMenuBar(QWidget& window, KeyboardFocus& focus);

@@ -21,11 +21,10 @@ void QtPeer::Place() {
     const bool inClient = mWidget.parentWidget() == &mForm.Client();
     const bool beyond = inClient && mWidget.geometry().center().x() >= mForm.Client().width();
     const bool visible = look.Visible && !beyond;
-    if (!visible) mForm.Focus().Leave(mWidget);
-    mWidget.setVisible(visible);
+    mForm.Focus().SetVisible(mWidget, visible);
 }
 
-bool QtPeer::IsKey(const QKeyEvent& key) const {
+bool QtPeer::IsClickedBy(const QKeyEvent& key) const {
     const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
     const QString caption = ToQt(mControl.Caption());
     if ((modifiers & ~Qt::ShiftModifier) == Qt::NoModifier && caption.size() == 1 &&
@@ -51,9 +50,7 @@ void QtPeer::Changed(Property property) {
     case Property::Colors:
         return mWidget.update();
     case Property::Enabled:
-        if (!mControl.Enabled()) mForm.Focus().Lend(mWidget);
-        mWidget.setEnabled(mControl.Enabled());
-        return mForm.Focus().Return();
+        return mForm.Focus().SetEnabled(mWidget, mControl.Enabled());
     case Property::Interval: // of timers alone
         return;
     }

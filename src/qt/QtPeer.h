@@ -20,7 +20,7 @@ public:
     /// frame its edge would show, and Tab would stop at it.
     void Place();
     /// Whether the key clicks the control: it is its caption or one of its shortcuts.
-    bool IsKey(const QKeyEvent& key) const;
+    bool IsClickedBy(const QKeyEvent& key) const;
 
 protected:
     /// Gives `widget`, which is this object, the properties of `control`, except the texts: a

@@ -1,9 +1,10 @@
 #include "qt/QtPlatform.h"
 
+#include "platform/ScopedValue.h"
+
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QFileInfo>
-#include <QScopedValueRollback>
 #include <QSettings>
 #include <QStyleFactory>
 #include <QThread>
@@ -26,7 +27,7 @@ QtPlatform::~QtPlatform() {
 
 void QtPlatform::PumpEvents(Pump pump) {
     if (mbClosed || (pump == Pump::WhenDue && !IsPumpDue())) return;
-    const QScopedValueRollback<bool> ticking(mbTicksHeld, false);
+    const ScopedValue<bool> ticking(mbTicksHeld, false);
     QApplication::processEvents();
     if (pump == Pump::Now)
         mSincePump.invalidate();
@@ -52,7 +53,7 @@ void QtPlatform::Sleep(int milliseconds) {
     mSincePump.invalidate();
     while (!mbClosed && !end.hasExpired()) {
         QThread::msleep(static_cast<unsigned long>(std::min(Slice, end.remainingTime())));
-        const QScopedValueRollback<bool> held(mbTicksHeld, true);
+        const ScopedValue<bool> held(mbTicksHeld, true);
         QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
 }

@@ -17,7 +17,8 @@ class QtForm;
 /// lose its place and focus: the window-style calls do nothing.
 class QtPlatform : public Platform {
 public:
-    /// Gives the application the same look on every desktop. `version` is the program's record.
+    /// Gives the application the same style of controls on every desktop, and keeps Qt from writing
+    /// into the user's settings. `version` is the program's record.
     explicit QtPlatform(VersionRecord version = {});
     ~QtPlatform() override;
 
@@ -35,6 +36,7 @@ public:
 
     /// The form's window; nullptr when it is gone.
     void SetForm(QtForm* form) { mForm = form; }
+    /// There must be one.
     QtForm& CurrentForm() { return *mForm; }
 
     /// The form has closed. From now on nothing is pumped, slept or asked, so that handlers that

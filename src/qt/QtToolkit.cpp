@@ -53,7 +53,7 @@ public:
     }
 
 protected:
-    void ShowCaption() override { this->setText(Plain(mControl.Caption())); }
+    void ShowCaption() override { this->setText(EscapeAmpersands(mControl.Caption())); }
 };
 
 class QtOption : public QtButton<QRadioButton> {

@@ -12,10 +12,10 @@ namespace tessarin::qt {
 void WindowFrame::SetSize(QSize outer, int leastHeight) {
     mOuter = outer;
     mlLeastHeight = leastHeight;
-    Fix();
+    ApplySize();
 }
 
-QSize WindowFrame::Inside() const {
+QSize WindowFrame::InnerSize() const {
     const QSize inside = mOuter.shrunkBy(mMargins);
     return inside.expandedTo({0, mlLeastHeight});
 }
@@ -25,29 +25,29 @@ QSize WindowFrame::Inside() const {
 bool WindowFrame::Follow(const QEvent& event) {
     const bool isPaint = event.type() == QEvent::Paint;
     const bool isResize = event.type() == QEvent::Resize;
-    const bool hasWrongSize = isResize && mWindow.size() != Inside();
-    if (hasWrongSize || event.type() == QEvent::WindowStateChange) Fix();
+    const bool hasWrongSize = isResize && mWindow.size() != InnerSize();
+    if (hasWrongSize || event.type() == QEvent::WindowStateChange) ApplySize();
     if (!isPaint && !isResize && event.type() != QEvent::Move) return false;
     if (!mWindow.isVisible()) return false;
     const QMargins margins = mWindow.windowHandle()->frameMargins();
     if (margins == mMargins || (margins.isNull() && !isPaint)) return false;
     mMargins = margins;
-    Fix();
+    ApplySize();
     return true;
 }
 
 // Some desktops maximise every window. It must then take the size that it is given: on Wayland
 // another one would break the protocol, and the system would end the program. Qt keeps to a fixed
 // size even then, so there the size is not fixed, but set again after each change.
-void WindowFrame::Fix() {
+void WindowFrame::ApplySize() {
     const QWindow* const native = mWindow.windowHandle();
     const auto states =
         mWindow.windowState() | (native ? native->windowStates() : mWindow.windowState());
     if (states.testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen)) return;
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
-        mWindow.resize(Inside());
+        mWindow.resize(InnerSize());
     else
-        mWindow.setFixedSize(Inside());
+        mWindow.setFixedSize(InnerSize());
 }
 
 } // namespace tessarin::qt

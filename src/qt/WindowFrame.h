@@ -15,17 +15,17 @@ class WindowFrame {
 public:
     explicit WindowFrame(QWidget& window) : mWindow(window) {}
 
-    /// `outer` includes the frame. Inside it the window is at least `leastHeight` high. In pixels.
+    /// In pixels: `outer` includes the frame; inside it the window is at least `leastHeight` high.
     void SetSize(QSize outer, int leastHeight);
     /// What the frame leaves of the outer size.
-    QSize Inside() const;
+    QSize InnerSize() const;
     const QMargins& Margins() const { return mMargins; }
 
-    /// To be called after each event of the window. Returns whether Inside has changed.
+    /// To be called after each event of the window. Returns whether InnerSize has changed.
     bool Follow(const QEvent& event);
 
 private:
-    void Fix();
+    void ApplySize();
 
     QWidget& mWindow;
     QMargins mMargins{1, 20, 1, 1};

@@ -10,7 +10,7 @@ class Control;
 /// handlers of other clicks are running. The gate limits how deep handlers nest and queues the
 /// other clicks: a flood of clicks neither exhausts the stack nor gets lost. A click whose control
 /// is disabled or hidden when its turn comes is dropped. Controls whose handlers pump nothing
-/// (Control::ClicksMayWait is false) skip the queue.
+/// (Control::ClicksMayWait is false) skip the queue. Controls must live as long as the gate.
 class ClickGate {
 public:
     static constexpr int MaxDepth = 16;

@@ -20,7 +20,7 @@ bool Control::Reachable() const {
 }
 
 const std::string& Control::AccessibleName() const {
-    if (!mAccessibleName.empty()) return mAccessibleName;
+    if (!msAccessibleName.empty()) return msAccessibleName;
     return mProperties.ToolTipText.empty() ? mProperties.Caption : mProperties.ToolTipText;
 }
 

@@ -48,15 +48,15 @@ struct ControlProperties {
     bool Visible = true;
     BorderStyle Border = BorderStyle::None;
     Alignment Align = Alignment::Left;
-    /// Whether a label breaks a long text into lines, after a blank or a semicolon; if not, it
-    /// leaves out the middle and shows the whole text in a tool tip.
+    /// Of a label that is aligned left: whether it breaks a long text into lines, after a blank or
+    /// a semicolon; if not, it leaves out the middle and shows the whole text in a tool tip.
     bool Wrap = false;
     KeyStop Keys = KeyStop::None;
     FontStyle Font = FontStyle();
     Color BackColor = SystemColor(15);
     Color ForeColor = SystemColor(18);
-    /// A file among the program's pictures: of a picture, or of a form's icon, without the
-    /// "-size.png" of its files.
+    /// The file of a picture among the program's pictures. Of a form, the beginning of its icon's
+    /// files: "name" stands for all "name-<size>.png".
     std::string PictureFile = {};
     /// Keys that click a button or menu entry, separated by "; ": "Ctrl+O", "Del; Backspace". A
     /// button is also clicked by the character that is its whole caption.
@@ -93,6 +93,7 @@ public:
     bool Reachable() const;
 
     const std::string& Caption() const { return mProperties.Caption; }
+    /// Forms and menu entries keep the caption of their design.
     void SetCaption(const std::string& text) { Assign(mProperties.Caption, text, Property::Texts); }
     void SetToolTipText(const std::string& text) {
         Assign(mProperties.ToolTipText, text, Property::Texts);
@@ -100,8 +101,9 @@ public:
     /// What a screen reader says: the name that was set, else the tool tip, else the caption.
     const std::string& AccessibleName() const;
     void SetAccessibleName(const std::string& name) {
-        Assign(mAccessibleName, name, Property::Texts);
+        Assign(msAccessibleName, name, Property::Texts);
     }
+    /// Of a button: a menu entry keeps those of its design.
     void SetShortcuts(const std::string& keys) { mProperties.Shortcuts = keys; }
     const FontStyle& Font() const { return mProperties.Font; }
     void SetFont(const FontStyle& font) { Assign(mProperties.Font, font, Property::Font); }
@@ -157,7 +159,7 @@ private:
     Form& mForm;
     Control* mContainer;
     ControlProperties mProperties;
-    std::string mAccessibleName;
+    std::string msAccessibleName;
     bool mbEnabled = true;
     std::unique_ptr<ControlPeer> mPeer;
 };

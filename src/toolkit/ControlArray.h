@@ -24,17 +24,18 @@ public:
 
     std::function<void(int)> Click;
 
+    /// Throws std::out_of_range for a member that has not been created.
     T& operator()(int index) { return *mMembers.at(index); }
     bool Has(int index) const { return mMembers.contains(index); }
 
-    /// Creates member `index`, hidden, with the properties of member 0.
+    /// Creates member `index`, which must be a new one, hidden, with the properties of member 0.
     T& Load(int index) {
         ControlProperties properties = mMembers.at(0)->Properties();
         properties.Visible = false;
         return Add(index, std::move(properties));
     }
 
-    /// Creates member `index` with `properties`.
+    /// Creates member `index`, which must be a new one, with `properties`.
     T& Add(int index, ControlProperties properties) {
         properties.Name = msName + "(" + std::to_string(index) + ")";
         auto& member = mMembers[index];

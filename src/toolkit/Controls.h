@@ -9,13 +9,6 @@
 namespace tessarin {
 
 /// A control with nothing but what all controls have.
-///
-/// Frame: holds other controls; disabling it disables all of them. A border has the caption in its
-/// upper line.
-/// MenuItem: an entry of the menu bar (in the form) or of a menu (in another item). With entries of
-/// its own it is a menu; with the caption "-" a separator line.
-/// Picture: shows one of the pictures that the program carries.
-/// UserControl: a frame that is made of other controls. It may correct its size in BoundsChanged.
 template <Kind KindOfControl>
 class PlainControl : public Control {
 public:
@@ -24,10 +17,18 @@ public:
         CreatePeer(*this, KindOfControl);
     }
 };
+/// A button with its caption on it.
 using CommandButton = PlainControl<Kind::CommandButton>;
+/// Holds other controls; disabling it disables all of them. A border has the caption in its upper
+/// line.
 using Frame = PlainControl<Kind::Frame>;
+/// An entry of the menu bar (in the form) or of a menu (in another item). With entries of its own
+/// it is a menu; with the caption "-" a separator line. It has caption, shortcuts and Enabled, and
+/// is always visible.
 using MenuItem = PlainControl<Kind::MenuItem>;
+/// Shows one of the pictures that the program carries.
 using Picture = PlainControl<Kind::Picture>;
+/// A frame that is made of other controls. It may correct its size in BoundsChanged.
 using UserControl = Frame;
 
 /// A text, or a coloured field with a text in it.
@@ -37,7 +38,7 @@ public:
 
     /// Lets the arrow keys move on from this label of the grid. If the focus is in the grid, it
     /// moves here.
-    void MakeCurrent() { Peer().Select(); }
+    void MakeCurrent() { Peer().MakeCurrent(); }
 };
 
 /// One of several options in the same container, of which one is selected. Every click runs Click,
@@ -47,7 +48,8 @@ class OptionButton : public PlainControl<Kind::OptionButton> {
 public:
     using PlainControl::PlainControl;
 
-    /// Selects the option and runs its Click at once, as a click of the user does.
+    /// Selects the option and runs its Click at once, also if it is disabled or hidden. Errors of
+    /// the Click pass through.
     void Select();
 
     bool ClicksMayWait() const override { return false; }
@@ -65,7 +67,7 @@ public:
     void SetInterval(int milliseconds) { Assign(mlInterval, milliseconds, Property::Interval); }
 
     /// For the toolkit: the interval has passed. Ticks nest, because Tick may pump window events;
-    /// those nested deeper than MaxDepth are dropped.
+    /// those nested more than four deep are dropped.
     void RaiseTick();
 
 private:

@@ -18,7 +18,8 @@ public:
     /// Runs when the window has become active: at its start and whenever the user returns from
     /// another window, but not from the form's own boxes and dialogs.
     std::function<void()> Activate;
-    /// Runs when the window is about to close; setting `cancel` keeps it open.
+    /// Runs when the window is about to close; setting `cancel` keeps it open. After an error it
+    /// closes unless `cancel` was set before.
     std::function<void(bool& cancel)> Unload;
 
     /// All clicks on the form's controls go through it.

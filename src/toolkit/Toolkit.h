@@ -32,9 +32,10 @@ class ControlPeer {
 public:
     virtual ~ControlPeer() = default;
     virtual void Changed(Property property) = 0;
-    /// Of an option button: shows it as the selected one of its container. Of a label in the form's
-    /// grid: lets the arrow keys move on from it. Nothing for other controls.
+    /// Shows an option button as the selected one of its container. Nothing for other controls.
     virtual void Select() {}
+    /// Lets the arrow keys move on from a label of the form's grid. Nothing for other controls.
+    virtual void MakeCurrent() {}
 };
 
 /// The toolkit's side of a form.

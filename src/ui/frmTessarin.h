@@ -49,7 +49,7 @@ public:
     /// While a view is shown, all menus but the last are disabled.
     void SetViewRunning(bool MyViewRunning);
     bool ViewRunning() const { return mbViewRunning; }
-    /// The option of the pace with that caption; there has to be one.
+    /// The option of the pace with that caption. Throws std::out_of_range for another caption.
     OptionButton& PaceOption(std::string_view caption);
     /// Shows or hides the side column, for which the window gets wider.
     void SetInfoVisible(bool MyInfoVisible);

@@ -55,7 +55,7 @@ const Stories<QtFixture> stories("InputTest", R"(
         down 4000 Right > field 2 & down 4200 Right > field 2
     AClickBesideTheGridLeavesTheKeyboardThere:
         click btnNumPad(5) & click btnInfo
-        click optChill(3) & click lblDeadEnd
+        pace 200 & click lblDeadEnd
         focused > lblField(1) & key Right
         focus btnNumPad(6) & key Space
         // The key is hidden now.
@@ -127,7 +127,7 @@ const Stories<QtFixture> stories("InputTest", R"(
         esc > 1 & up 1100 Esc
         esc > 0 & down 1200 Esc
         up 1210 Esc & esc > 1
-    APressCountsAfterASwitchToAnotherProgram:
+        // Its release goes to another program.
         down 2000 Esc & away
         esc > 1 & esc > 0
         down 2500 Esc & esc > 1
@@ -151,7 +151,7 @@ TEST_F(InputTest, TheRotorTurnsInPauses) {
     QElapsedTimer time;
     time.start();
     Do("full 1 11 21 & click btnInfo");
-    Do("click optChill(2) & click btnSolve");
+    Do("pace 100 & click btnSolve");
     EXPECT_GE(turns, 7);
     EXPECT_GE(time.elapsed(), 600);
 }
