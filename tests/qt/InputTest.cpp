@@ -12,9 +12,6 @@ const Stories<QtFixture> stories("InputTest", R"(
         release lblField(41) > & press lblField(40) >
         rightclick lblField(40) > & release lblField(40) > field 40
         click lblField(40) > field 40 & doubleclick lblField(40) > field 40 field 40
-    AButtonAnswersTheReleaseNotThePress:
-        press btnNumPad(5) & is >
-        release btnNumPad(6) & is >
     AFieldGetsTheFocusOnceItIsCurrent:
         focus btnSolve & press lblField(40)
         focused > btnSolve & release lblField(40)
