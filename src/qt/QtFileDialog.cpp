@@ -32,17 +32,14 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
-// Makes the dialog wide enough for name, size, type and date.
+// Makes the dialog wide enough for name, size, type and date. No name is cut: the list scrolls.
 void ShowColumnsWhole(QFileDialog& dialog) {
-    constexpr int NameColumn = 0;
     const int line = dialog.fontMetrics().height();
     dialog.resize(QSize(50 * line, 31 * line).boundedTo(dialog.screen()->availableSize() * 0.9));
     if (auto* const splitter = dialog.findChild<QSplitter*>())
         splitter->setSizes({8 * line, 42 * line}); // folders and files
-    if (const auto* const list = dialog.findChild<QTreeView*>("treeView")) {
+    if (const auto* const list = dialog.findChild<QTreeView*>("treeView"))
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-        list->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    }
 }
 
 class QtFileDialog : public QFileDialog {
