@@ -14,6 +14,7 @@ static std::string NameOf(Color color) {
     return names.contains(color) ? names.at(color) : std::to_string(color);
 }
 
+// In columns, which clang-format gives up because the lengths differ.
 // clang-format off
 const std::vector<std::string> WindowScript::Commands{
     "click lblField(#)",       "click btnNumPad(*)",       "click btnNumPad(10)",
