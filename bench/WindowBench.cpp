@@ -1,5 +1,5 @@
-// The cost of the real window on Qt's offscreen platform: from a click to the repainted grid, and
-// from the start of a process to its first painted window.
+// The cost of the real window: from a click to the repainted grid, and from the start of a process
+// to its first painted window. On Qt's offscreen platform unless QT_QPA_PLATFORM names another one.
 #include "MinimalPuzzles.h"
 
 #include "model/Fields.h"
@@ -16,7 +16,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMouseEvent>
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
@@ -32,6 +31,11 @@
 
 namespace tessarin {
 namespace {
+
+double MillisecondsSince(std::chrono::steady_clock::time_point start) {
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
+    return time.count();
+}
 
 struct Window {
     qt::QtPlatform Platform;
@@ -69,6 +73,49 @@ BENCHMARK_CAPTURE(SolveFromClick, quiet_easy, "easy-1", "Quiet")->Unit(benchmark
 BENCHMARK_CAPTURE(SolveFromClick, quiet_hard, "hard-1", "Quiet")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(SolveFromClick, painted_easy, "easy-1", "0")->Unit(benchmark::kMillisecond);
 
+// Counts the updates of the screen and the pictures of the rotor that are painted.
+class Audience : public QObject {
+public:
+    explicit Audience(QWidget& form) {
+        qApp->installEventFilter(this);
+        mForm = &form;
+    }
+    int Updates = 0;
+    int RotorPictures = 0;
+
+private:
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        if (receiver == mForm && event->type() == QEvent::UpdateRequest) ++Updates;
+        if (event->type() == QEvent::Paint && receiver->objectName().startsWith("Image1"))
+            ++RotorPictures;
+        return false;
+    }
+    QWidget* mForm;
+};
+
+// The pace "0", with the side column open: what a user sees of a solve, and how long a move takes.
+void SolveAtPaceZero(benchmark::State& state) {
+    Window window;
+    window.Form.SetInfoVisible(true);
+    window.Form.PaceOption("0").Select();
+    int changes = 0;
+    const auto counter = goGame->Events.StatusChanged.Connect([&](int) { ++changes; });
+    for (auto _ : state) {
+        state.PauseTiming();
+        window.Load("hard-1");
+        changes = 0;
+        Audience audience(window.Platform.CurrentForm());
+        state.ResumeTiming();
+        const auto start = std::chrono::steady_clock::now();
+        window.Solve();
+        state.counters["ms_per_change"] = MillisecondsSince(start) / changes;
+        state.counters["changes"] = changes;
+        state.counters["screen_updates"] = audience.Updates;
+        state.counters["rotor_pictures"] = audience.RotorPictures;
+    }
+}
+BENCHMARK(SolveAtPaceZero)->Unit(benchmark::kMillisecond);
+
 // The same solves without a window.
 void SolveWithoutWindow(benchmark::State& state, const char* puzzle) {
     Game game;
@@ -81,11 +128,6 @@ void SolveWithoutWindow(benchmark::State& state, const char* puzzle) {
 }
 BENCHMARK_CAPTURE(SolveWithoutWindow, easy, "easy-1")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(SolveWithoutWindow, hard, "hard-1")->Unit(benchmark::kMillisecond);
-
-double MillisecondsSince(std::chrono::steady_clock::time_point start) {
-    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
-    return time.count();
-}
 
 // Quiet solves of a thousand random puzzles, from click to repainted grid. hardest_ms is the
 // longest.
@@ -114,12 +156,11 @@ void SolveMinimalPuzzles(benchmark::State& state) {
 }
 BENCHMARK(SolveMinimalPuzzles)->Unit(benchmark::kMillisecond)->Iterations(1);
 
-// Another thread clicks on a field every millisecond during quiet solves. The delays of the
-// answers: latest_ms is the longest, mean_ms the average.
-void ClicksWhileSolving(benchmark::State& state) {
+// Another thread clicks on a field every millisecond during solves. The delays of the answers:
+// latest_ms is the longest, mean_ms the average.
+void ClicksWhileSolving(benchmark::State& state, const char* pace) {
     Window window;
-    window.Form.PaceOption("Quiet").Select();
-    auto* const field = window.Platform.CurrentForm().findChild<QWidget*>("lblField(41)");
+    window.Form.PaceOption(pace).Select();
     std::mutex mutex;
     std::deque<std::chrono::steady_clock::time_point> clicked;
     int clicks = 0;
@@ -141,9 +182,8 @@ void ClicksWhileSolving(benchmark::State& state) {
                 const std::scoped_lock lock(mutex);
                 clicked.push_back(std::chrono::steady_clock::now());
             }
-            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
-                QApplication::postEvent(field, new QMouseEvent(type, QPointF(9, 9), QPointF(9, 9),
-                                                               Qt::LeftButton, Qt::LeftButton, {}));
+            QMetaObject::invokeMethod(
+                qApp, [&] { window.Form.lblField(41).RaiseClick(); }, Qt::QueuedConnection);
         }
     });
     for (auto _ : state) {
@@ -159,7 +199,8 @@ void ClicksWhileSolving(benchmark::State& state) {
     state.counters["latest_ms"] = latest;
     state.counters["mean_ms"] = sum / std::max(clicks, 1);
 }
-BENCHMARK(ClicksWhileSolving)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ClicksWhileSolving, quiet, "Quiet")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ClicksWhileSolving, painted, "0")->Unit(benchmark::kMillisecond);
 
 // Paints one field and brings it to the screen. Its mark changes each time, or nothing does.
 void PaintOneField(benchmark::State& state, bool changing) {
@@ -286,7 +327,7 @@ BENCHMARK_CAPTURE(FirstPaint, bare_window, "bare")
 } // namespace tessarin
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.value(1) == "--show-once")

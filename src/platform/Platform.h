@@ -40,7 +40,7 @@ struct Message {
 
 enum class MousePointer { Default, Hourglass };
 
-/// Whether PumpEvents must handle events now or may skip them if the last pump was recent.
+/// Whether PumpEvents must handle events now or may skip them: see Platform::PumpEvents.
 enum class Pump { Now, WhenDue };
 
 /// The machine that the program runs on. One instance is current; by default a NullPlatform.
@@ -55,7 +55,8 @@ public:
 
     /// Handles the waiting window events once. Any handler of the window may run inside. With
     /// Pump::WhenDue, for computations that call it thousands of times a second, a platform may
-    /// skip all calls in the millisecond after a real pump, and then up to seven more in a row.
+    /// skip the call if nothing that has changed in the window waits to be seen and the last pump
+    /// was less than a millisecond ago; then it may skip up to seven more in a row.
     virtual void PumpEvents(Pump pump) = 0;
     /// Sleeps for `milliseconds` (above 0); ends early when a handler closes the window. The window
     /// may be painted and activated meanwhile. User input and timers wait, unless the activation

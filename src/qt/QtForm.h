@@ -26,6 +26,7 @@ public:
     QWidget& Client() { return mClient; }
 
     KeyboardFocus& Focus() { return mFocus; }
+    QtPlatform& Platform() { return mPlatform; }
     const QMargins& Frame() const { return mFrame.Margins(); }
 
 protected:

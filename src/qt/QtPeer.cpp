@@ -2,6 +2,7 @@
 
 #include "qt/QtForm.h"
 #include "qt/QtLook.h"
+#include "qt/QtPlatform.h"
 
 #include <QKeyEvent>
 
@@ -34,6 +35,7 @@ bool QtPeer::IsClickedBy(const QKeyEvent& key) const {
 }
 
 void QtPeer::Changed(Property property) {
+    mForm.Platform().ShowAtNextPump();
     switch (property) {
     case Property::Bounds:
     case Property::Visible:

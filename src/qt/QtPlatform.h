@@ -47,6 +47,9 @@ public:
     /// Whether timers must not tick now. A tick that is due waits.
     bool TicksHeld() const { return mbTicksHeld; }
 
+    /// Something in the window has changed: the next pump is real and shows it.
+    void ShowAtNextPump() { mSincePump.invalidate(); }
+
     /// Runs a modal dialog with the normal mouse pointer. Returns the dialog's result.
     int RunModal(QDialog& dialog);
 

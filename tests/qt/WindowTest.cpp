@@ -11,6 +11,19 @@ static bool Has(const QImage& image, QColor color) {
     return false;
 }
 
+// Counts the paintings of a widget.
+class Eye : public QObject {
+public:
+    explicit Eye(QWidget& seen) { seen.installEventFilter(this); }
+    int Paintings = 0;
+
+protected:
+    bool eventFilter(QObject* /*seen*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++Paintings;
+        return false;
+    }
+};
+
 class WindowTest : public QtFixture, public testing::WithParamInterface<const char*> {};
 
 const Stories<WindowTest> stories("WindowTest", R"(
@@ -119,6 +132,22 @@ TEST_F(WindowTest, DigitsAndTheFocusCanBeReadOnEveryBackgroundAndTheme) {
     }
     QApplication::setPalette({});
     EXPECT_EQ(qt::TextColor(Red, Green), QColor(Qt::red)) << "a locked value";
+}
+
+TEST_F(WindowTest, EachMoveOfASolveIsSeenBeforeTheNext) {
+    Do("full 1 11 21 31 41 51");
+    Do("pace 0");
+    std::unique_ptr<Eye> eye;
+    const auto look = [&](int field) {
+        if (eye) {
+            EXPECT_GT(eye->Paintings, 0) << "when field " << field << " changed";
+        }
+        eye = std::make_unique<Eye>(Widget("lblField(" + std::to_string(field) + ")"));
+    };
+    const auto moves = game.Events.IndexChanged.Connect(look);
+    const auto values = game.Events.StatusChanged.Connect(look);
+    Do("click btnSolve > +1 +11 +21 +31 +41 +51");
+    EXPECT_GT(eye->Paintings, 0);
 }
 
 // A view that sleeps, a question and a file dialog.
