@@ -3,10 +3,14 @@
 #include "qt/QtForm.h"
 #include "qt/QtLook.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextLayout>
+#include <QToolTip>
 
+#include <algorithm>
 #include <utility>
 
 namespace tessarin::qt {
@@ -39,16 +43,52 @@ void QtLabel::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(inside, ToQt(look.BackColor));
     if (look.Caption.empty()) return;
     painter.setPen(TextColor(look.ForeColor, look.BackColor));
-    QString text = ToQt(look.Caption);
-    if (look.Align == Alignment::Center) return painter.drawText(space, Qt::AlignCenter, text);
-    if (look.Wrap) {
-        text.replace(QLatin1Char(';'), QStringLiteral(";\u200B")); // where a line may end
-        return painter.drawText(space, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
+    if (look.Align == Alignment::Center)
+        painter.drawText(space, Qt::AlignCenter, ToQt(look.Caption));
+    else if (look.Wrap)
+        DrawLines(painter, space);
+    else
+        painter.drawText(space, Qt::AlignLeft | Qt::AlignVCenter, ShortenedCaption());
+}
+
+// Fonts of one size differ in the height of their lines by a fifth, so the distance of the lines
+// depends on the size alone. It is smaller if the label has no room for all lines at that distance.
+void QtLabel::DrawLines(QPainter& painter, const QRect& space) const {
+    QString text = ToQt(mControl.Caption());
+    text.replace("\r\n", QChar(QChar::LineSeparator));
+    text.replace(';', QStringLiteral(";\u200B")); // where a line may end
+    QTextLayout layout(text, font());
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
+        line.setLineWidth(space.width());
+    layout.endLayout();
+    const int count = layout.lineCount();
+    const qreal distance = std::min(1.2 * font().pixelSize(), 1.0 * space.height() / count);
+    for (int i = 0; i < count; ++i) {
+        const QTextLine line = layout.lineAt(i);
+        const qreal middle = space.top() + (i + 0.5) * distance;
+        line.draw(&painter, {1.0 * space.left(), middle - line.height() / 2});
     }
-    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideMiddle, space.width());
-    painter.drawText(space, Qt::AlignLeft | Qt::AlignVCenter, shown);
+}
+
+// Shortened to the part of the label that lies inside its parent.
+QString QtLabel::ShortenedCaption() const {
+    const QRect seen = rect() & parentWidget()->rect().translated(-pos());
+    return fontMetrics().elidedText(ToQt(mControl.Caption()), Qt::ElideMiddle, seen.width());
+}
+
+bool QtLabel::IsShortened() const {
+    const ControlProperties& look = mControl.Properties();
+    const bool isOneLine = look.Align == Alignment::Left && !look.Wrap;
+    return isOneLine && ShortenedCaption() != ToQt(look.Caption);
+}
+
+bool QtLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !IsShortened()) return QLabel::event(event);
     // As HTML, because the lines of a plain tip are never broken.
-    setToolTip(shown == text ? ToQt(look.ToolTipText) : "<p>" + text.toHtmlEscaped() + "</p>");
+    const QString tip = "<p>" + ToQt(mControl.Caption()).toHtmlEscaped() + "</p>";
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
+    return true;
 }
 
 void QtLabel::mousePressEvent(QMouseEvent* event) {

@@ -20,6 +20,8 @@ public:
     bool IsClickable() const { return mControl.Properties().Keys != KeyStop::None; }
 
 protected:
+    // Shows a caption that is shortened whole in a tool tip.
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     // A click is a left press and a left release inside. The second press of a double click counts
     // like any other.
@@ -31,6 +33,9 @@ protected:
 
 private:
     bool IsInGrid() const { return mControl.Properties().Keys == KeyStop::Grid; }
+    void DrawLines(QPainter& painter, const QRect& space) const;
+    QString ShortenedCaption() const;
+    bool IsShortened() const;
 
     bool mbPressed = false;
 };

@@ -11,6 +11,17 @@ static bool Has(const QImage& image, QColor color) {
     return false;
 }
 
+// The lines of a text that is painted, each with an empty row of pixels below it.
+static int Lines(const QImage& image) {
+    QImage row(image.width(), 1, image.format());
+    row.fill(image.pixelColor(0, 0));
+    const auto hasInk = [&](int y) { return image.copy(0, y, image.width(), 1) != row; };
+    int lines = 0;
+    for (int y = 1; y < image.height(); ++y)
+        if (hasInk(y - 1) && !hasInk(y)) ++lines;
+    return lines;
+}
+
 // Counts the paintings of a widget.
 class Eye : public QObject {
 public:
@@ -148,6 +159,36 @@ TEST_F(WindowTest, EachMoveOfASolveIsSeenBeforeTheNext) {
     const auto values = game.Events.StatusChanged.Connect(look);
     Do("click btnSolve > +1 +11 +21 +31 +41 +51");
     EXPECT_GT(eye->Paintings, 0);
+}
+
+TEST_F(WindowTest, AllLinesOfTheInformationAreWholeInAHighFont) {
+    EXPECT_EQ(Lines(Widget("lblInfo").grab().toImage()), 11);
+    window.lblInfo.SetFont({.Size = 8.25F});
+    EXPECT_EQ(Lines(Widget("lblInfo").grab().toImage()), 11);
+}
+
+TEST_F(WindowTest, APathThatTheWindowDoesNotShowWholeIsShortenedAndHasATip) {
+    QWidget& label = Widget("lblFile");
+    const auto tip = [&] {
+        QHelpEvent help(QEvent::ToolTip, {5, 5}, label.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&label, &help);
+        return QToolTip::text().toStdString();
+    };
+    // The frame may be so thick that the client ends before the label.
+    window.SetWidth(window.Width() - 300);
+    const int seen = label.parentWidget()->width() - label.x();
+    QString path = "/";
+    while (label.fontMetrics().horizontalAdvance(path) <= seen)
+        path += "a/";
+    window.lblFile.SetCaption(path.toStdString());
+    Do("click btnInfo");
+    EXPECT_EQ(tip(), "") << "the side column is shown, so there is room for the path";
+    Do("click btnInfo");
+    EXPECT_EQ(tip(), "<p>" + path.toStdString() + "</p>");
+    const QImage shown = label.grab().toImage();
+    path = label.fontMetrics().elidedText(path, Qt::ElideMiddle, seen);
+    window.lblFile.SetCaption(path.toStdString());
+    EXPECT_EQ(label.grab().toImage(), shown);
 }
 
 // A view that sleeps, a question and a file dialog.
