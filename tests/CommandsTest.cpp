@@ -5,94 +5,171 @@ namespace tessarin {
 
 using CommandsTest = WindowFixture;
 
-const Stories<WindowFixture> stories("CommandsTest", R"(
-    APuzzleIsWorkedByHand:
-        import 2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1 > Open & click btnNextFree
-        click btnNextFreeAuto > +1 & click btnNextFreeAuto > +8
-        click btnNextFreeValue > & fields 1 8 > 7 9:green
-        click btnGoBack > -8 & click btnNextFreeValue >
-        click btnNextFreeAuto > +8 & click btnGoBackToFreedom > -8
-        click btnGoBackToFreedom > -1 Beep & fields 1 8 > 8:green .
-    ThePadFollowsTheCurrentField:
-        pad > 0123456789XC 0123456789C normal
-        fill ......... ......... ......... ......... 1349.78 & click lblField(41)
-        pad > 0256XC 0123456789C normal & set 41 5
-        pad > 026XC 0123456789XC normal & lock 41 1
-        pad > 026XC X red & click lblField(81)
-    AllValuesAreLockedAndUnlocked:
-        set 1 5 & set 2 3
-        click mnuEditLockAllSet & fields 1 2 3 > 5:green/red 3/red .
-        click mnuEditLockClear & fields 1 2 > 5:green 3
-        // A grid that comes meanwhile is left alone.
-        pump 1 import 5;3;0|9;4;0 & click mnuEditLockAllSet > Open
-        fields 5 9 > 3 4
-    ClearingAsksFirst:
-        import 1;5;1|2;3;0 & answer No
-        click mnuEditClearFree > Box(|Clear Free?|? Yes No) & answer No
-        click mnuEditClearAll > Box(|Clear All?|? Yes No) & fields 1 2 > 5:green/red 3
-        answer Yes & click mnuEditClearFree
-        is > |1;5;1 & file > import.csv
-        answer Yes & click mnuEditClearAll
-        fields 1 2 > .:green . & file >
-    TheLightsStayUntilTheNextEventOrImport:
-        full 81 & set 81 8
-        lights > normal green & answer Yes
-        click mnuEditClearAll & lights > normal green
-        fill .12345678 & set 10 9
-        // The import may be cancelled.
-        lights > red green & click mnuFileImportCSV > Open
-        lights > normal normal & fields 2 > 1
-    AboutIsShownAgain:
-        click mnuAbout & click mnuAbout > Box(About Tessarin|FileDescription: Solves|Copyright: by X|Internet: https://x|Version: 01.06.048|Release: 29.04.2022 - 06:49:52|- OK)
-    WhatCanBeReadOfABadFileIsShown:
-        set 81 7 & import 12;3;0|13;x;0|14;4;0
-        is > |12;3;0 & fields 1 12 81 > .:green 3 .
-        choose missing.csv & click mnuFileImportCSV
-        file > missing.csv & is >
-    AnExportWritesANewFileAndStartsTheHistory:
-        set 1 5 & choose new.csv
-        click mnuFileExportCSV & file >
-        read new.csv > Index;Value;Locked|1;5;0 & click btnNumPad(9) > +1
-    AnImportKeepsItsNameInSpiteOfANestedDialog:
-        write good.csv Index;Value;Locked|1;5;1 & choose good.csv
-        index 2 & pump 1 import 2;5;1
-        click mnuFileImportCSV & file > good.csv
-        is > |1;5;1
-    // A cursor move paints two fields and a value one.
-    APaceIsThePauseAfterEachPaintedField:
-        full 1 11 & pace 800
-        click btnSolve > +1 Sleep(800) Sleep(800) Sleep(800) Sleep(800) +11
-        fields 1 11 > 1 5:green & lights > normal green
-    QuietPaintsNothingUntilTheEnd:
-        full 1 11 21 & pace Quiet
-        during fields 1 > .:green
-        click btnSolve & fields 1 11 21 > 1 5 9:green
-    QuietChosenInASolveRepaintsAtItsEnd:
-        full 1 11 21
-        during pace Quiet
-        // A command still paints.
-        during click mnuEditLockAllSet & fields 2 81 > 2/red 8/red
-        click btnSolve & fields 1 11 21 > 1/red 5 9:green
-    StepMakesOneCycleForEachClick:
-        full 1 11 21 & pace Step
-        during hourglass > 0
-        click btnSolve > +1 & fields 1 11 > 1:green .
-        faults > & click btnSolve > +11
-    APaceForgetsTheCancelOfAStep:
-        full 1 11 21 & pace Step
-        during pace 0
-        click btnSolve > +1 +11 +21 & faults >
-    AnErrorLeavesAUsableWindow:
-        full 1 11 21
-        during fail
-        click btnSolve > ! an error of an unknown kind & faults >
-        click btnSolve > +11 +21
-)");
+TEST_F(CommandsTest, APuzzleIsWorkedByHand) {
+    Import("2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1"); // 7, 8 and 9 are left for the row
+    Click("btnNextFree");
+    TELLS(Click("btnNextFreeAuto"), "+1");
+    TELLS(Click("btnNextFreeAuto"), "+8");
+    TELLS(Click("btnNextFreeValue"), "");
+    EXPECT_EQ(Seen({1, 8}), "7 9:green");
+    TELLS(Click("btnGoBack"), "-8");
+    TELLS(Click("btnNextFreeValue"), "");
+    EXPECT_EQ(Seen({1, 8}), "8:green .");
+    TELLS(Click("btnNextFreeAuto"), "+8");
+    TELLS(Click("btnGoBackToFreedom"), "-8");
+    TELLS(Click("btnGoBackToFreedom"), "-1 Beep");
+    EXPECT_EQ(Seen({1, 8}), "8:green .");
+}
+
+TEST_F(CommandsTest, ThePadFollowsTheCurrentField) {
+    EXPECT_EQ(Pad(), "0123456789XC 0123456789C normal");
+    Fill("......... ......... ......... ......... 1349.78");
+    Click("lblField(41)");
+    EXPECT_EQ(Pad(), "0256XC 0123456789C normal");
+    Click("btnNumPad(5)");
+    EXPECT_EQ(Pad(), "026XC 0123456789XC normal");
+    Click("btnNumPad(10)");
+    EXPECT_EQ(Pad(), "026XC X red");
+    Click("lblField(81)");
+    EXPECT_EQ(Pad(), "0123456789XC 0123456789C normal");
+}
+
+TEST_F(CommandsTest, AllValuesAreLockedAndUnlocked) {
+    Load("1;5;0|2;3;0");
+    grid.SetIndex(1);
+    Click("mnuEditLockAllSet");
+    EXPECT_EQ(Seen({1, 2, 3}), "5:green/red 3/red .");
+    Click("mnuEditLockClear");
+    EXPECT_EQ(Seen({1, 2}), "5:green 3");
+    // A grid that comes meanwhile is left alone.
+    AtPump(1, [&] { Import("5;3;0|9;4;0"); });
+    Click("mnuEditLockAllSet");
+    EXPECT_EQ(Seen({5, 9}), "3 4");
+}
+
+TEST_F(CommandsTest, ClearingAsksFirst) {
+    const std::string file = Import("1;5;1|2;3;0");
+    TELLS(Click("mnuEditClearFree", "No"), "Box(|Clear Free?|? Yes No)");
+    TELLS(Click("mnuEditClearAll", "No"), "Box(|Clear All?|? Yes No)");
+    EXPECT_EQ(Seen({1, 2}), "5:green/red 3");
+    Click("mnuEditClearFree", "Yes");
+    EXPECT_EQ(Grid(), "1;5;1");
+    EXPECT_EQ(window.lblFile.Caption(), file);
+    Click("mnuEditClearAll", "Yes");
+    EXPECT_EQ(Seen({1, 2}), ".:green .");
+    EXPECT_EQ(window.lblFile.Caption(), "");
+}
+
+TEST_F(CommandsTest, TheLightsStayUntilTheNextEventOrImport) {
+    FullBut({81});
+    At(81).SetValue(8);
+    EXPECT_EQ(Lights(), "normal green");
+    Click("mnuEditClearAll", "Yes");
+    EXPECT_EQ(Lights(), "normal green");
+    Fill(".12345678");
+    At(10).SetValue(9);
+    EXPECT_EQ(Lights(), "red green");
+    TELLS(Click("mnuFileImportCSV"), "Open"); // and cancelled
+    EXPECT_EQ(Lights(), "normal normal");
+    EXPECT_EQ(Seen({2}), "1");
+}
+
+TEST_F(CommandsTest, AboutIsShownAgain) {
+    Click("mnuAbout");
+    TELLS(Click("mnuAbout"), "Box(About Tessarin|FileDescription: Solves|Copyright: by X|Internet: "
+                             "https://x|Version: 01.06.048|Release: 29.04.2022 - 06:49:52|- OK)");
+}
+
+TEST_F(CommandsTest, WhatCanBeReadOfABadFileIsShown) {
+    At(81).SetValue(7);
+    Import("12;3;0|13;x;0|14;4;0");
+    EXPECT_EQ(Grid(), "12;3;0");
+    EXPECT_EQ(Seen({1, 12, 81}), ".:green 3 .");
+    Click("mnuFileImportCSV", folder + "missing.csv");
+    EXPECT_EQ(window.lblFile.Caption(), folder + "missing.csv");
+    EXPECT_EQ(Grid(), "");
+}
+
+TEST_F(CommandsTest, AnExportWritesANewFileAndStartsTheHistory) {
+    At(1).SetValue(5);
+    TELLS(Click("mnuFileExportCSV", folder + "new.csv"), "Save");
+    EXPECT_EQ(window.lblFile.Caption(), "");
+    EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|1;5;0");
+    TELLS(Click("btnNumPad(9)"), "+1");
+}
+
+TEST_F(CommandsTest, AnImportKeepsItsNameInSpiteOfANestedDialog) {
+    const std::string good = Write("good.csv", "Index;Value;Locked|1;5;1");
+    Click("lblField(2)");
+    AtPump(1, [&] { Import("2;5;1"); });
+    Click("mnuFileImportCSV", good);
+    EXPECT_EQ(window.lblFile.Caption(), good);
+    EXPECT_EQ(Grid(), "1;5;1");
+}
 
 TEST_F(CommandsTest, AnImportShowsNeitherTheOldNameNorTheOldGridMeanwhile) {
-    Do("import 1;5;1 & set 81 7");
-    const auto loading = grid.Events.Init.Connect([this] { Do("file > & fields 81 > ."); });
-    Do("import 2;5;1 & file > import.csv");
+    Import("1;5;1|81;7;0");
+    const auto loading = grid.Events.Init.Connect([this] {
+        EXPECT_EQ(window.lblFile.Caption(), "");
+        EXPECT_EQ(Seen({81}), ".");
+    });
+    const std::string file = Import("2;5;1");
+    EXPECT_EQ(window.lblFile.Caption(), file);
+}
+
+// A cursor move paints two fields and a value one.
+TEST_F(CommandsTest, APaceIsThePauseAfterEachPaintedField) {
+    FullBut({1, 11});
+    Pace("800");
+    TELLS(Click("btnSolve"), "+1 Sleep(800) Sleep(800) Sleep(800) Sleep(800) +11");
+    EXPECT_EQ(Seen({1, 11}), "1 5:green");
+    EXPECT_EQ(Lights(), "normal green");
+}
+
+TEST_F(CommandsTest, QuietPaintsNothingUntilTheEnd) {
+    FullBut({1, 11, 21});
+    Pace("Quiet");
+    Meanwhile([&] { EXPECT_EQ(Seen({1}), ".:green"); });
+    Click("btnSolve");
+    EXPECT_EQ(Seen({1, 11, 21}), "1 5 9:green");
+}
+
+TEST_F(CommandsTest, QuietChosenInASolveRepaintsAtItsEnd) {
+    FullBut({1, 11, 21});
+    Meanwhile([&] {
+        Pace("Quiet");
+        Click("mnuEditLockAllSet"); // a command still paints
+        EXPECT_EQ(Seen({2, 81}), "2/red 8/red");
+    });
+    Click("btnSolve");
+    EXPECT_EQ(Seen({1, 11, 21}), "1/red 5 9:green");
+}
+
+TEST_F(CommandsTest, StepMakesOneCycleForEachClick) {
+    FullBut({1, 11, 21});
+    Pace("Step");
+    Meanwhile([&] { EXPECT_FALSE(platform.Hourglass); });
+    TELLS(Click("btnSolve"), "+1");
+    EXPECT_EQ(Seen({1, 11}), "1:green .");
+    EXPECT_EQ(Faults(), "");
+    TELLS(Click("btnSolve"), "+11");
+}
+
+TEST_F(CommandsTest, APaceForgetsTheCancelOfAStep) {
+    FullBut({1, 11, 21});
+    Pace("Step");
+    Meanwhile([&] { Pace("0"); });
+    TELLS(Click("btnSolve"), "+1 +11 +21");
+    EXPECT_EQ(Faults(), "");
+}
+
+TEST_F(CommandsTest, AnErrorLeavesAUsableWindow) {
+    FullBut({1, 11, 21});
+    platform.ExpectedError = "an error of an unknown kind";
+    Meanwhile([] { throw "something that is no exception"; });
+    Click("btnSolve");
+    EXPECT_EQ(Faults(), "");
+    TELLS(Click("btnSolve"), "+11 +21");
 }
 
 TEST_F(CommandsTest, TheRotorStartsAgainAfterItsFirstPicture) {
@@ -113,7 +190,7 @@ TEST_F(CommandsTest, AFloodOfClicksIsAnsweredInOrder) {
     };
     window.btnInfo.Click = [] { ADD_FAILURE() << "it is disabled by then"; };
     const std::function<void()> user = [&] {
-        if (sent < 20'000) platform.AtPump(1, user);
+        if (sent < 20'000) AtPump(1, user);
         window.btnInfo.SetEnabled(sent > 2000); // now its click waits
         window.btnInfo.RaiseClick();
         window.btnInfo.SetEnabled(false);

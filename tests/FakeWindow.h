@@ -1,7 +1,10 @@
 #pragma once
 
 #include "ScriptedPlatform.h"
-#include "WindowScript.h"
+#include "WindowUser.h"
+
+#include <map>
+#include <regex>
 
 namespace tessarin {
 
@@ -11,6 +14,14 @@ public:
     explicit FakeToolkit(ScriptedPlatform& platform) : mPlatform(platform) {}
 
     Control& Find(const std::string& name) { return *mControls.at(name); }
+    /// The names of all controls that can be clicked: one field and one digit stand for all.
+    std::vector<std::string> Commands() const {
+        std::vector<std::string> names{"lblField(50)", "btnNumPad(5)"};
+        const std::regex alike("lblField.*|btnNumPad.[0-9].");
+        for (const auto& [name, control] : mControls)
+            if (control->Click && !std::regex_match(name, alike)) names.push_back(name);
+        return names;
+    }
 
     std::unique_ptr<FormPeer> Create(Form& form) override { return Add(form); }
     std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
@@ -19,11 +30,8 @@ public:
     }
     std::optional<std::string> RunFileDialog(const CommonDialog& /*dialog*/, bool saving) override {
         mPlatform.Tell(saving ? "Save" : "Open");
-        std::vector<std::string>& answers = mPlatform.Answers;
-        if (answers.empty() || !answers.back().starts_with('/')) return std::nullopt;
-        const std::string file = answers.back();
-        answers.pop_back();
-        return file;
+        const std::string path = mPlatform.TakeAnswer();
+        return path.empty() ? std::nullopt : std::optional(path);
     }
 
 private:
@@ -46,34 +54,21 @@ private:
 };
 
 /// The window, active, on the toolkit that shows nothing.
-class FakeWindow : public WindowParts<ScriptedPlatform, FakeToolkit>, public WindowScript {
+class FakeWindow : public WindowParts<ScriptedPlatform, FakeToolkit>, public WindowUser {
 public:
-    FakeWindow() : WindowScript(platform, OwnWindow) {
+    FakeWindow() : WindowUser(platform, OwnWindow) {
         window.Show();
         window.RaiseActivate();
-        mRecorder.Record.clear();
+        platform.TakeRecord();
     }
-    void Click(const std::string& control) override { toolkit.Find(control).RaiseClick(); }
-    void Answer(const std::string& answer) override { platform.Answers.push_back(answer); }
+
+protected:
+    void ClickControl(const std::string& control) override { toolkit.Find(control).RaiseClick(); }
 };
 
 class WindowFixture : public testing::Test, protected FakeWindow {
 protected:
-    WindowFixture() {
-        Add("file", [this](int, auto&) { Tell(window.lblFile.Caption()); });
-        Add("pad", [this](int, auto&) { Tell(Pad()); });
-        Add("info", [this](int, auto&) { Tell(window.lblInfo.Caption()); });
-        Add("hear", [this](int, auto& name) { Tell(toolkit.Find(name).AccessibleName()); });
-        Add("hourglass", [this](int, auto&) { Tell(platform.Hourglass); });
-        Add("esc", [this](int, auto& presses) { platform.Esc = Numbers(presses); });
-        Add("fail", [](int, auto&) { throw "something that is no exception"; });
-        Add("activate", [this](int, auto&) { window.RaiseActivate(); });
-        Add("marked", [this](int, auto&) {
-            for (int i = 1; i <= 81; ++i)
-                if (Field(i).find("yellow") != std::string::npos) Tell(i);
-        });
-    }
-    void TearDown() override { EXPECT_TRUE(platform.Answers.empty()) << "not asked"; }
+    void TearDown() override { platform.ExpectNothingLeft(); }
 };
 
 } // namespace tessarin

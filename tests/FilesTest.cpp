@@ -1,51 +1,93 @@
 // The two text formats of a grid, and their files.
 #include "GameFixture.h"
+#include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
 
 namespace tessarin {
 
-using FilesTest = GameFixture;
+class FilesTest : public GameFixture {
+protected:
+    /// Loads rows of SDK, each with a bar behind it, without their first line.
+    void LoadSDK(const std::string& rows) {
+        grid.SetTextSDK("\"Sudoku\"\r\n" + ReplaceAll(rows, "|", "\r\n"));
+    }
+};
 
-const Stories<GameFixture> stories("FilesTest", R"(
-    ALineOfCSVHasIndexValueAndLock:
-        fill 123 & csv Index;Value;Locked|5;3;1|7;4;2|8;1;1;x|| 9 ;  +9 ; 0
-        is > |5;3;1|7;4;0|8;1;1|9;9;0 & counts > 77 2
-        csv Index;Value;Locked|5;2147483647;-1|1;-3;1|| & is > |1;-3;1|5;2147483647;0
-    ABadLineOfCSVEndsTheLoad:
-        csv Index;Value;Locked|5;3;1|7;4|9;9;0 > ! too few items in "7;4" & is > |5;3;1|7;4;0
-        csv Index;Value;Locked|5;3;1|82;x;1|9;9;0 > ! no item at position 82 of 81 & is > |5;3;1
-        csv Index;Value;Locked|7;4;0x4|9;9;0 > ! "0x4" is not a whole number & is > |7;4;0
-        csv Index;Value;Locked|7;4;-2147483649 > ! "-2147483649" is outside the 32-bit range & counts > 80 0
-        // Another first line loads nothing.
-        csv index;value;locked|5;3;1 & is >
-    ARowOfSDKMayBeShortOrLong:
-        sdk "Sudoku"|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0,25| > & counts > 624 1
-        sdk "Sudoku"|1, -2 ,12||3|0|0|0|0|0|0| & is > |1;1;1|2;-2;1|3;12;1|19;3;1
-        sdk "Sudoku"|1,,3|0|0|0|0|0|0|0|0| > ! "" is not a whole number & counts > 80 1
-        sdk "Sudoku"|7|0|0|0|0|0|0|0|0,0,0,0,0,0,0,0,5,x| > ! no item at position 82 of 81 & is > |1;7;1|81;5;1
-    OtherTextsOfSDKLeaveTheGrid:
-        set 1 5 & sdk "sudoku"|1|0|0|0|0|0|0|0|0|
-        sdk "Sudoku"|1|0|0|0|0|0|0|0|0 & is > |1;5;0
-    AnExportNeverReplacesAFile:
-        set 1 5 & write mine mine
-        tocsv mine > & tocsv gone/grid >
-        read mine > mine & read gone/grid >
-    AnExportWithoutNameLiesBesideTheProgram:
-        set 1 5 & tosdk
-        tocsv & read Tessarin-20220429-064952.csv > Index;Value;Locked|1;5;0
-        csv & fromsdk Tessarin-20220429-064952.sdk
-        is > |1;5;1
-    OnlyAWholeImportOfCSVResetsThePlayer:
-        fill 5 & tosdk rows
-        trace 4 & fromsdk rows >
-        write bad Index;Value;Locked|1;9;1|x & fromcsv bad > ! "x" is not a whole number
-        write good Index;Value;Locked|2;9;1 & fromcsv good > -4
-        is > |2;9;1
-)");
+TEST_F(FilesTest, ALineOfCSVHasIndexValueAndLock) {
+    Fill("123");
+    Load("5;3;1|7;4;2|8;1;1;x|| 9 ;  +9 ; 0");
+    EXPECT_EQ(Grid(), "5;3;1|7;4;0|8;1;1|9;9;0");
+    EXPECT_EQ(grid.FreeCount(), 77);
+    Load("5;2147483647;-1|1;-3;1||");
+    EXPECT_EQ(Grid(), "1;-3;1|5;2147483647;0");
+}
 
-TEST_F(FilesTest, ALineOfCSVEndsWithTwoCharacters) {
+TEST_F(FilesTest, ABadLineOfCSVEndsTheLoad) {
+    TELLS(Load("5;3;1|7;4|9;9;0"), "! too few items in \"7;4\"");
+    EXPECT_EQ(Grid(), "5;3;1|7;4;0");
+    TELLS(Load("5;3;1|82;x;1|9;9;0"), "! no item at position 82 of 81");
+    EXPECT_EQ(Grid(), "5;3;1");
+    EXPECT_EQ(grid.FreeCount(), 80);
+    TELLS(Load("7;4;0x4|9;9;0"), "! \"0x4\" is not a whole number");
+    EXPECT_EQ(Grid(), "7;4;0");
+    TELLS(Load("7;4;-2147483649"), "! \"-2147483649\" is outside the 32-bit range");
+    EXPECT_EQ(grid.FreeCount(), 80);
+}
+
+TEST_F(FilesTest, OtherTextsOfCSVEmptyTheGrid) {
+    Load("1;5;1");
+    grid.SetTextCSV("index;value;locked\r\n5;3;1");
+    EXPECT_EQ(Grid(), "");
+    // A line ends with two characters.
     grid.SetTextCSV("Index;Value;Locked\n1;5;1\r\n2;6;1");
-    EXPECT_EQ(grid.FreeCount(), 81);
+    EXPECT_EQ(Grid(), "");
+}
+
+TEST_F(FilesTest, ARowOfSDKMayBeShortOrLong) {
+    LoadSDK("1, -2 ,12||3|0|0|0|0|0|0|");
+    EXPECT_EQ(Grid(), "1;1;1|2;-2;1|3;12;1|19;3;1");
+    TELLS(LoadSDK("1,,3|0|0|0|0|0|0|0|0|"), "! \"\" is not a whole number");
+    EXPECT_EQ(grid.FreeCount(), 80);
+    TELLS(LoadSDK("7|0|0|0|0|0|0|0|0,0,0,0,0,0,0,0,5,x|"), "! no item at position 82 of 81");
+    EXPECT_EQ(Grid(), "1;7;1|81;5;1");
+}
+
+TEST_F(FilesTest, RowsOfSDKTellTheDimension) {
+    At(1).SetValue(5);
+    LoadSDK("1|0|0|0|0|0|0|0|0"); // no line break behind the last row
+    grid.SetTextSDK("\"sudoku\"\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n");
+    EXPECT_EQ(Grid(), "1;5;0");
+    LoadSDK("0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0,25|");
+    EXPECT_EQ(Grid(), "602;25;1");
+    EXPECT_EQ(grid.FreeCount(), 624);
+}
+
+TEST_F(FilesTest, AnExportNeverReplacesAFile) {
+    At(1).SetValue(5);
+    game.FileExportCSV(Write("mine", "my text"));
+    game.FileExportSDK(folder + "mine");
+    EXPECT_EQ(Read("mine"), "my text");
+    TELLS(game.FileExportCSV(folder + "no folder/grid"), "");
+}
+
+TEST_F(FilesTest, AnExportWithoutNameLiesBesideTheProgram) {
+    At(1).SetValue(5);
+    game.FileExportCSV();
+    EXPECT_EQ(Read("Tessarin-20220429-064952.csv"), "Index;Value;Locked|1;5;0");
+    game.FileExportSDK();
+    At(1).SetValue(0);
+    game.FileImportSDK(folder + "Tessarin-20220429-064952.sdk");
+    EXPECT_EQ(Grid(), "1;5;1");
+}
+
+TEST_F(FilesTest, OnlyAWholeImportOfCSVResetsThePlayer) {
+    Trace({4});
+    game.FileExportSDK(folder + "rows");
+    TELLS(game.FileImportSDK(folder + "rows"), "");
+    TELLS(game.FileImportCSV(Write("bad", "Index;Value;Locked|1;9;1|x")),
+          "! \"x\" is not a whole number");
+    TELLS(game.FileImportCSV(Write("good", "Index;Value;Locked|2;9;1")), "-4");
+    EXPECT_EQ(Grid(), "2;9;1");
 }
 
 TEST_F(FilesTest, FilesKeepEveryByteAndAreReadWhole) {

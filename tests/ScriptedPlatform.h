@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Script.h"
+#include "User.h"
 #include "platform/NullPlatform.h"
 
 namespace tessarin {
@@ -12,11 +12,12 @@ public:
     ScriptedPlatform() { Platform::SetCurrent(this); }
     ~ScriptedPlatform() override { Platform::SetCurrent(nullptr); }
 
-    std::vector<int> Esc;             ///< the next answers to EscPressed; not pressed after them
-    std::vector<std::string> Answers; ///< to the next questions, "Yes" or "No"; a file for a dialog
+    std::vector<bool> EscPresses; ///< before the next cycles of a solve; none after them
+    bool SaysYes = false;         ///< to all questions without an answer in Answers
     std::string Folder = ".";
-    bool Hourglass = false; ///< the mouse pointer
-    bool Closed = false;    ///< the window is closed: no pumps, sleeps and questions
+    std::string ExpectedError; ///< of a handler of the window
+    bool Hourglass = false;    ///< the mouse pointer
+    bool Closed = false;       ///< the window is closed: no pumps, sleeps and questions
 
     void PumpEvents(Pump /*pump*/) override {
         if (!Closed) Pumped();
@@ -24,23 +25,29 @@ public:
     void Sleep(int milliseconds) override {
         if (Closed) return;
         Tell("Sleep(", milliseconds, ")");
-        Meanwhile();
+        Paused();
     }
-    bool EscPressed() override { return Next(Esc) == 1; }
+    bool EscPressed() override {
+        if (EscPresses.empty()) return false;
+        const bool pressed = EscPresses.front();
+        EscPresses.erase(EscPresses.begin());
+        return pressed;
+    }
     Message::Answer ShowMessage(const Message& box) override {
         const bool yesNo = box.ButtonSet == Message::Buttons::YesNo;
         if (Closed) return yesNo ? Message::Answer::No : Message::Answer::Ok;
         Tell("Box(", box.Title, "|", box.Prompt, box.QuestionIcon ? "|?" : "|-",
              yesNo ? " Yes No)" : " OK)");
-        Meanwhile();
+        Paused();
         Pumped();
         if (!yesNo) return Message::Answer::Ok;
-        EXPECT_FALSE(Answers.empty() && !Closed) << "no answer to: " << box.Prompt;
-        return Next(Answers) == "Yes" ? Message::Answer::Yes : Message::Answer::No;
+        EXPECT_TRUE(SaysYes || Closed || !Answers.empty()) << "no answer to: " << box.Prompt;
+        const bool yes = Answers.empty() ? SaysYes : TakeAnswer() == "Yes";
+        return yes ? Message::Answer::Yes : Message::Answer::No;
     }
     void Beep() override { Tell("Beep"); }
     void SetMousePointer(MousePointer p) override { Hourglass = p == MousePointer::Hourglass; }
-    void ReportError(const std::string& what) override { Tell("! ", what); }
+    void ReportError(const std::string& what) override { EXPECT_EQ(what, ExpectedError); }
     std::string ProgramFolder() override { return Folder; }
     VersionRecord Version() override { return {"Solves", "by X", "https://x", 1, 6, 48}; }
     DateTime Now() override { return {2022, 4, 29, 6, 49, 52}; }
@@ -56,13 +63,6 @@ public:
     }
 
 private:
-    template <class T>
-    static T Next(std::vector<T>& list) {
-        if (list.empty()) return {};
-        T next = std::move(list.front());
-        list.erase(list.begin());
-        return next;
-    }
     int mWindowStyle = 0x10;
 };
 

@@ -5,137 +5,256 @@ namespace tessarin {
 
 using InputTest = QtFixture;
 
-const Stories<QtFixture> stories("InputTest", R"(
-    EachLeftClickAnswersOnce:
-        record & rightclick lblField(40) >
-        press lblField(40) >
-        release lblField(41) > & press lblField(40) >
-        rightclick lblField(40) > & release lblField(40) > field 40
-        click lblField(40) > field 40 & doubleclick lblField(40) > field 40 field 40
-    AFieldGetsTheFocusOnceItIsCurrent:
-        focus btnSolve & press lblField(40)
-        focused > btnSolve & release lblField(40)
-        focused > lblField(40)
-    ArrowsMoveFromTheCurrentField:
-        index 41 & key Left
-        focused > lblField(40) & key Num+Down
-        cursor > 49 & key Home
-        cursor > 46 & key Up
-        key End & key Right
-        cursor > 45 & key Ctrl+Home
-        key Up & cursor > 1
-        key Ctrl+End & key Shift+Left
-        cursor > 81 & record
-        key Space > field 81 & key Enter > field 81
-    ACharacterClicksTheButtonWithThisCaption:
-        key 5 & key Num+7
-        key Ctrl+3 & is > |1;7;0
-        key F & key X
-        // Disabled for a locked field.
-        key C & is > |1;8;1
-        key X & key C
-        // A hidden key: 6 stands in the row.
-        set 2 6 & key 6
-        is > |2;6;0 & index 81
-        key Shift+> & cursor > 1
-        // The keyboard is in the menu bar or in a box.
-        key Alt & key 4
-        key Esc & focused > lblField(1)
-        during key 4
-        click lblDeadEnd & is > |2;6;0
-    AHeldKeyClicksOnceButArrowsGoOn:
-        record & focus btnInfo
-        down 1000 Space & down 1200 Space
-        down 1230 Space & up 1240 Space > info
-        focus lblField(1) & down 2000 Space > field 1
-        down 2200 Space > & up 2210 Space >
-        down 4000 Right > field 2 & down 4200 Right > field 2
-    AClickBesideTheGridLeavesTheKeyboardThere:
-        click btnNumPad(5) & click btnInfo
-        pace 200 & click lblDeadEnd
-        focused > lblField(1) & key Right
-        focus btnNumPad(6) & key Space
-        // The key is hidden now.
-        is > |1;5;0|2;6;0 & focused > lblField(2)
-    AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt:
-        full 1 11 21 & focus btnSolve
-        key Space & focused > btnSolve
-        full 1 11 21 & focus btnSolve
-        during click lblField(5)
-        // The grid has it, where the last move has led.
-        key Space & focused > lblField(21)
-        // A key that is hidden now does not get it later.
-        trace & full 1
-        focus btnNumPad(1) & key S
-        key C & focused > lblField(1)
-    AClickElsewhereLeavesTheMenuBar:
-        focus btnNumPad(5) & key Alt
-        click btnInfo & focused > btnNumPad(5)
-        // Now that key cannot have the keyboard any more.
-        key Alt & lock 1 1
-        key Alt & focused > lblField(1)
-        // Alt was not pressed alone.
-        down 9000 Alt & click lblField(5)
-        up 9100 Alt & focused > lblField(5)
-    CommandsHaveKeys:
-        key 5 & key Delete
-        is > & key 5
-        key Backspace & is >
-        key PgDown & trace 1
-        key Ctrl+O > Open & key Ctrl+S > Save
-        is > |1;1;0 & key PgUp > -1
-        key Ctrl+Q & open > 0
-    KeysOpenTheMenus:
-        set 1 5 & key Alt
-        key Down & key Return > Open
-        key Alt+E & key Up
-        key Right & key Return
-        fields 1 > 5:green/red
-    TabStopsOnceInTheGrid:
-        click btnInfo & click lblField(12)
-        key Tab & focused > btnNumPad(1)
-        key Shift+Tab & key Shift+Tab
-        focused > optChill(1) & key Tab
-        focused > lblField(12)
-    PanelsAreDisabledDuringASolveAndTheWindowStaysOpen:
-        full 1 11 21 31
-        during click btnInfo & click btnGoBack
-        during click lblDeadEnd & click btnNumPad(11)
-        during close & click mnuFileQuit
-        during counts > 3 0 & hourglass > 1
-        during click lblField(5) & cursor > 5
-        click btnSolve & counts > 0 0
-        hourglass > 0 & open > 1
-    ABoxInASolveHasTheUsualPointer:
-        full 1 11
-        during during hourglass > 0
-        during click mnuAbout & hourglass > 1
-        click btnSolve
-    AnEscThatClosesSomethingDoesNotAsk:
-        // It closes a submenu alone: the next keys go to its menu.
-        click mnuEditLockAll & key Esc
-        answer Esc & key Up
-        key Right & key Return
-        click mnuFileExportCSV & click mnuFile
-        key Esc & key Alt
-        key Esc & esc > 0
-    APressCountsOnceAndWhileItIsHeld:
-        down 1000 Esc & esc > 1
-        esc > 1 & up 1100 Esc
-        esc > 0 & down 1200 Esc
-        up 1210 Esc & esc > 1
-        // Its release goes to another program.
-        down 2000 Esc & away
-        esc > 1 & esc > 0
-        down 2500 Esc & esc > 1
-    // The first repeat after the focus has changed is not marked as a repeat.
-    RepeatsOfAHeldEscDoNotAnswerItsQuestion:
-        full 1 11 & down 1000 Esc
-        during down 1500 Esc & up 1600 Esc
-        during down 1600 Esc & down 1630 Esc
-        during up 1700 Esc & answer Yes
-        click btnSolve > +1 Box(ESC gedrückt|Abbrechen?)
-)");
+TEST_F(InputTest, EachLeftClickAnswersOnce) {
+    TellClicksOnFieldsAndInfo();
+    TELLS(Mouse(QTest::MouseClick, "lblField(40)", Qt::RightButton), "");
+    TELLS(Mouse(QTest::MousePress, "lblField(40)"), "");
+    TELLS(Mouse(QTest::MouseRelease, "lblField(41)"), ""); // beside it
+    TELLS(Mouse(QTest::MousePress, "lblField(40)"), "");
+    TELLS(Mouse(QTest::MouseClick, "lblField(40)", Qt::RightButton), "");
+    TELLS(Mouse(QTest::MouseRelease, "lblField(40)"), "field 40");
+    TELLS(Click("lblField(40)"), "field 40");
+    TELLS(Mouse(QTest::MouseDClick, "lblField(40)"), "field 40 field 40");
+}
+
+TEST_F(InputTest, AFieldGetsTheFocusOnceItIsCurrent) {
+    Focus("btnSolve");
+    Mouse(QTest::MousePress, "lblField(40)");
+    EXPECT_EQ(Focused(), "btnSolve");
+    Mouse(QTest::MouseRelease, "lblField(40)");
+    EXPECT_EQ(Focused(), "lblField(40)");
+}
+
+TEST_F(InputTest, ArrowsMoveFromTheCurrentField) {
+    grid.SetIndex(41);
+    Key("Left");
+    EXPECT_EQ(Focused(), "lblField(40)");
+    const std::pair<const char*, int> moves[] = {
+        {"Num+Down", 49}, {"Home", 46}, {"Up", 37},       {"End", 45},       {"Right", 45},
+        {"Ctrl+Home", 1}, {"Up", 1},    {"Ctrl+End", 81}, {"Shift+Left", 81}};
+    for (const auto& [key, field] : moves) {
+        Key(key);
+        EXPECT_EQ(grid.Index(), field) << key;
+    }
+    TellClicksOnFieldsAndInfo();
+    TELLS(Key("Space"), "field 81");
+    TELLS(Key("Enter"), "field 81");
+}
+
+TEST_F(InputTest, ACharacterClicksTheButtonWithThisCaption) {
+    Key("5");
+    Key("Num+7");
+    Key("Ctrl+3");
+    EXPECT_EQ(Grid(), "1;7;0");
+    Key("F");
+    Key("X");
+    Key("C"); // is disabled for a locked field
+    EXPECT_EQ(Grid(), "1;8;1");
+    Key("X");
+    Key("C");
+    At(2).SetValue(6);
+    Key("6"); // is hidden, because 6 stands in the row
+    EXPECT_EQ(Grid(), "2;6;0");
+    grid.SetIndex(81);
+    Key("Shift+>");
+    EXPECT_EQ(grid.Index(), 1);
+}
+
+TEST_F(InputTest, ACharacterInAMenuOrABoxClicksNoButton) {
+    Key("Alt");
+    Key("4");
+    Key("Esc");
+    EXPECT_EQ(Focused(), "lblField(1)");
+    Meanwhile([&] { Key("4"); });
+    Click("lblDeadEnd");
+    EXPECT_EQ(Grid(), "");
+}
+
+TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
+    TellClicksOnFieldsAndInfo();
+    Focus("btnInfo");
+    Down(1000, "Space");
+    Down(1200, "Space");
+    Down(1230, "Space");
+    TELLS(Up(1240, "Space"), "info");
+    Focus("lblField(1)");
+    TELLS(Down(2000, "Space"), "field 1");
+    TELLS(Down(2200, "Space"), "");
+    TELLS(Up(2210, "Space"), "");
+    TELLS(Down(4000, "Right"), "field 2");
+    TELLS(Down(4200, "Right"), "field 2");
+}
+
+TEST_F(InputTest, AClickBesideTheGridLeavesTheKeyboardThere) {
+    Click("btnNumPad(5)");
+    Click("btnInfo");
+    Pace("200");
+    Click("lblDeadEnd");
+    EXPECT_EQ(Focused(), "lblField(1)");
+}
+
+TEST_F(InputTest, AKeyThatDisappearsGivesTheFocusToTheGrid) {
+    Focus("btnNumPad(6)");
+    Key("Space");
+    EXPECT_EQ(Grid(), "1;6;0");
+    EXPECT_EQ(Focused(), "lblField(1)");
+}
+
+TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {
+    FullBut({1, 11, 21});
+    Focus("btnSolve");
+    Key("Space");
+    EXPECT_EQ(Focused(), "btnSolve");
+    FullBut({1, 11, 21});
+    Focus("btnSolve");
+    Meanwhile([&] { Click("lblField(5)"); });
+    Key("Space");
+    EXPECT_EQ(Focused(), "lblField(21)"); // in the grid, where the last move has led
+}
+
+TEST_F(InputTest, AKeyThatIsHiddenAfterASolveDoesNotGetTheFocusLater) {
+    FullBut({1});
+    Focus("btnNumPad(1)");
+    Key("S");
+    Key("C");
+    EXPECT_EQ(Focused(), "lblField(1)");
+}
+
+TEST_F(InputTest, AClickElsewhereLeavesTheMenuBar) {
+    Focus("btnNumPad(5)");
+    Key("Alt");
+    Click("btnInfo");
+    EXPECT_EQ(Focused(), "btnNumPad(5)");
+    Key("Alt");
+    At(1).SetLocked(true); // now that key cannot have the keyboard any more
+    Key("Alt");
+    EXPECT_EQ(Focused(), "lblField(1)");
+}
+
+TEST_F(InputTest, AltWithAClickIsNoTapOnAlt) {
+    Down(9000, "Alt");
+    Click("lblField(5)");
+    Up(9100, "Alt");
+    EXPECT_EQ(Focused(), "lblField(5)");
+}
+
+TEST_F(InputTest, CommandsHaveKeys) {
+    Key("5");
+    Key("Delete");
+    EXPECT_EQ(Grid(), "");
+    Key("5");
+    Key("Backspace");
+    EXPECT_EQ(Grid(), "");
+    Key("PgDown");
+    Trace({1});
+    TELLS(Key("Ctrl+O"), "Open");
+    TELLS(Key("Ctrl+S"), "Save");
+    EXPECT_EQ(Grid(), "1;1;0");
+    TELLS(Key("PgUp"), "-1");
+    Key("Ctrl+Q");
+    EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(InputTest, KeysOpenTheMenus) {
+    Load("1;5;0");
+    Key("Alt");
+    Key("Down");
+    TELLS(Key("Return"), "Open");
+    Key("Alt+E");
+    Key("Up");
+    Key("Right");
+    Key("Return");
+    EXPECT_EQ(Seen({1}), "5:green/red");
+}
+
+TEST_F(InputTest, TabStopsOnceInTheGrid) {
+    Click("btnInfo");
+    Click("lblField(12)");
+    Key("Tab");
+    EXPECT_EQ(Focused(), "btnNumPad(1)");
+    Key("Shift+Tab");
+    Key("Shift+Tab");
+    EXPECT_EQ(Focused(), "optChill(1)");
+    Key("Tab");
+    EXPECT_EQ(Focused(), "lblField(12)");
+}
+
+TEST_F(InputTest, PanelsAreDisabledDuringASolveAndTheWindowStaysOpen) {
+    FullBut({1, 11, 21, 31});
+    Meanwhile([&] {
+        for (const char* const disabled :
+             {"btnInfo", "btnGoBack", "lblDeadEnd", "btnNumPad(11)", "mnuFileQuit"})
+            TELLS(Click(disabled), "");
+        form->close();
+        EXPECT_EQ(grid.FreeCount(), 3);
+        EXPECT_TRUE(HasHourglass());
+        Click("lblField(5)");
+        EXPECT_EQ(grid.Index(), 5);
+    });
+    Click("btnSolve");
+    EXPECT_EQ(grid.FreeCount(), 0);
+    EXPECT_FALSE(HasHourglass());
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(InputTest, ABoxInASolveHasTheUsualPointer) {
+    FullBut({1, 11});
+    Meanwhile([&] {
+        Meanwhile([] { EXPECT_FALSE(HasHourglass()); });
+        Click("mnuAbout");
+        EXPECT_TRUE(HasHourglass());
+    });
+    Click("btnSolve");
+}
+
+TEST_F(InputTest, AnEscThatClosesSomethingDoesNotAsk) {
+    Click("mnuEditLockAll");
+    Key("Esc"); // closes the submenu alone: the next keys go to its menu
+    Key("Up");
+    Key("Right");
+    Key("Return", "Esc");
+    Click("mnuFileExportCSV", "Esc");
+    Click("mnuFile");
+    Key("Esc");
+    Key("Alt");
+    Key("Esc");
+    EXPECT_FALSE(platform.EscPressed());
+}
+
+TEST_F(InputTest, APressOfEscCountsOnceAndWhileItIsHeld) {
+    Down(1000, "Esc");
+    EXPECT_TRUE(platform.EscPressed());
+    EXPECT_TRUE(platform.EscPressed());
+    Up(1100, "Esc");
+    EXPECT_FALSE(platform.EscPressed());
+    Down(1200, "Esc");
+    Up(1210, "Esc");
+    EXPECT_TRUE(platform.EscPressed());
+    EXPECT_FALSE(platform.EscPressed());
+}
+
+TEST_F(InputTest, AnEscWhoseReleaseGoesToAnotherProgramIsOver) {
+    Down(2000, "Esc");
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    EXPECT_TRUE(platform.EscPressed());
+    EXPECT_FALSE(platform.EscPressed());
+    Down(2500, "Esc");
+    EXPECT_TRUE(platform.EscPressed());
+}
+
+// The first repeat after the focus has changed is not marked as a repeat.
+TEST_F(InputTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
+    FullBut({1, 11});
+    Down(1000, "Esc");
+    Meanwhile([&] { // in the question
+        Down(1500, "Esc");
+        Up(1600, "Esc");
+        Down(1600, "Esc");
+        Down(1630, "Esc");
+        Up(1700, "Esc");
+    });
+    TELLS(Click("btnSolve", "Yes"), "+1 Box(ESC gedrückt|Abbrechen?)");
+}
 
 TEST_F(InputTest, TheRotorTurnsInPauses) {
     platform.ReallySleeps = true;
@@ -145,10 +264,12 @@ TEST_F(InputTest, TheRotorTurnsInPauses) {
             if (!Widget("Image1(" + std::to_string(i) + ")").isHidden())
                 turns += std::exchange(shown, i) == i ? 0 : 1;
     };
+    FullBut({1, 11, 21});
+    Click("btnInfo");
+    Pace("100");
     QElapsedTimer time;
     time.start();
-    Do("full 1 11 21 & click btnInfo");
-    Do("pace 100 & click btnSolve");
+    Click("btnSolve");
     EXPECT_GE(turns, 7);
     EXPECT_GE(time.elapsed(), 600);
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Program.h"
-#include "WindowScript.h"
+#include "WindowUser.h"
 #include "qt/QtForm.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtToolkit.h"
@@ -33,37 +33,49 @@ public:
 
 using QtParts = WindowParts<SpyPlatform, qt::QtToolkit>;
 
-/// The window, shown and active. A step that the user does returns when its command has ended and
-/// its boxes are answered: by what is set for them, else a message with OK and a dialog with ESC.
-class QtFixture : public testing::Test, protected QtParts, public WindowScript {
+/// The window, shown and active. What the user does returns when its command has ended and its
+/// boxes are answered: those without an answer by their only button, dialogs by ESC. "Esc" and
+/// "Return" are answers, too.
+class QtFixture : public testing::Test, protected QtParts, public WindowUser {
 protected:
     QWidget* const form = &platform.CurrentForm();
 
     QtFixture();
-    void TearDown() override { EXPECT_EQ(mAnswers.join("|"), "") << "not asked"; }
+    void TearDown() override { platform.ExpectNothingLeft(); }
 
-    /// Clicks the middle of a control; to an entry of a menu through all menus on the way.
-    void Click(const std::string& control) override;
-    void Answer(const std::string& answer) override { mAnswers << QString::fromStdString(answer); }
+    /// Presses and releases a key, "Ctrl+Home", in the window that would get it.
+    void Key(const QString& keys, const std::string& answer = "");
+    /// The press or repeat of a key, and its release, at a time in milliseconds.
+    void Down(int time, const QString& key) { SendKey(QEvent::KeyPress, time, key); }
+    void Up(int time, const QString& key) { SendKey(QEvent::KeyRelease, time, key); }
+    /// Does something with the mouse near the corner of a control.
+    void Mouse(QTest::MouseAction action, const std::string& control,
+               Qt::MouseButton button = Qt::LeftButton);
+    void Focus(const std::string& control) { Widget(control).setFocus(); }
+    std::string Focused() { return form->focusWidget()->objectName().toStdString(); }
+    /// The user returns to the window, if it is not behind a box.
+    void Activate();
+    static bool HasHourglass();
+    /// From now on clicks on these are only told.
+    void TellClicksOnFieldsAndInfo();
 
     QWidget& Widget(const std::string& name);
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
 
 private:
-    void Activate();
+    // Clicks the middle of a control; an entry of a menu through all menus on the way.
+    void ClickControl(const std::string& control) override;
     // Sends a click to the top window, so that modal boxes, open menus and disabled panels keep it
     // from the controls as they do for a user.
     static void ClickAt(QWidget& widget, QPoint where);
-    // Presses and releases a key in the window that would get it.
-    void Key(const QString& keys);
-    QWidget& Top();
     void OpenMenuAndClick(const QString& entry);
+    QWidget& Top();
+    void SendKey(QEvent::Type type, int time, const QString& key);
     void LookForBox();
     void AnswerBox(QDialog& dialog);
 
     QTimer mEyes;
     QPointer<QDialog> mSeen;
-    QStringList mAnswers; // a button, "Esc" or the path of a file
 };
 
 } // namespace tessarin

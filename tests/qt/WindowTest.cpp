@@ -37,52 +37,65 @@ protected:
 
 class WindowTest : public QtFixture, public testing::WithParamInterface<const char*> {};
 
-const Stories<WindowTest> stories("WindowTest", R"(
-    AQuestionIsAnsweredByButtonsAndKeys:
-        set 1 5 & answer No
-        click mnuEditClearAll > Box(Velmora Sudoku Solver|Clear All?)
-        answer Esc & click mnuEditClearAll
-        is > |1;5;0 & answer Return
-        click mnuEditClearAll & is >
-    OnlyFilesThatExistAreOpened:
-        write good.csv Index;Value;Locked|1;5;1 & write plain Index;Value;Locked|2;5;1
-        choose missing.csv & click mnuFileImportCSV
-        choose plain & click mnuFileImportCSV
-        // The extension is added to a name without one.
-        is > |2;5;1 & choose good
-        click mnuFileImportCSV & is > |1;5;1
-    OnlyNewFilesInFoldersThatExistAreSaved:
-        set 1 5 & write old.csv mine
-        choose old.csv & click mnuFileExportCSV
-        read old.csv > mine & choose gone/new.csv
-        click mnuFileExportCSV & choose new
-        click mnuFileExportCSV & read new.csv > Index;Value;Locked|1;5;0
-        write plain mine & choose plain
-        click mnuFileExportCSV & read plain.csv > Index;Value;Locked|1;5;0
-    FileNamesOfAllKinds:
-        set 1 5 & choose Rätsel für "Größe"' 数独.csv
-        click mnuFileExportCSV & csv
-        choose Rätsel für "Größe"' 数独.csv & click mnuFileImportCSV
-        is > |1;5;0
-)");
+TEST_F(WindowTest, AQuestionIsAnsweredByButtonsAndKeys) {
+    At(1).SetValue(5);
+    TELLS(Click("mnuEditClearAll", "No"), "Box(Velmora Sudoku Solver|Clear All?)");
+    Click("mnuEditClearAll", "Esc");
+    EXPECT_EQ(Grid(), "1;5;0");
+    Click("mnuEditClearAll", "Return");
+    EXPECT_EQ(Grid(), "");
+}
+
+TEST_F(WindowTest, OnlyFilesThatExistAreOpened) {
+    Write("good.csv", "Index;Value;Locked|1;5;1");
+    Write("plain", "Index;Value;Locked|2;5;1");
+    Click("mnuFileImportCSV", folder + "missing.csv");
+    EXPECT_EQ(window.lblFile.Caption(), "");
+    Click("mnuFileImportCSV", folder + "plain");
+    EXPECT_EQ(Grid(), "2;5;1");
+    // The extension is added to a name without one.
+    Click("mnuFileImportCSV", folder + "good");
+    EXPECT_EQ(Grid(), "1;5;1");
+}
+
+TEST_F(WindowTest, OnlyNewFilesInFoldersThatExistAreSaved) {
+    At(1).SetValue(5);
+    for (const char* const name : {"old.csv", "plain"})
+        Write(name, "mine");
+    for (const char* const name : {"old.csv", "no folder/new.csv", "new", "plain"})
+        Click("mnuFileExportCSV", folder + name);
+    EXPECT_EQ(Read("old.csv"), "mine");
+    EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|1;5;0");
+    EXPECT_EQ(Read("plain"), "mine");
+    EXPECT_EQ(Read("plain.csv"), "Index;Value;Locked|1;5;0");
+}
+
+TEST_F(WindowTest, FileNamesOfAllKinds) {
+    At(1).SetValue(5);
+    const std::string path = folder + "Rätsel für \"Größe\"' 数独.csv";
+    Click("mnuFileExportCSV", path);
+    Load("");
+    Click("mnuFileImportCSV", path);
+    EXPECT_EQ(Grid(), "1;5;0");
+}
 
 TEST_F(WindowTest, ABoxLiesBesideTheGridIfTheScreenHasRoom) {
     form->move(0, 0);
-    platform.Meanwhile = [this] {
+    Meanwhile([&] {
         const QRect fields = Widget("lblField(1)").geometry() | Widget("lblField(81)").geometry();
         const QPoint client = form->mapToGlobal(MenuBar().geometry().bottomLeft());
         const QRect box = QApplication::activeModalWidget()->frameGeometry();
         EXPECT_FALSE(box.intersects(fields.translated(client)));
-    };
+    });
     Click("mnuViewNeighbours");
 }
 
 TEST_F(WindowTest, ADialogOpensInTheFolderOfTheFileBeforeAndLeavesNoSettings) {
-    Do("import 1;5;1");
-    platform.Meanwhile = [this] {
+    Import("1;5;1");
+    Meanwhile([&] {
         const auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
         EXPECT_EQ(dialog.directory().path().toStdString() + "/", folder);
-    };
+    });
     Click("mnuFileExportCSV");
     EXPECT_TRUE(QDir(qEnvironmentVariable("XDG_CONFIG_HOME")).isEmpty());
 }
@@ -91,20 +104,22 @@ TEST_F(WindowTest, TheWindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
     const QSize narrow = form->frameSize();
     EXPECT_NEAR(narrow.width(), 8850 / 15, 2); // a thin frame leaves an empty strip
     EXPECT_EQ(narrow.height(), 7170 / 15);
-    Do("click btnInfo");
+    Click("btnInfo");
     EXPECT_EQ(form->frameSize(), narrow + QSize(2775 / 15, 0));
     EXPECT_EQ(form->minimumSize(), form->maximumSize());
     EXPECT_EQ(Widget("lblField(81)").geometry(), QRect(360, 368, 40, 40));
 }
 
 TEST_F(WindowTest, AReturnFromAnotherWindowRepaintsButNotOneFromAnOwnBox) {
-    Do("during csv Index;Value;Locked|81;3;0");
-    Do("click lblDeadEnd & fields 81 > .");
+    Meanwhile([&] { Load("81;3;0"); });
+    Click("lblDeadEnd");
+    EXPECT_EQ(Seen({81}), ".");
     QWidget other;
     other.show();
     other.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
-    Do("activate & fields 81 > 3");
+    Activate();
+    EXPECT_EQ(Seen({81}), "3");
 }
 
 TEST_F(WindowTest, ScreenReadersHearTheNewNameAndPressFields) {
@@ -112,16 +127,18 @@ TEST_F(WindowTest, ScreenReadersHearTheNewNameAndPressFields) {
     QObject::connect(qApp, &QApplication::focusChanged, &field, [&] {
         EXPECT_EQ(field.accessibleName().toStdString(), "row 1, column 2: empty, current");
     });
-    Do("key Right & focused > lblField(2)");
+    Key("Right");
+    EXPECT_EQ(Focused(), "lblField(2)");
     auto* const spoken = QAccessible::queryAccessibleInterface(&field);
     ASSERT_NE(spoken->actionInterface(), nullptr);
-    Do("click lblField(40)");
+    Click("lblField(40)");
     spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    Do("cursor > 2");
+    EXPECT_EQ(grid.Index(), 2);
 }
 
 TEST_F(WindowTest, DigitsAndTheFocusCanBeReadOnEveryBackgroundAndTheme) {
-    Do("index 12 & set 12 8");
+    grid.SetIndex(12);
+    At(12).SetValue(8);
     for (const QColor theme : {QColor(239, 239, 239), QColor(49, 54, 59)}) {
         QApplication::setPalette(theme);
         const QColor base = QApplication::palette().color(QPalette::Base);
@@ -132,11 +149,11 @@ TEST_F(WindowTest, DigitsAndTheFocusCanBeReadOnEveryBackgroundAndTheme) {
               {Green, QColor(Qt::green), QColor(Qt::black)},
               {Yellow, QColor(Qt::yellow), QColor(Qt::black)}}) {
             window.lblField(12).SetBackColor(color);
-            Widget("btnInfo").setFocus();
+            Focus("btnInfo");
             const QImage image = Widget("lblField(12)").grab().toImage().copy(1, 1, 38, 38);
             EXPECT_EQ(image.pixelColor(2, 2), ground);
             EXPECT_TRUE(Has(image, digit)) << color;
-            Widget("lblField(12)").setFocus();
+            Focus("lblField(12)");
             const QImage frame = Widget("lblField(12)").grab().toImage().copy(1, 1, 4, 38);
             EXPECT_TRUE(Has(frame, Qt::white) && Has(frame, Qt::black)) << color;
         }
@@ -201,15 +218,16 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     const auto close = [&] {
         if (form->close() && !sinceClose.isValid()) sinceClose.start();
     };
-    platform.Meanwhile = close;
+    if (GetParam() != std::string("mnuViewGroups")) Meanwhile(close);
     platform.EachPump = [&] {
-        if (window.lblField(1).BackColor() == 0xFFFF) close();
+        if (window.lblField(1).BackColor() == Yellow) close();
     };
-    Do("csv Index;Value;Locked|1;5;0");
+    Load("1;5;0");
     QTimer::singleShot(1, form, [this] { Click(GetParam()); });
     QApplication::exec();
     EXPECT_LT(sinceClose.elapsed(), 900);
-    Do("is > |1;5;0 & open > 0"); // the question was not answered
+    EXPECT_EQ(Grid(), "1;5;0"); // the question was not answered
+    EXPECT_FALSE(form->isVisible());
 }
 
 } // namespace tessarin

@@ -1,0 +1,128 @@
+#include "User.h"
+
+#include "support/modStringLibrary.h"
+#include "support/modTextStream.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <random>
+#include <stdexcept>
+
+namespace tessarin {
+
+static std::string WithBars(const std::string& text) {
+    return ReplaceAll(text, "\r\n", "|");
+}
+static std::string WithLineBreaks(const std::string& text) {
+    return ReplaceAll(text, "|", "\r\n");
+}
+
+void Recorder::TellText(const std::string& text) {
+    const auto tellMissing = [this](const auto& from, const auto& in, char sign) {
+        for (const int index : from)
+            if (std::ranges::find(in, index) == in.end())
+                mRecord += sign + std::to_string(index) + " ";
+    };
+    const KeyedNumbers history = Player->History.value_or(KeyedNumbers());
+    const auto before = std::exchange(mHistory, {history.begin(), history.end()});
+    tellMissing(before, mHistory, '-');
+    tellMissing(mHistory, before, '+');
+    const int pumps = mPumps - std::exchange(mPumpsTold, mPumps);
+    if (TellsPumps && pumps > 0) mRecord += "(" + std::to_string(pumps) + ") ";
+    if (!text.empty()) mRecord += text + " ";
+}
+
+void Recorder::Pumped() {
+    if (++mPumps == mPumpOfAction && mAtPump) std::exchange(mAtPump, nullptr)();
+}
+
+void Recorder::Paused() {
+    if (mMeanwhile) std::exchange(mMeanwhile, nullptr)();
+}
+
+std::string Recorder::TakeAnswer() {
+    if (Answers.empty()) return "";
+    const std::string answer = Answers.front();
+    Answers.erase(Answers.begin());
+    return answer;
+}
+
+void Recorder::ExpectNothingLeft() {
+    EXPECT_FALSE(mAtPump) << "there was no such pump";
+    EXPECT_FALSE(mMeanwhile) << "there was no box, pause or change";
+    EXPECT_EQ(testing::PrintToString(Answers), "{}") << "nobody asked";
+}
+
+User::User(Recorder& recorder, Game& played)
+    : game(played),
+      grid(*game.Fields),
+      play(*game.Play),
+      folder(testing::TempDir() + "tessarin-" + std::to_string(std::random_device{}()) + "/"),
+      mRecorder(recorder) {
+    std::filesystem::create_directory(folder);
+    recorder.Player = &play;
+    mChanges = game.Events.StatusChanged.Connect([this](int) { mRecorder.Paused(); });
+}
+
+User::~User() {
+    std::filesystem::remove_all(folder);
+}
+
+std::string User::Told(const std::function<void()>& step) {
+    Tell("");
+    const std::string outer = mRecorder.TakeRecord();
+    try {
+        step();
+    } catch (const std::exception& error) {
+        Tell("! ", error.what());
+    }
+    Tell(""); // what has changed without being told
+    const std::string told = mRecorder.TakeRecord();
+    mRecorder.PutBack(outer);
+    return ReplaceAll(WithBars(told.substr(0, told.find_last_of(' '))), folder, "");
+}
+
+void User::Load(const std::string& lines) {
+    grid.SetTextCSV(WithLineBreaks("Index;Value;Locked|" + lines));
+}
+
+std::string User::Grid() {
+    const std::string text = WithBars(grid.TextCSV());
+    return text.substr(std::min(text.find('|'), text.size() - 1) + 1);
+}
+
+void User::Fill(std::string values) {
+    std::erase(values, ' ');
+    std::string lines;
+    for (std::size_t i = 0; i < values.size(); ++i)
+        if (values[i] != '.') lines += std::to_string(i + 1) + ";" + values[i] + ";0|";
+    Load(lines);
+    grid.Status();
+    Refresh();
+}
+
+void User::FullBut(const std::vector<int>& empty) {
+    Fill("123456789 456789123 789123456 234567891 567891234 891234567 345678912 678912345 "
+         "912345678");
+    for (const int index : empty)
+        At(index).SetValue(0);
+    grid.SetIndex(empty.front());
+}
+
+void User::Trace(const std::vector<int>& history) {
+    play.Reset();
+    play.SetTracing(true);
+    for (const int index : history)
+        play.History->Add(index);
+}
+
+std::string User::Write(const std::string& name, const std::string& lines) {
+    EXPECT_EQ(WriteTextFile(folder + name, WithLineBreaks(lines), "", true), "");
+    return folder + name;
+}
+
+std::string User::Read(const std::string& name) {
+    return WithBars(ReadTextFile(folder + name));
+}
+
+} // namespace tessarin

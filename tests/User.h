@@ -1,0 +1,124 @@
+// What all tests use: a record of what happens, commands inside other commands, and a user's hands
+// on the grid.
+//
+// TELLS(step, "7=5 to 4") does a step and expects that this is told of it, in this order:
+//     7=5         field 7 has got the value 5 (or a lock has changed: the current field's value)
+//     from 3      the cursor is about to leave field 3
+//     to 4        the cursor is on field 4 (0: nowhere)
+//     winner 81   an event of the game with its index; also: dead 12
+//     +3          field 3 has joined the history; -3: it has left it
+//     Beep        a call of the machine; also: Sleep(100), Box(title|text|icon buttons)
+//     (83)        so many pumps of window events, if TellsPumps is set
+//     ! text      the step has ended with this error
+// Line breaks are told as "|", paths of files without the test's folder.
+#pragma once
+
+#include "model/Fields.h"
+#include "play/Game.h"
+#include "play/Play.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+// A macro, so that a failure has the line of the step and shows it.
+#define TELLS(step, told) EXPECT_EQ(Told([&] { step; }), told)
+
+namespace tessarin {
+
+/// The part of a test's platform that records what happens, and acts inside pumps and pauses.
+class Recorder {
+public:
+    /// Runs `action` inside the n-th pump from now, once.
+    void AtPump(int n, std::function<void()> action) {
+        mPumpOfAction = mPumps + n;
+        mAtPump = std::move(action);
+    }
+    /// Runs `action` in the next box, pause or change of a field, once.
+    void Meanwhile(std::function<void()> action) { mMeanwhile = std::move(action); }
+    /// Fails if something was prepared that has not been asked for.
+    void ExpectNothingLeft();
+
+    std::vector<std::string> Answers; ///< to the next boxes: a button; to the next dialogs: a path
+    bool TellsPumps = false;
+    const Play* Player = nullptr; ///< whose history is told
+
+    /// Records a changed history, the pumps since the last call, and the text of all parts.
+    void Tell(const auto&... parts) {
+        std::ostringstream text;
+        (text << ... << parts);
+        TellText(text.str());
+    }
+    /// What has been told since the last call.
+    std::string TakeRecord() { return std::exchange(mRecord, ""); }
+    void PutBack(const std::string& record) { mRecord = record; }
+
+    /// To be called in each pump; while a box is open and during a sleep.
+    void Pumped();
+    void Paused();
+    /// The next answer, "" if there is none.
+    std::string TakeAnswer();
+
+private:
+    void TellText(const std::string& text);
+
+    std::string mRecord;       // each item with a blank behind it
+    std::vector<int> mHistory; // as told last
+    int mPumps = 0;
+    int mPumpsTold = 0;
+    int mPumpOfAction = 0;
+    std::function<void()> mAtPump;
+    std::function<void()> mMeanwhile;
+};
+
+/// Works the grid and the player.
+class User {
+public:
+    Game& game;
+    Fields& grid;
+    Play& play;
+    /// A temporary folder of its own, with "/" at the end.
+    const std::string folder;
+
+    User(Recorder& recorder, Game& played);
+    virtual ~User();
+
+    /// Does a step and returns what is told of it.
+    std::string Told(const std::function<void()>& step);
+    void Tell(const auto&... parts) { mRecorder.Tell(parts...); }
+    void AtPump(int n, std::function<void()> action) { mRecorder.AtPump(n, std::move(action)); }
+    void Meanwhile(std::function<void()> action) { mRecorder.Meanwhile(std::move(action)); }
+
+    Field& At(int index) { return *grid.Items.Item(index); }
+    /// Loads lines of CSV, separated by "|", without their first line.
+    void Load(const std::string& lines);
+    /// The lines of all fields with a value, in the same form.
+    std::string Grid();
+    /// Loads a value for each field. Nine groups of nine make a whole grid; "." and all that is
+    /// left out is empty. The cursor is nowhere then.
+    void Fill(std::string values);
+    /// Loads a full grid but for these fields, and puts the cursor on the first of them.
+    void FullBut(const std::vector<int>& empty);
+    /// Begins to trace, with this history.
+    void Trace(const std::vector<int>& history);
+
+    /// Writes a file, whose lines are separated by "|". Returns its path.
+    std::string Write(const std::string& name, const std::string& lines);
+    /// The text of a file with its lines separated by "|"; "" if there is no such file.
+    std::string Read(const std::string& name);
+
+protected:
+    /// Shows a grid that no event has told of.
+    virtual void Refresh() {}
+
+    Recorder& mRecorder;
+
+private:
+    Connection mChanges;
+};
+
+} // namespace tessarin

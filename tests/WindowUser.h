@@ -1,0 +1,51 @@
+#pragma once
+
+#include "User.h"
+#include "ui/frmTessarin.h"
+
+namespace tessarin {
+
+/// What has to exist before the user.
+template <class PlatformType, class ToolkitType>
+struct WindowParts {
+    PlatformType platform;
+    ToolkitType toolkit{platform};
+    frmTessarin OwnWindow{toolkit};
+};
+
+/// Works the window, on any toolkit.
+class WindowUser : public User {
+public:
+    frmTessarin& window;
+
+    WindowUser(Recorder& recorder, frmTessarin& worked);
+
+    /// Clicks a control: "btnSolve", "lblField(40)". The box or dialog that opens is closed by
+    /// `answer`: a button, or the path of a file.
+    void Click(const std::string& control, const std::string& answer = "");
+    /// Chooses a pace by its caption.
+    void Pace(const std::string& caption);
+    /// Opens a file with these lines of CSV: see Load. Returns its path.
+    std::string Import(const std::string& lines);
+
+    /// How these fields look: caption:background/text:font, each part only if it is not that of a
+    /// value on the normal background: "7:green 8/red 2:yellow/red:Arial 12", "." for an empty one.
+    std::string Seen(const std::vector<int>& indices);
+    /// The fields that are yellow.
+    std::vector<int> Marked();
+    /// The dead-end and the winner light: "red normal".
+    std::string Lights();
+    /// The visible keys, the enabled keys and the background.
+    std::string Pad();
+    /// What is wrong while no command runs: something is stuck, or grid and window do not agree.
+    std::string Faults();
+
+protected:
+    virtual void ClickControl(const std::string& control) = 0;
+    void Refresh() override { window.RefreshAll(); }
+
+private:
+    std::vector<std::string> SeenAndHeard();
+};
+
+} // namespace tessarin
