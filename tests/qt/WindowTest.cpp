@@ -163,8 +163,8 @@ TEST_F(WindowTest, DigitsAndTheFocusCanBeReadOnEveryBackgroundAndTheme) {
 }
 
 TEST_F(WindowTest, EachMoveOfASolveIsSeenBeforeTheNext) {
-    Do("full 1 11 21 31 41 51");
-    Do("pace 0");
+    FullBut({1, 11, 21, 31, 41, 51});
+    Pace("0");
     std::unique_ptr<Eye> eye;
     const auto look = [&](int field) {
         if (eye) {
@@ -174,7 +174,7 @@ TEST_F(WindowTest, EachMoveOfASolveIsSeenBeforeTheNext) {
     };
     const auto moves = game.Events.IndexChanged.Connect(look);
     const auto values = game.Events.StatusChanged.Connect(look);
-    Do("click btnSolve > +1 +11 +21 +31 +41 +51");
+    TELLS(Click("btnSolve"), "+1 +11 +21 +31 +41 +51");
     EXPECT_GT(eye->Paintings, 0);
 }
 
