@@ -198,9 +198,9 @@ TEST_F(WindowTest, APathThatTheWindowDoesNotShowWholeIsShortenedAndHasATip) {
     while (label.fontMetrics().horizontalAdvance(path) <= seen)
         path += "a/";
     window.lblFile.SetCaption(path.toStdString());
-    Do("click btnInfo");
+    Click("btnInfo");
     EXPECT_EQ(tip(), "") << "the side column is shown, so there is room for the path";
-    Do("click btnInfo");
+    Click("btnInfo");
     EXPECT_EQ(tip(), "<p>" + path.toStdString() + "</p>");
     const QImage shown = label.grab().toImage();
     path = label.fontMetrics().elidedText(path, Qt::ElideMiddle, seen);
