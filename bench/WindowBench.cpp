@@ -104,7 +104,7 @@ void SolveAtPaceZero(benchmark::State& state) {
         state.PauseTiming();
         window.Load("hard-1");
         changes = 0;
-        Audience audience(window.Platform.CurrentForm());
+        Audience audience(window.Platform.Window());
         state.ResumeTiming();
         const auto start = std::chrono::steady_clock::now();
         window.Solve();

@@ -18,16 +18,23 @@ public:
     std::vector<std::string> Commands() const {
         std::vector<std::string> names{"lblField(50)", "btnNumPad(5)"};
         const std::regex alike("lblField.*|btnNumPad.[0-9].");
-        for (const auto& [name, control] : mControls)
-            if (control->Click && !std::regex_match(name, alike)) names.push_back(name);
+        for (const auto& [name, click] : mClicks)
+            if (*click && !std::regex_match(name, alike)) names.push_back(name);
         return names;
     }
 
-    std::unique_ptr<FormPeer> Create(Form& form) override { return Add(form); }
-    std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
-    std::unique_ptr<ControlPeer> Create(Control& control, Kind /*kind*/) override {
-        return Add(control);
+    std::unique_ptr<FormPeer> Create(Form& form) override {
+        return std::make_unique<QuietForm>(mPlatform, form);
     }
+    std::unique_ptr<ControlPeer> Create(CommandButton& button) override { return Add(button); }
+    std::unique_ptr<ControlPeer> Create(Frame& frame) override { return Add(frame); }
+    std::unique_ptr<LabelPeer> Create(Label& label) override { return Add<QuietLabel>(label); }
+    std::unique_ptr<ControlPeer> Create(MenuItem& item) override { return Add(item); }
+    std::unique_ptr<OptionPeer> Create(OptionButton& option) override {
+        return Add<QuietOption>(option);
+    }
+    std::unique_ptr<ControlPeer> Create(Picture& picture) override { return Add(picture); }
+    std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
     std::optional<std::string> RunFileDialog(const CommonDialog& /*dialog*/, bool saving) override {
         mPlatform.Tell(saving ? "Save" : "Open");
         const std::string path = mPlatform.TakeAnswer();
@@ -35,22 +42,34 @@ public:
     }
 
 private:
-    struct Peer : FormPeer {
-        Peer(FakeToolkit& kit, Control& control) : Kit(kit), Own(control) {}
+    template <class Peer>
+    struct Quiet : Peer {
         void Changed(Property /*property*/) override {}
-        void Close() override { Kit.mPlatform.Closed = dynamic_cast<Form&>(Own).RaiseUnload(); }
+    };
+    struct QuietLabel : Quiet<LabelPeer> {
+        void MakeCurrent() override {}
+    };
+    struct QuietOption : Quiet<OptionPeer> {
+        void Select() override {}
+    };
+    struct QuietForm : Quiet<FormPeer> {
+        QuietForm(ScriptedPlatform& platform, Form& form) : mPlatform(platform), mForm(form) {}
+        void Close() override { mPlatform.Closed = mForm.RaiseUnload(); }
         int Handle() override { return 5; }
-        FakeToolkit& Kit;
-        Control& Own;
+        ScriptedPlatform& mPlatform;
+        Form& mForm;
     };
 
-    std::unique_ptr<Peer> Add(Control& control) {
+    template <class Peer = Quiet<ControlPeer>, class KindOfControl>
+    std::unique_ptr<Peer> Add(KindOfControl& control) {
         mControls[control.Name()] = &control;
-        return std::make_unique<Peer>(*this, control);
+        if constexpr (requires { control.Click; }) mClicks[control.Name()] = &control.Click;
+        return std::make_unique<Peer>();
     }
 
     ScriptedPlatform& mPlatform;
     std::map<std::string, Control*> mControls;
+    std::map<std::string, const std::function<void()>*> mClicks;
 };
 
 /// The window, active, on the toolkit that shows nothing.

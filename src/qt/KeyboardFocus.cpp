@@ -1,6 +1,6 @@
 #include "qt/KeyboardFocus.h"
 
-#include "qt/QtLabel.h"
+#include "toolkit/Controls.h"
 
 #include <QHash>
 #include <QKeyEvent>
@@ -9,45 +9,53 @@
 
 namespace tessarin::qt {
 
+void KeyboardFocus::AddToGrid(Label& label, QWidget& widget) {
+    mGrid.emplace(*label.Cell, GridLabel{label, widget});
+}
+
 QRect KeyboardFocus::GridBounds() const {
     QRect bounds;
-    for (const QtLabel* const label : mGrid)
-        if (!label->isHidden()) bounds |= label->geometry();
+    for (const auto& [cell, label] : mGrid)
+        bounds |= label.Widget.geometry();
     return bounds;
 }
 
-void KeyboardFocus::MakeCurrent(QtLabel& label) {
-    QtLabel* const before = std::exchange(mCurrent, &label);
-    if (before != nullptr) before->setFocusPolicy(Qt::NoFocus);
-    label.setFocusPolicy(Qt::TabFocus);
-    // The first current label gets the focus, so that the window opens with it in the grid.
-    if (before == nullptr || mWindow.focusWidget() == before) label.setFocus();
+QWidget* KeyboardFocus::Current() const {
+    return mCurrent == nullptr ? nullptr : &mCurrent->Widget;
 }
 
-// The step of an arrow is as long as a label, which leads across the gap between two boxes, too.
-QtLabel* KeyboardFocus::Target(const QKeyEvent& key) const {
-    const QRect grid = GridBounds();
-    const QRect here = mCurrent->geometry();
-    const int x = here.center().x();
-    const int y = here.center().y();
-    const QHash<QKeyCombination, QPoint> places{
-        {Qt::Key_Left, {x - here.width(), y}},     {Qt::Key_Right, {x + here.width(), y}},
-        {Qt::Key_Up, {x, y - here.height()}},      {Qt::Key_Down, {x, y + here.height()}},
-        {Qt::Key_Home, {grid.left(), y}},          {Qt::Key_End, {grid.right(), y}},
-        {Qt::CTRL | Qt::Key_Home, grid.topLeft()}, {Qt::CTRL | Qt::Key_End, grid.bottomRight()},
+void KeyboardFocus::MakeCurrent(const Label& label) {
+    QWidget* const before = Current();
+    mCurrent = &mGrid.at(*label.Cell);
+    if (before != nullptr) before->setFocusPolicy(Qt::NoFocus);
+    Current()->setFocusPolicy(Qt::TabFocus);
+    // The first current label gets the focus, so that the window opens with it in the grid.
+    if (before == nullptr || mWindow.focusWidget() == before) Current()->setFocus();
+}
+
+Label* KeyboardFocus::Target(const QKeyEvent& key) const {
+    if (mCurrent == nullptr) return nullptr;
+    const auto [row, column] = *mCurrent->Control.Cell;
+    const GridCell first = mGrid.begin()->first;
+    const GridCell last = mGrid.rbegin()->first;
+    const QHash<QKeyCombination, GridCell> cells{
+        {Qt::Key_Left, {row, column - 1}},   {Qt::Key_Right, {row, column + 1}},
+        {Qt::Key_Up, {row - 1, column}},     {Qt::Key_Down, {row + 1, column}},
+        {Qt::Key_Home, {row, first.Column}}, {Qt::Key_End, {row, last.Column}},
+        {Qt::CTRL | Qt::Key_Home, first},    {Qt::CTRL | Qt::Key_End, last},
     };
     const QKeyCombination keys(key.modifiers() & ~Qt::KeypadModifier, Qt::Key(key.key()));
-    constexpr QPoint outside(-1, -1);
-    QWidget* const found = mCurrent->parentWidget()->childAt(places.value(keys, outside));
-    auto* const label = dynamic_cast<QtLabel*>(found);
-    return mGrid.contains(label) ? label : nullptr;
+    const auto cell = cells.find(keys);
+    if (cell == cells.end()) return nullptr;
+    const auto label = mGrid.find(*cell);
+    return label == mGrid.end() ? nullptr : &label->second.Control;
 }
 
 void KeyboardFocus::ToGrid() {
-    mLender.clear();
+    mWaiting.clear();
     if (mCurrent == nullptr) return;
-    mCurrent->setFocus();
-    mCurrent->update(); // its frame was not shown while the focus was lent
+    Current()->setFocus();
+    Current()->update(); // its frame was not shown while a control waited
 }
 
 void KeyboardFocus::SetVisible(QWidget& widget, bool visible) {
@@ -57,17 +65,21 @@ void KeyboardFocus::SetVisible(QWidget& widget, bool visible) {
 
 void KeyboardFocus::SetEnabled(QWidget& widget, bool enabled) {
     if (!enabled && IsIn(widget)) {
-        QWidget* const lender = mWindow.focusWidget();
+        QWidget* const loser = mWindow.focusWidget();
         ToGrid();
-        if (lender != &widget) mLender = lender;
+        if (loser != &widget) mWaiting = loser;
     }
     widget.setEnabled(enabled);
-    // Back to the lender, once its panel is enabled.
-    if (!mLender || !mLender->parentWidget()->isEnabled()) return;
-    if (mWindow.focusWidget() != mCurrent) return mLender.clear();
-    QWidget* const lender = mLender;
+    if (enabled && mWaiting && mWaiting->parentWidget()->isEnabled()) GiveBack();
+}
+
+void KeyboardFocus::GiveBack() {
+    QWidget* const waiting = mWaiting;
+    mWaiting.clear();
+    const bool userHasMovedIt = mWindow.focusWidget() != Current();
+    if (userHasMovedIt) return;
     ToGrid();
-    if (lender->isEnabled() && lender->isVisible()) lender->setFocus();
+    if (waiting->isEnabled() && waiting->isVisible()) waiting->setFocus();
 }
 
 bool KeyboardFocus::IsIn(const QWidget& widget) const {

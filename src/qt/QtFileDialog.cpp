@@ -69,25 +69,36 @@ protected:
         const bool isQuoted = nameEdit != nullptr && nameEdit->text().contains('"');
         QString path =
             isQuoted ? directory().absoluteFilePath(nameEdit->text()) : selectedFiles().value(0);
-        if (path.isEmpty() || QFileInfo(path).isDir())
-            return isQuoted ? setDirectory(path) : QFileDialog::accept();
+        if (path.isEmpty() || QFileInfo(path).isDir()) {
+            if (isQuoted)
+                setDirectory(path);
+            else
+                QFileDialog::accept();
+            return;
+        }
         const bool isComplete = acceptMode() == QFileDialog::AcceptOpen && QFileInfo::exists(path);
         if (!isComplete && !QFileInfo(path).fileName().contains('.'))
             path += ToQt(mRequest.DefaultExt);
-        const QFileInfo file(path);
-        if (mRequest.FileMustExist && !file.isFile())
-            return Warn(file.fileName() + "\nFile not found.\n"
-                                          "Please verify the correct file name was given.");
-        if (mRequest.PathMustExist && !file.dir().exists())
-            return Warn(file.path() + "\nThis folder does not exist.");
-        if (QFile::encodeName(file.fileName()).size() > NAME_MAX)
-            return Warn("This file name is too long.");
+        if (const QString reason = ReasonAgainst(QFileInfo(path)); !reason.isEmpty()) {
+            QMessageBox::warning(this, windowTitle(), reason);
+            return;
+        }
         msChosen = path;
         done(Accepted);
     }
 
 private:
-    void Warn(const QString& text) { QMessageBox::warning(this, windowTitle(), text); }
+    // Why the file cannot be chosen; empty if it can.
+    QString ReasonAgainst(const QFileInfo& file) const {
+        if (mRequest.FileMustExist && !file.isFile())
+            return file.fileName() +
+                   "\nFile not found.\nPlease verify the correct file name was given.";
+        if (mRequest.PathMustExist && !file.dir().exists())
+            return file.path() + "\nThis folder does not exist.";
+        if (QFile::encodeName(file.fileName()).size() > NAME_MAX)
+            return "This file name is too long.";
+        return {};
+    }
 
     const CommonDialog mRequest; // a copy, as a command that runs meanwhile may change the original
     QString msChosen;
@@ -97,7 +108,7 @@ private:
 
 std::optional<std::string> QtToolkit::RunFileDialog(const CommonDialog& dialog, bool saving) {
     if (mPlatform.Closed()) return std::nullopt;
-    QtFileDialog window(dialog, saving, &mPlatform.CurrentForm());
+    QtFileDialog window(dialog, saving, mForm);
     if (mPlatform.RunModal(window) != QDialog::Accepted) return std::nullopt;
     return QDir::toNativeSeparators(window.Chosen()).toStdString();
 }

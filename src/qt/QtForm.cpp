@@ -1,15 +1,13 @@
 #include "qt/QtForm.h"
 
+#include "qt/QtButton.h"
 #include "qt/QtLook.h"
-#include "qt/QtPeer.h"
-#include "qt/QtPlatform.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QIcon>
 #include <QKeyEvent>
-#include <QPushButton>
 #include <QTimer>
 
 #include <algorithm>
@@ -18,21 +16,19 @@
 
 namespace tessarin::qt {
 
-QtForm::QtForm(Form& form, QtPlatform& platform)
+QtForm::QtForm(Form& form, std::function<void()> closed)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       mForm(form),
-      mPlatform(platform) {
+      mTellClosed(std::move(closed)) {
     setObjectName(ToQt(form.Name()));
-    setWindowTitle(ToQt(form.Caption()));
-    setFont(ToQt(form.Font())); // also of the menus; boxes and dialogs have the desktop's
+    setWindowTitle(ToQt(form.Caption));
+    setFont(ToQt(FontStyle())); // also of the menus; boxes and dialogs have the desktop's
     QIcon icon;
     const QDir pictures(ResourcePath(""));
-    for (const QString& file : pictures.entryList({ToQt(form.Properties().PictureFile) + "-*.png"}))
+    for (const QString& file : pictures.entryList({ToQt(form.Icon) + "-*.png"}))
         icon.addFile(pictures.filePath(file));
     setWindowIcon(icon);
-    mPlatform.SetForm(this);
-    connect(this, &QObject::destroyed, [&platform] { platform.SetForm(nullptr); });
 }
 
 void QtForm::Changed(Property property) {
@@ -57,7 +53,11 @@ void QtForm::Arrange() {
     mMenuBar.setGeometry(0, 0, size.width(), menuHeight);
     mClient.setGeometry(0, menuHeight, size.width(), size.height() - menuHeight);
     for (QObject* const child : mClient.children())
-        if (auto* const peer = dynamic_cast<QtPeer*>(child)) peer->Place();
+        if (auto* const widget = dynamic_cast<ControlWidget*>(child)) widget->Place();
+}
+
+QRect QtForm::GridOnScreen() const {
+    return mFocus.GridBounds().translated(mClient.mapToGlobal(QPoint()));
 }
 
 bool QtForm::event(QEvent* event) {
@@ -72,15 +72,15 @@ bool QtForm::event(QEvent* event) {
 }
 
 void QtForm::Activate() {
-    if (mPlatform.Closed()) return;
+    if (mbClosed) return;
     mbActivated = true;
     mForm.RaiseActivate();
 }
 
 void QtForm::closeEvent(QCloseEvent* event) {
-    const bool closes = mPlatform.Closed() || mForm.RaiseUnload();
-    event->setAccepted(closes);
-    if (closes) mPlatform.Close();
+    mbClosed = mbClosed || mForm.RaiseUnload();
+    event->setAccepted(mbClosed);
+    if (mbClosed) mTellClosed();
 }
 
 void QtForm::keyPressEvent(QKeyEvent* event) {
@@ -88,9 +88,10 @@ void QtForm::keyPressEvent(QKeyEvent* event) {
     if (mMenuBar.hasFocus()) return;
     const auto buttons = mClient.findChildren<QPushButton*>();
     for (QPushButton* const button : buttons)
-        if (button->isVisible() && dynamic_cast<QtPeer&>(*button).IsClickedBy(*event)) {
+        if (button->isVisible() && dynamic_cast<QtCommandButton&>(*button).IsClickedBy(*event)) {
             event->accept();
-            return button->click();
+            button->click();
+            return;
         }
 }
 

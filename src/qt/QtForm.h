@@ -7,15 +7,16 @@
 
 #include <QWidget>
 
-namespace tessarin::qt {
+#include <functional>
 
-class QtPlatform;
+namespace tessarin::qt {
 
 /// A form's window: a fixed border, a menu bar, and below it the client area that holds all
 /// controls. The outer size is the form's Width and Height; the client is what the frame leaves.
 class QtForm : public QWidget, public FormPeer {
 public:
-    QtForm(Form& form, QtPlatform& platform);
+    /// `closed` is called when the window has closed.
+    QtForm(Form& form, std::function<void()> closed);
 
     void Changed(Property property) override;
     void Close() override { close(); }
@@ -26,8 +27,8 @@ public:
     QWidget& Client() { return mClient; }
 
     KeyboardFocus& Focus() { return mFocus; }
-    QtPlatform& Platform() { return mPlatform; }
-    const QMargins& Frame() const { return mFrame.Margins(); }
+    /// The rectangle around the grid of labels in coordinates of the screen.
+    QRect GridOnScreen() const;
 
 protected:
     bool event(QEvent* event) override;
@@ -41,12 +42,13 @@ private:
     void ArrangeTabOrder();
 
     Form& mForm;
-    QtPlatform& mPlatform;
+    std::function<void()> mTellClosed;
     WindowFrame mFrame{*this};
     KeyboardFocus mFocus{*this};
     QtMenuBar mMenuBar{*this, mFocus};
     QWidget mClient{this};
 
+    bool mbClosed = false;
     bool mbActivated = false;     // the window has been active
     bool mbLeftForOwnBox = false; // it is inactive because of a box of its own
 };

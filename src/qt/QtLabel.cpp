@@ -1,6 +1,6 @@
 #include "qt/QtLabel.h"
 
-#include "qt/QtForm.h"
+#include "qt/KeyboardFocus.h"
 #include "qt/QtLook.h"
 
 #include <QHelpEvent>
@@ -15,18 +15,18 @@
 
 namespace tessarin::qt {
 
-QtLabel::QtLabel(Control& label, QWidget& parent) : QLabel(&parent), QtPeer(label, *this) {
+QtLabel::QtLabel(Label& label, const Site& site)
+    : QLabel(&site.Parent), TextWidget(label, *this, site), mLabel(label) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    if (IsInGrid()) mForm.Focus().AddToGrid(*this);
-    if (mControl.Properties().Keys == KeyStop::Own) setFocusPolicy(Qt::TabFocus);
+    if (IsInGrid()) Focus().AddToGrid(label, *this);
+    if (label.TabStop) setFocusPolicy(Qt::TabFocus);
 }
 
 void QtLabel::MakeCurrent() {
-    mForm.Focus().MakeCurrent(*this);
+    Focus().MakeCurrent(mLabel);
 }
 
 void QtLabel::paintEvent(QPaintEvent* /*event*/) {
-    const ControlProperties& look = mControl.Properties();
     QPainter painter(this);
     QRect inside = rect();
     // Fills one inside the other, because drawn rectangles lose lines at fractional scales.
@@ -34,27 +34,32 @@ void QtLabel::paintEvent(QPaintEvent* /*event*/) {
         painter.fillRect(inside, color);
         inside.adjust(width, width, -width, -width);
     };
-    if (look.Border == BorderStyle::FixedSingle) ring(LineColor(), 1);
-    const QRect space = inside;                  // for the text
-    if (hasFocus() && !mForm.Focus().IsLent()) { // one of the two shows on any background
+    if (mLabel.Border == BorderStyle::FixedSingle) ring(LineColor(), 1);
+    const QRect space = inside;               // for the text
+    if (hasFocus() && !Focus().IsAwaited()) { // one of the two shows on any background
         ring(Qt::white, 2);
         ring(Qt::black, 2);
     }
-    painter.fillRect(inside, ToQt(look.BackColor));
-    if (look.Caption.empty()) return;
-    painter.setPen(TextColor(look.ForeColor, look.BackColor));
-    if (look.Align == Alignment::Center)
-        painter.drawText(space, Qt::AlignCenter, ToQt(look.Caption));
-    else if (look.Wrap)
-        DrawLines(painter, space);
-    else
+    painter.fillRect(inside, ToQt(mLabel.BackColor()));
+    if (mLabel.Caption().empty()) return;
+    painter.setPen(TextColor(mLabel.ForeColor(), mLabel.BackColor()));
+    switch (mLabel.Flow) {
+    case TextFlow::Line:
         painter.drawText(space, Qt::AlignLeft | Qt::AlignVCenter, ShortenedCaption());
+        break;
+    case TextFlow::Lines:
+        DrawLines(painter, space);
+        break;
+    case TextFlow::Centered:
+        painter.drawText(space, Qt::AlignCenter, ToQt(mLabel.Caption()));
+        break;
+    }
 }
 
 // Fonts of one size differ in the height of their lines by a fifth, so the distance of the lines
 // depends on the size alone. It is smaller if the label has no room for all lines at that distance.
 void QtLabel::DrawLines(QPainter& painter, const QRect& space) const {
-    QString text = ToQt(mControl.Caption());
+    QString text = ToQt(mLabel.Caption());
     text.replace("\r\n", QChar(QChar::LineSeparator));
     text.replace(';', QStringLiteral(";\u200B")); // where a line may end
     QTextLayout layout(text, font());
@@ -74,19 +79,17 @@ void QtLabel::DrawLines(QPainter& painter, const QRect& space) const {
 // Shortened to the part of the label that lies inside its parent.
 QString QtLabel::ShortenedCaption() const {
     const QRect seen = rect() & parentWidget()->rect().translated(-pos());
-    return fontMetrics().elidedText(ToQt(mControl.Caption()), Qt::ElideMiddle, seen.width());
+    return fontMetrics().elidedText(ToQt(mLabel.Caption()), Qt::ElideMiddle, seen.width());
 }
 
 bool QtLabel::IsShortened() const {
-    const ControlProperties& look = mControl.Properties();
-    const bool isOneLine = look.Align == Alignment::Left && !look.Wrap;
-    return isOneLine && ShortenedCaption() != ToQt(look.Caption);
+    return mLabel.Flow == TextFlow::Line && ShortenedCaption() != ToQt(mLabel.Caption());
 }
 
 bool QtLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || !IsShortened()) return QLabel::event(event);
     // As HTML, because the lines of a plain tip are never broken.
-    const QString tip = "<p>" + ToQt(mControl.Caption()).toHtmlEscaped() + "</p>";
+    const QString tip = "<p>" + ToQt(mLabel.Caption()).toHtmlEscaped() + "</p>";
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
     return true;
 }
@@ -101,30 +104,38 @@ void QtLabel::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const bool pressed = std::exchange(mbPressed, false);
     if (!pressed || !rect().contains(event->position().toPoint())) return;
-    mControl.RaiseClick();
+    Press();
     // Only now, so that a screen reader hears of the new current label alone.
-    if (IsInGrid()) mForm.Focus().ToGrid();
+    if (IsInGrid()) Focus().ToGrid();
 }
 
 void QtLabel::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
-    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
-        return mControl.RaiseClick();
-    QtLabel* const target = IsInGrid() ? mForm.Focus().Target(*event) : nullptr;
-    if (target == nullptr) return QLabel::keyPressEvent(event);
-    mForm.Focus().ToGrid();
-    target->mControl.RaiseClick();
+    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter) {
+        Press();
+        return;
+    }
+    Label* const target = IsInGrid() ? Focus().Target(*event) : nullptr;
+    if (target == nullptr) {
+        QLabel::keyPressEvent(event);
+        return;
+    }
+    Focus().ToGrid();
+    target->RaiseClick();
 }
 
 // The menu bar gives the focus back to the label that had it, which need not be current any more.
 void QtLabel::focusInEvent(QFocusEvent* event) {
     QLabel::focusInEvent(event);
     if (!IsInGrid()) return;
-    QtLabel* const current = mForm.Focus().Current();
-    if (current != nullptr && current != this) return current->setFocus();
+    QWidget* const current = Focus().Current();
+    if (current != nullptr && current != this) {
+        current->setFocus();
+        return;
+    }
     const bool byTab =
         event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (byTab) mForm.Focus().ToGrid();
+    if (byTab) Focus().ToGrid();
 }
 
 } // namespace tessarin::qt

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/QtPeer.h"
+#include "qt/ControlWidget.h"
 
 #include <QLabel>
 
@@ -9,15 +9,16 @@ namespace tessarin::qt {
 /// Paints a label from its control's properties (background, border and text) and reports clicks of
 /// the mouse and, if the Tab key stops at it, of the keyboard. In the form's grid of labels the
 /// arrow keys click the label that they lead to.
-class QtLabel : public QLabel, public QtPeer {
+class QtLabel : public QLabel, public LabelPeer, public TextWidget {
 public:
-    QtLabel(Control& label, QWidget& parent);
+    QtLabel(Label& label, const Site& site);
 
+    void Changed(Property property) override { Apply(property); }
     void MakeCurrent() override;
 
-    void Press() { mControl.RaiseClick(); }
+    void Press() { mLabel.RaiseClick(); }
     /// Whether it is there to be clicked, so that it has a place for the focus.
-    bool IsClickable() const { return mControl.Properties().Keys != KeyStop::None; }
+    bool IsClickable() const { return mLabel.TabStop || IsInGrid(); }
 
 protected:
     // Shows a caption that is shortened whole in a tool tip.
@@ -32,11 +33,12 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
-    bool IsInGrid() const { return mControl.Properties().Keys == KeyStop::Grid; }
+    bool IsInGrid() const { return mLabel.Cell.has_value(); }
     void DrawLines(QPainter& painter, const QRect& space) const;
     QString ShortenedCaption() const;
     bool IsShortened() const;
 
+    Label& mLabel;
     bool mbPressed = false;
 };
 

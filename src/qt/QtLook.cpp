@@ -43,8 +43,8 @@ QFont ToQt(const FontStyle& font) {
     return result;
 }
 
-QList<QKeySequence> Shortcuts(const Control& control) {
-    return QKeySequence::listFromString(ToQt(control.Properties().Shortcuts));
+QList<QKeySequence> Shortcuts(const std::string& shortcuts) {
+    return QKeySequence::listFromString(ToQt(shortcuts));
 }
 
 QString EscapeAmpersands(const std::string& caption) {

@@ -1,7 +1,7 @@
 // Twips, colours and fonts of the controls in Qt's terms.
 #pragma once
 
-#include "toolkit/Control.h"
+#include "toolkit/Properties.h"
 
 #include <QColor>
 #include <QFont>
@@ -32,8 +32,8 @@ inline QString ToQt(const std::string& text) {
 inline QString ResourcePath(const std::string& file) {
     return QLatin1String(":/") + ToQt(file);
 }
-/// The keys that click a control, wherever the focus is.
-QList<QKeySequence> Shortcuts(const Control& control);
+/// The keys that `shortcuts` of a control names.
+QList<QKeySequence> Shortcuts(const std::string& shortcuts);
 /// A caption for a button or menu entry, with "&" escaped, which would mark a shortcut.
 QString EscapeAmpersands(const std::string& caption);
 

@@ -83,19 +83,19 @@ namespace {
 
 class QtMenuPeer : public QAction, public ControlPeer {
 public:
-    QtMenuPeer(Control& item, QtMenuBar& bar) : QAction(&bar), mItem(item), mBar(bar) {
+    QtMenuPeer(MenuItem& item, QtMenuBar& bar) : QAction(&bar), mItem(item), mBar(bar) {
         setObjectName(ToQt(item.Name()));
-        setSeparator(item.Caption() == "-");
-        if (!isSeparator()) setText(EscapeAmpersands(item.Caption()));
-        setShortcuts(Shortcuts(item));
+        setSeparator(item.Caption == "-");
+        if (!isSeparator()) setText(EscapeAmpersands(item.Caption));
+        setShortcuts(Shortcuts(item.Shortcuts));
         setAutoRepeat(false);
         connect(this, &QAction::triggered, [&item] { item.RaiseClick(); });
         auto* const menu = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
         (menu != nullptr ? menu->Menu() : bar).addAction(this);
     }
 
-    void Changed(Property property) override {
-        if (property != Property::Enabled) return;
+    // Only Enabled can change.
+    void Changed(Property /*property*/) override {
         setEnabled(mItem.Enabled());
         // The entries of an open menu still answer when only its action is disabled.
         if (mMenu) mMenu->setEnabled(mItem.Enabled());
@@ -111,14 +111,14 @@ private:
         return *mMenu;
     }
 
-    const Control& mItem;
+    const MenuItem& mItem;
     QtMenuBar& mBar;
     std::unique_ptr<QMenu> mMenu;
 };
 
 } // namespace
 
-std::unique_ptr<ControlPeer> CreateMenuPeer(Control& item, QtMenuBar& bar) {
+std::unique_ptr<ControlPeer> CreateMenuPeer(MenuItem& item, QtMenuBar& bar) {
     return std::make_unique<QtMenuPeer>(item, bar);
 }
 

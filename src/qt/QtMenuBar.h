@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Control.h"
+#include "toolkit/Controls.h"
 
 #include <QMenuBar>
 
@@ -34,6 +34,6 @@ private:
 
 /// Creates the peer of a menu entry: an action of the menu bar or of the menu that contains it,
 /// with a menu of its own as soon as that gets entries.
-std::unique_ptr<ControlPeer> CreateMenuPeer(Control& item, QtMenuBar& bar);
+std::unique_ptr<ControlPeer> CreateMenuPeer(MenuItem& item, QtMenuBar& bar);
 
 } // namespace tessarin::qt

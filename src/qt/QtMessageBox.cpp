@@ -1,26 +1,24 @@
 // The message box.
-#include "qt/QtForm.h"
+#include "qt/BoxPlace.h"
 #include "qt/QtLook.h"
 #include "qt/QtPlatform.h"
 
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QScreen>
-
-#include <algorithm>
+#include <QWindow>
 
 namespace tessarin::qt {
 
 namespace {
 
-// Keeps off the form's grid of labels, which its text is about: it opens on the right of it, on the
-// left, above or below, where the screen has room. Without room it covers the grid as little as
-// possible.
+// Opens beside the part `area` of its window, which its text is about.
 class QtMessageBox : public QMessageBox {
 public:
-    QtMessageBox(const Message& message, QtForm& form) : QMessageBox(&form), mForm(form) {
+    QtMessageBox(const Message& message, QWidget& window, const QRect& area)
+        : QMessageBox(&window), mWindow(window), mArea(area) {
         const bool question = message.ButtonSet == Message::Buttons::YesNo;
-        setWindowTitle(message.Title.empty() ? form.windowTitle() : ToQt(message.Title));
+        setWindowTitle(message.Title.empty() ? window.windowTitle() : ToQt(message.Title));
         setTextFormat(Qt::PlainText);
         setText(ToQt(message.Prompt));
         setIcon(message.QuestionIcon ? Question : NoIcon);
@@ -44,33 +42,16 @@ protected:
 
     void showEvent(QShowEvent* event) override {
         QMessageBox::showEvent(event);
-        const QRect labels = mForm.Focus().GridBounds();
-        if (labels.isEmpty()) return;
+        if (mArea.isEmpty()) return;
         // With a margin: some window managers put the box there, and its frame around it.
-        const QPoint client = mForm.Client().mapToGlobal(QPoint());
-        const QRect grid = labels.translated(client).marginsAdded(mForm.Frame());
-        QRect box = QRect(QPoint(), size()).marginsAdded(mForm.Frame());
-        box.moveCenter(grid.center());
-        // The places of its top left corner at which it lies on the screen.
-        const QRect screen = mForm.screen()->availableGeometry();
-        const QRect corners = screen.adjusted(0, 0, 1 - box.width(), 1 - box.height());
-        const auto covered = [&](const QRect& place) {
-            const QRect both = place & grid;
-            return both.width() * both.height();
-        };
-        QRect best = grid;
-        for (const int y : {box.y(), grid.y() - box.height(), grid.y() + grid.height()})
-            for (const int x : {box.x(), grid.x() + grid.width(), grid.x() - box.width()}) {
-                const int left = std::max(corners.left(), std::min(x, corners.right()));
-                const int top = std::max(corners.top(), std::min(y, corners.bottom()));
-                const QRect place({left, top}, box.size());
-                if (covered(place) < covered(best)) best = place;
-            }
-        move(best.topLeft());
+        const QMargins frame = mWindow.windowHandle()->frameMargins();
+        const QRect screen = mWindow.screen()->availableGeometry();
+        move(PlaceBeside(mArea.marginsAdded(frame), size().grownBy(frame), screen));
     }
 
 private:
-    QtForm& mForm;
+    const QWidget& mWindow;
+    const QRect mArea;
 };
 
 } // namespace
@@ -78,8 +59,8 @@ private:
 Message::Answer QtPlatform::ShowMessage(const Message& message) {
     const bool question = message.ButtonSet == Message::Buttons::YesNo;
     const auto refusal = question ? Message::Answer::No : Message::Answer::Ok;
-    if (mbClosed || mForm == nullptr) return refusal;
-    QtMessageBox box(message, *mForm);
+    if (mbClosed || !mWindow) return refusal;
+    QtMessageBox box(message, *mWindow, mArea());
     return RunModal(box) == QMessageBox::Yes ? Message::Answer::Yes : refusal;
 }
 

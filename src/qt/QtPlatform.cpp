@@ -67,6 +67,11 @@ std::string QtPlatform::ProgramName() {
     return QFileInfo(QApplication::applicationFilePath()).completeBaseName().toStdString();
 }
 
+void QtPlatform::SetWindow(QWidget& window, std::function<QRect()> area) {
+    mWindow = &window;
+    mArea = std::move(area);
+}
+
 void QtPlatform::Close() {
     mbClosed = true;
     SetMousePointer(MousePointer::Default);
@@ -88,8 +93,10 @@ int QtPlatform::RunModal(QDialog& dialog) {
 // Qt keeps a stack of pointers: one that is set twice would have to be restored twice. While a
 // dialog is open the program waits for the user, so the hourglass would be wrong.
 void QtPlatform::ApplyPointer() {
-    if (!mbHourglass || mlOpenDialogs > 0) return QApplication::restoreOverrideCursor();
-    if (QApplication::overrideCursor() == nullptr) QApplication::setOverrideCursor(Qt::WaitCursor);
+    const bool shown = QApplication::overrideCursor() != nullptr;
+    const bool wanted = mbHourglass && mlOpenDialogs == 0;
+    if (wanted && !shown) QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (shown && !wanted) QApplication::restoreOverrideCursor();
 }
 
 } // namespace tessarin::qt

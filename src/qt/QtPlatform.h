@@ -5,12 +5,14 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
 
 class QDialog;
 
 namespace tessarin::qt {
-
-class QtForm;
 
 /// The platform on Qt 6 Widgets, with one form at a time. Needs a QApplication and is the current
 /// Platform while it lives. Qt's windows have a taskbar entry from the start, and hiding one would
@@ -34,10 +36,10 @@ public:
     }
     VersionRecord Version() override { return mVersion; }
 
-    /// The form's window; nullptr when it is gone.
-    void SetForm(QtForm* form) { mForm = form; }
+    /// Boxes belong to `window`. They keep off its part `area`, in coordinates of the screen.
+    void SetWindow(QWidget& window, std::function<QRect()> area);
     /// There must be one.
-    QtForm& CurrentForm() { return *mForm; }
+    QWidget& Window() { return *mWindow; }
 
     /// The form has closed. From now on nothing is pumped, slept or asked, so that handlers that
     /// are still running end at once; a box or dialog that is open is cancelled.
@@ -59,7 +61,8 @@ private:
 
     VersionRecord mVersion;
     KeyWatch mKeyWatch;
-    QtForm* mForm = nullptr;
+    QPointer<QWidget> mWindow; // null again when it is gone
+    std::function<QRect()> mArea;
     bool mbClosed = false;
     bool mbTicksHeld = false;
     QElapsedTimer mSincePump; // since the last real pump; invalid: the next one must be real

@@ -1,9 +1,9 @@
 #include "qt/QtToolkit.h"
 
+#include "qt/QtButton.h"
 #include "qt/QtForm.h"
 #include "qt/QtLabel.h"
 #include "qt/QtLook.h"
-#include "qt/QtPeer.h"
 #include "qt/QtPlatform.h"
 #include "toolkit/Controls.h"
 
@@ -11,8 +11,6 @@
 #include <QGroupBox>
 #include <QPainter>
 #include <QPixmap>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTimer>
 
 namespace tessarin::qt {
@@ -29,8 +27,10 @@ public:
         return QStringList(pressAction()) + QAccessibleWidget::actionNames();
     }
     void doAction(const QString& name) override {
-        if (name == pressAction()) return mLabel.Press();
-        QAccessibleWidget::doAction(name);
+        if (name == pressAction())
+            mLabel.Press();
+        else
+            QAccessibleWidget::doAction(name);
     }
 
 private:
@@ -43,71 +43,52 @@ QAccessibleInterface* CreateAccessible(const QString& /*className*/, QObject* ob
     return label != nullptr && label->IsClickable() ? new PressableLabel(*label) : nullptr;
 }
 
-// Reports every click, even on an option that is selected already.
-template <class Button>
-class QtButton : public Button, public QtPeer {
-public:
-    QtButton(Control& control, QWidget& parent) : Button(&parent), QtPeer(control, *this) {
-        Button::setFocusPolicy(Qt::TabFocus);
-        QObject::connect(this, &QAbstractButton::clicked, [&control] { control.RaiseClick(); });
-    }
-
-protected:
-    void ShowCaption() override { this->setText(EscapeAmpersands(mControl.Caption())); }
-};
-
-class QtOption : public QtButton<QRadioButton> {
-public:
-    // Tab stops at the selected one, also when the mouse has selected it.
-    QtOption(Control& control, QWidget& parent) : QtButton(control, parent) {
-        setFocusPolicy(Qt::NoFocus);
-        QObject::connect(this, &QAbstractButton::toggled, [this](bool selected) {
-            setFocusPolicy(selected ? Qt::TabFocus : Qt::NoFocus);
-        });
-    }
-
-    void Select() override { setChecked(true); }
-
-protected:
-    // Can be clicked in its whole rectangle, not only on circle and text.
-    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
-};
-
 // Paints a frame's background and, with a border, a line around its edge that the caption
 // interrupts. It is a QGroupBox only for screen readers.
-class QtFrame : public QGroupBox, public QtPeer {
+class QtFrame : public QGroupBox, public ControlPeer, public TextWidget {
 public:
-    QtFrame(Control& frame, QWidget& parent) : QGroupBox(&parent), QtPeer(frame, *this) {}
+    QtFrame(Frame& frame, const Site& site)
+        : QGroupBox(&site.Parent), TextWidget(frame, *this, site), mFrame(frame) {}
+
+    void Changed(Property property) override { Apply(property); }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
-        const ControlProperties& look = mControl.Properties();
+        const Color background = mFrame.BackColor();
         QPainter painter(this);
-        painter.fillRect(rect(), ToQt(look.BackColor));
-        if (look.Border == BorderStyle::None) return;
-        const QString caption = ToQt(look.Caption);
+        painter.fillRect(rect(), ToQt(background));
+        if (mFrame.Border == BorderStyle::None) return;
+        const QString caption = ToQt(mFrame.Caption());
         const int textHeight = caption.isEmpty() ? 0 : painter.fontMetrics().height();
         const QRect line = rect().adjusted(0, textHeight / 2, 0, 0);
         painter.fillRect(line, LineColor());
-        painter.fillRect(line.adjusted(1, 1, -1, -1), ToQt(look.BackColor));
+        painter.fillRect(line.adjusted(1, 1, -1, -1), ToQt(background));
         const QRect text(8, 0, painter.fontMetrics().horizontalAdvance(caption) + 6, textHeight);
-        painter.fillRect(text, ToQt(look.BackColor));
-        painter.setPen(TextColor(look.ForeColor, look.BackColor));
+        painter.fillRect(text, ToQt(background));
+        painter.setPen(TextColor(SystemColor(18), background));
         painter.drawText(text, Qt::AlignCenter, caption);
     }
+
+private:
+    const Frame& mFrame;
 };
 
 // Reads the picture's file when it paints, because twelve of them would slow down the start. Qt's
 // cache keeps what is read.
-class QtPicture : public QWidget, public QtPeer {
+class QtPicture : public QWidget, public ControlPeer, public ControlWidget {
 public:
-    QtPicture(Control& picture, QWidget& parent) : QWidget(&parent), QtPeer(picture, *this) {}
+    QtPicture(Picture& picture, const Site& site)
+        : QWidget(&site.Parent), ControlWidget(picture, *this, site), mPicture(picture) {}
+
+    void Changed(Property property) override { Apply(property); }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
-        const QString file = ResourcePath(mControl.Properties().PictureFile);
-        QPainter(this).drawPixmap(rect(), QPixmap(file));
+        QPainter(this).drawPixmap(rect(), QPixmap(ResourcePath(mPicture.File)));
     }
+
+private:
+    const Picture& mPicture;
 };
 
 // A QTimer does not fire again before its handler has returned. But a tick pumps window events, and
@@ -118,14 +99,19 @@ public:
     QtTimer(Timer& timer, const QtPlatform& platform) : mTimer(timer) {
         setTimerType(Qt::PreciseTimer);
         callOnTimeout([this, &platform] {
-            if (platform.TicksHeld()) return start(0); // try again with the next events
+            if (platform.TicksHeld()) {
+                start(0); // try again with the next events
+                return;
+            }
             start(mTimer.Interval());
             mTimer.RaiseTick();
         });
     }
     void Changed(Property /*property*/) override {
-        if (!mTimer.Enabled()) return stop();
-        start(mTimer.Interval());
+        if (mTimer.Enabled())
+            start(mTimer.Interval());
+        else
+            stop();
     }
 
 private:
@@ -133,12 +119,12 @@ private:
 };
 
 // The control's container has its widget already.
-template <class Widget>
-std::unique_ptr<Widget> Make(Control& control) {
-    ControlPeer& container = control.Container()->Peer();
-    auto* const form = dynamic_cast<QtForm*>(&container);
-    auto widget = std::make_unique<Widget>(
-        control, form != nullptr ? form->Client() : dynamic_cast<QWidget&>(container));
+template <class Widget, class Kind>
+std::unique_ptr<Widget> Make(Kind& control, QtForm& form, QtPlatform& platform) {
+    auto& container = dynamic_cast<QWidget&>(control.Container()->Peer());
+    QWidget& parent = &container == &form ? form.Client() : container;
+    auto widget =
+        std::make_unique<Widget>(control, Site{parent, form.Client(), form.Focus(), platform});
     widget->Changed(Property::Texts);
     return widget;
 }
@@ -147,32 +133,38 @@ std::unique_ptr<Widget> Make(Control& control) {
 
 std::unique_ptr<FormPeer> QtToolkit::Create(Form& form) {
     QAccessible::installFactory(CreateAccessible);
-    return std::make_unique<QtForm>(form, mPlatform);
+    auto window = std::make_unique<QtForm>(form, [this] { mPlatform.Close(); });
+    mForm = window.get();
+    mPlatform.SetWindow(*mForm, [form = mForm] { return form->GridOnScreen(); });
+    return window;
+}
+
+std::unique_ptr<ControlPeer> QtToolkit::Create(CommandButton& button) {
+    return Make<QtCommandButton>(button, *mForm, mPlatform);
+}
+
+std::unique_ptr<ControlPeer> QtToolkit::Create(Frame& frame) {
+    return Make<QtFrame>(frame, *mForm, mPlatform);
+}
+
+std::unique_ptr<LabelPeer> QtToolkit::Create(Label& label) {
+    return Make<QtLabel>(label, *mForm, mPlatform);
+}
+
+std::unique_ptr<ControlPeer> QtToolkit::Create(MenuItem& item) {
+    return CreateMenuPeer(item, mForm->MenuBar());
+}
+
+std::unique_ptr<OptionPeer> QtToolkit::Create(OptionButton& option) {
+    return Make<QtOption>(option, *mForm, mPlatform);
+}
+
+std::unique_ptr<ControlPeer> QtToolkit::Create(Picture& picture) {
+    return Make<QtPicture>(picture, *mForm, mPlatform);
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(Timer& timer) {
     return std::make_unique<QtTimer>(timer, mPlatform);
-}
-
-std::unique_ptr<ControlPeer> QtToolkit::Create(Control& control, Kind kind) {
-    switch (kind) {
-    case Kind::CommandButton: {
-        auto button = Make<QtButton<QPushButton>>(control);
-        button->setAutoDefault(true); // Enter presses it as Space does
-        return button;
-    }
-    case Kind::Frame:
-        return Make<QtFrame>(control);
-    case Kind::Label:
-        return Make<QtLabel>(control);
-    case Kind::MenuItem:
-        return CreateMenuPeer(control, mPlatform.CurrentForm().MenuBar());
-    case Kind::OptionButton:
-        return Make<QtOption>(control);
-    case Kind::Picture:
-        break;
-    }
-    return Make<QtPicture>(control);
 }
 
 } // namespace tessarin::qt

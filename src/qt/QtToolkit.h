@@ -4,20 +4,31 @@
 
 namespace tessarin::qt {
 
+class QtForm;
 class QtPlatform;
 
 /// Makes the controls of one form out of Qt's widgets.
+///
+/// A control owns its widget, and so does the widget's parent in Qt. Only the control deletes it:
+/// controls are members of what contains them, so they end before their container and its widget,
+/// and a widget that is deleted leaves its parent's list.
 class QtToolkit : public Toolkit {
 public:
     explicit QtToolkit(QtPlatform& platform) : mPlatform(platform) {}
 
     std::unique_ptr<FormPeer> Create(Form& form) override;
+    std::unique_ptr<ControlPeer> Create(CommandButton& button) override;
+    std::unique_ptr<ControlPeer> Create(Frame& frame) override;
+    std::unique_ptr<LabelPeer> Create(Label& label) override;
+    std::unique_ptr<ControlPeer> Create(MenuItem& item) override;
+    std::unique_ptr<OptionPeer> Create(OptionButton& option) override;
+    std::unique_ptr<ControlPeer> Create(Picture& picture) override;
     std::unique_ptr<ControlPeer> Create(Timer& timer) override;
-    std::unique_ptr<ControlPeer> Create(Control& control, Kind kind) override;
     std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool saving) override;
 
 private:
     QtPlatform& mPlatform;
+    QtForm* mForm = nullptr; // set by the first Create, that of the form
 };
 
 } // namespace tessarin::qt

@@ -7,18 +7,17 @@ namespace tessarin {
 
 void ClickGate::Raise(Control& control) {
     if (mbClosed) return;
-    if (!control.ClicksMayWait()) return Run(control);
+    if (!control.ClicksMayWait()) {
+        control.RunClick();
+        return;
+    }
     mWaiting.push_back(&control);
     while (!mWaiting.empty() && mlDepth < MaxDepth) {
         const Control& next = *mWaiting.front();
         mWaiting.pop_front();
         const ScopedValue<int> deeper(mlDepth, mlDepth + 1);
-        Run(next);
+        next.RunClick();
     }
-}
-
-void ClickGate::Run(const Control& control) {
-    if (control.Click && control.Reachable()) Control::RunAndReportErrors(control.Click);
 }
 
 void ClickGate::Close() {

@@ -21,8 +21,6 @@ public:
     void Close();
 
 private:
-    static void Run(const Control& control);
-
     std::deque<Control*> mWaiting;
     int mlDepth = 0; // handlers running
     bool mbClosed = false;

@@ -4,28 +4,34 @@
 #include "toolkit/Form.h"
 
 #include <exception>
-#include <utility>
 
 namespace tessarin {
 
-Control::Control(Toolkit& toolkit, Form& form, Control* container, ControlProperties properties)
-    : mToolkit(toolkit), mForm(form), mContainer(container), mProperties(std::move(properties)) {}
+Control::Control(Toolkit& toolkit, Form& form, std::string name)
+    : mToolkit(toolkit),
+      mForm(form),
+      mContainer(nullptr),
+      msName(std::move(name)),
+      mbVisible(false) {}
 
-Control::Control(Control& container, ControlProperties properties)
-    : Control(container.mToolkit, container.mForm, &container, std::move(properties)) {}
+Control::Control(Control& container, std::string name, bool visible)
+    : mToolkit(container.mToolkit),
+      mForm(container.mForm),
+      mContainer(&container),
+      msName(std::move(name)),
+      mbVisible(visible) {}
 
 bool Control::Reachable() const {
     if (!Enabled() || !Visible()) return false;
     return mContainer == nullptr || mContainer->Reachable();
 }
 
-const std::string& Control::AccessibleName() const {
-    if (!msAccessibleName.empty()) return msAccessibleName;
-    return mProperties.ToolTipText.empty() ? mProperties.Caption : mProperties.ToolTipText;
-}
-
 void Control::RaiseClick() {
     mForm.Gate.Raise(*this);
+}
+
+void Control::RunClick() const {
+    if (Click && Reachable()) RunAndReportErrors(Click);
 }
 
 void Control::RunAndReportErrors(const std::function<void()>& handler) noexcept {

@@ -11,35 +11,33 @@
 namespace tessarin {
 
 /// Controls of one kind that share a name and differ by index: `lblField(12)`. Member 0 is the
-/// template for those loaded later. All share one Click, which gets the index.
+/// template of the others. All share one Click, which gets the index.
 template <class T>
 class ControlArray {
 public:
-    /// Creates member 0 with `properties`.
-    ControlArray(Control& container, ControlProperties properties)
-        : mContainer(container), msName(properties.Name) {
-        Add(0, std::move(properties));
+    using Properties = typename T::Properties;
+
+    /// Creates member 0 with `design`.
+    ControlArray(Control& container, std::string name, Properties design)
+        : Design(std::move(design)), mContainer(container), msName(std::move(name)) {
+        Add(0, Design);
     }
     ControlArray(const ControlArray&) = delete; // the members' clicks refer to it
 
     std::function<void(int)> Click;
 
+    /// What member 0 was created with.
+    const Properties Design;
+
     /// Throws std::out_of_range for a member that has not been created.
     T& operator()(int index) { return *mMembers.at(index); }
     bool Has(int index) const { return mMembers.contains(index); }
 
-    /// Creates member `index`, which must be a new one, hidden, with the properties of member 0.
-    T& Load(int index) {
-        ControlProperties properties = mMembers.at(0)->Properties();
-        properties.Visible = false;
-        return Add(index, std::move(properties));
-    }
-
-    /// Creates member `index`, which must be a new one, with `properties`.
-    T& Add(int index, ControlProperties properties) {
-        properties.Name = msName + "(" + std::to_string(index) + ")";
+    /// Creates member `index`, which must be a new one.
+    T& Add(int index, const Properties& design) {
         auto& member = mMembers[index];
-        member = std::make_unique<T>(mContainer, std::move(properties));
+        member =
+            std::make_unique<T>(mContainer, msName + "(" + std::to_string(index) + ")", design);
         member->Click = [this, index] {
             if (Click) Click(index);
         };

@@ -4,14 +4,62 @@
 
 namespace tessarin {
 
+void PlacedControl::Move(float& edge, float value) {
+    if (edge == value) return;
+    edge = value;
+    Peer().Changed(Property::Bounds);
+    BoundsChanged();
+}
+
+const std::string& TextControl::AccessibleName() const {
+    if (!msAccessibleName.empty()) return msAccessibleName;
+    return msToolTipText.empty() ? msCaption : msToolTipText;
+}
+
+Label::Label(Control& container, std::string name, const Properties& design)
+    : TextControl(container, std::move(name), design),
+      Flow(design.Flow),
+      Border(design.Border),
+      TabStop(design.TabStop),
+      Cell(design.Cell),
+      mBackColor(design.BackColor),
+      mForeColor(design.ForeColor),
+      mPeer(Own(Kit().Create(*this))) {}
+
+CommandButton::CommandButton(Control& container, std::string name, const Properties& design)
+    : TextControl(container, std::move(name), design), Shortcuts(design.Shortcuts) {
+    Own(Kit().Create(*this));
+}
+
+OptionButton::OptionButton(Control& container, std::string name, const Properties& design)
+    : TextControl(container, std::move(name), design), mPeer(Own(Kit().Create(*this))) {}
+
 void OptionButton::Select() {
-    Peer().Select();
+    mPeer.Select();
     if (Click) Click();
 }
 
-Timer::Timer(Control& container, ControlProperties properties)
-    : Control(container, std::move(properties)) {
-    CreatePeer(*this);
+Frame::Frame(Control& container, std::string name, const FrameProperties& design)
+    : TextControl(container, std::move(name), design),
+      Border(design.Border),
+      mBackColor(design.BackColor) {
+    Own(Kit().Create(*this));
+}
+
+Picture::Picture(Control& container, std::string name, const PictureProperties& design)
+    : PlacedControl(container, std::move(name), design.Place, design.Visible), File(design.File) {
+    Own(Kit().Create(*this));
+}
+
+MenuItem::MenuItem(Control& container, std::string name, std::string caption, std::string shortcuts)
+    : Control(container, std::move(name), true),
+      Caption(std::move(caption)),
+      Shortcuts(std::move(shortcuts)) {
+    Own(Kit().Create(*this));
+}
+
+Timer::Timer(Control& container, std::string name) : Control(container, std::move(name), true) {
+    Own(Kit().Create(*this));
     SetEnabled(false);
 }
 

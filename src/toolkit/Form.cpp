@@ -6,10 +6,12 @@
 
 namespace tessarin {
 
-Form::Form(Toolkit& toolkit, ControlProperties properties, float minClientHeight)
-    : Control(toolkit, *this, nullptr, std::move(properties)),
-      MinClientHeight(minClientHeight),
-      mFormPeer(CreatePeer(*this)) {}
+Form::Form(Toolkit& toolkit, std::string name, const FormProperties& design)
+    : Control(toolkit, *this, std::move(name)),
+      Caption(design.Caption),
+      Icon(design.Icon),
+      MinClientHeight(design.MinClientHeight),
+      mPeer(Own(Kit().Create(*this))) {}
 
 void Form::RaiseActivate() {
     if (mbActivating || !Activate) return;

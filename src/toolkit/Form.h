@@ -2,18 +2,27 @@
 
 #include "toolkit/ClickGate.h"
 #include "toolkit/Control.h"
+#include "toolkit/Properties.h"
 
 #include <functional>
+#include <string>
 
 namespace tessarin {
 
-/// A window with a fixed border. Width and Height are its outer size: border, title bar and menu
-/// bar included. Hidden until Show.
+/// A window with a fixed border, hidden until Show.
 class Form : public Control {
 public:
-    /// `minClientHeight` is the least visible height below the menu bar, in twips, however thick
-    /// the border is.
-    Form(Toolkit& toolkit, ControlProperties properties, float minClientHeight = 0);
+    Form(Toolkit& toolkit, std::string name, const FormProperties& design);
+
+    const std::string Caption;
+    const std::string Icon;
+    const float MinClientHeight;
+
+    /// The outer size in twips: border, title bar and menu bar included.
+    float Width() const { return mWidth; }
+    float Height() const { return mHeight; }
+    void SetWidth(float width) { Assign(mWidth, width, Property::Bounds); }
+    void SetHeight(float height) { Assign(mHeight, height, Property::Bounds); }
 
     /// Runs when the window has become active: at its start and whenever the user returns from
     /// another window, but not from the form's own boxes and dialogs.
@@ -24,13 +33,12 @@ public:
 
     /// All clicks on the form's controls go through it.
     ClickGate Gate;
-    const float MinClientHeight;
 
     void Show() { SetVisible(true); }
     /// Asks the window to close, as its close box does; Unload may refuse.
-    void Close() { mFormPeer.Close(); }
+    void Close() { mPeer.Close(); }
     /// The native handle for the window-style calls of Platform.
-    int Handle() { return mFormPeer.Handle(); }
+    int Handle() { return mPeer.Handle(); }
 
     /// For the toolkit: the window has become active. Ignores re-entrant activations: Activate
     /// pumps events.
@@ -40,7 +48,9 @@ public:
     bool RaiseUnload();
 
 private:
-    FormPeer& mFormPeer;
+    float mWidth = 0;
+    float mHeight = 0;
+    FormPeer& mPeer;
     bool mbActivating = false;
 };
 

@@ -7,18 +7,20 @@
 
 namespace tessarin {
 
+class CommandButton;
 class CommonDialog;
-class Control;
 class Form;
+class Frame;
+class Label;
+class MenuItem;
+class OptionButton;
+class Picture;
 class Timer;
-
-/// The kinds of control that a user sees in a form.
-enum class Kind { CommandButton, Frame, Label, MenuItem, OptionButton, Picture };
 
 /// The properties of a control whose changes a toolkit is told.
 enum class Property {
     Bounds,
-    Texts, ///< caption, tool tip and accessible name
+    Texts, ///< caption and accessible name
     Font,
     Colors,
     Visible,
@@ -32,13 +34,20 @@ class ControlPeer {
 public:
     virtual ~ControlPeer() = default;
     virtual void Changed(Property property) = 0;
-    /// Shows an option button as the selected one of its container. Nothing for other controls.
-    virtual void Select() {}
-    /// Lets the arrow keys move on from a label of the form's grid. Nothing for other controls.
-    virtual void MakeCurrent() {}
 };
 
-/// The toolkit's side of a form.
+class LabelPeer : public ControlPeer {
+public:
+    /// See Label::MakeCurrent.
+    virtual void MakeCurrent() = 0;
+};
+
+class OptionPeer : public ControlPeer {
+public:
+    /// Shows the option as the selected one of its container.
+    virtual void Select() = 0;
+};
+
 class FormPeer : public ControlPeer {
 public:
     /// Asks the window to close, as its close box does.
@@ -54,8 +63,13 @@ public:
     virtual ~Toolkit() = default;
 
     virtual std::unique_ptr<FormPeer> Create(Form& form) = 0;
+    virtual std::unique_ptr<ControlPeer> Create(CommandButton& button) = 0;
+    virtual std::unique_ptr<ControlPeer> Create(Frame& frame) = 0;
+    virtual std::unique_ptr<LabelPeer> Create(Label& label) = 0;
+    virtual std::unique_ptr<ControlPeer> Create(MenuItem& item) = 0;
+    virtual std::unique_ptr<OptionPeer> Create(OptionButton& option) = 0;
+    virtual std::unique_ptr<ControlPeer> Create(Picture& picture) = 0;
     virtual std::unique_ptr<ControlPeer> Create(Timer& timer) = 0;
-    virtual std::unique_ptr<ControlPeer> Create(Control& control, Kind kind) = 0;
 
     /// Runs the dialog until it is closed. Returns the full path chosen, or nothing when cancelled.
     virtual std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool saving) = 0;

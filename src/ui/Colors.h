@@ -1,7 +1,7 @@
 // The colours of the window.
 #pragma once
 
-#include "toolkit/Control.h"
+#include "toolkit/Properties.h"
 
 namespace tessarin {
 

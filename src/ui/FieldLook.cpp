@@ -36,7 +36,7 @@ FieldLook LookOfFreedom(int freedom) {
     return look;
 }
 
-void Apply(const FieldLook& look, Control& label) {
+void Apply(const FieldLook& look, Label& label) {
     label.SetFont(look.TextFont);
     label.SetBackColor(look.BackColor);
     label.SetForeColor(look.ForeColor);

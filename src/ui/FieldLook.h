@@ -1,7 +1,7 @@
 // What the label of a field looks like.
 #pragma once
 
-#include "toolkit/Control.h"
+#include "toolkit/Controls.h"
 #include "ui/Colors.h"
 
 #include <string>
@@ -10,6 +10,7 @@ namespace tessarin {
 
 /// The width and height of a field's label, and of a key of the number pad, in twips.
 constexpr int FieldSide = 600;
+constexpr Bounds FieldSize{.Width = FieldSide, .Height = FieldSide};
 
 /// The font of values, and of the labels before they show a field.
 inline const FontStyle FieldFont{.Name = "Arial Black", .Size = 20};
@@ -44,6 +45,6 @@ std::string SpokenName(const FieldState& field);
 /// The look of an empty field that shows how many values are free for it.
 FieldLook LookOfFreedom(int freedom);
 
-void Apply(const FieldLook& look, Control& label);
+void Apply(const FieldLook& look, Label& label);
 
 } // namespace tessarin

@@ -14,12 +14,10 @@ constexpr float SpaceForGrid = 6150;
 } // namespace
 
 frmTessarin::frmTessarin(Toolkit& toolkit)
-    : Form(toolkit,
-           {.Name = "frmTessarin",
-            .Caption = "Velmora Sudoku Solver",
-            .Visible = false,
-            .PictureFile = "tessarin"},
-           SpaceForGrid),
+    : Form(toolkit, "frmTessarin",
+           {.Caption = "Velmora Sudoku Solver",
+            .Icon = "tessarin",
+            .MinClientHeight = SpaceForGrid}),
       CommonDialog1(toolkit) {
     for (std::size_t i = 1; i < Paces.size(); ++i)
         optChill.Add(static_cast<int>(i), OptionOf(Paces.at(i)));
@@ -33,14 +31,19 @@ frmTessarin::~frmTessarin() {
     Form_Terminate();
 }
 
-ControlProperties frmTessarin::OptionOf(const Pace& pace) {
-    return {.Name = "optChill",
+CommandButtonProperties frmTessarin::ActionButton(const char* caption, const char* toolTip,
+                                                  const char* shortcuts) {
+    return {.Place = FieldSize,
+            .Caption = caption,
+            .ToolTipText = toolTip,
+            .Font = {.Name = "Arial", .Size = 14},
+            .Shortcuts = shortcuts};
+}
+
+OptionButtonProperties frmTessarin::OptionOf(const Pace& pace) {
+    return {.Place = {.Left = pace.Left, .Top = pace.Top, .Width = 855, .Height = 255},
             .Caption = pace.Caption,
             .ToolTipText = pace.ToolTip,
-            .Left = pace.Left,
-            .Top = pace.Top,
-            .Width = 855,
-            .Height = 255,
             .Font = PlainFont};
 }
 

@@ -56,52 +56,99 @@ public:
     bool InfoVisible() const { return mbInfoVisible; }
 
     // The controls and their design; menu entries in the order of their menu.
-    // clang-format off
-    Label lblFile{*this, {.Name = "lblFile", .Top = 120, .Width = 8535, .Height = 255, .Font = PlainFont}};
-    ControlArray<Label> lblField{*this, {.Name = "lblField", .Width = FieldSide, .Height = FieldSide, .Visible = false, .Border = BorderStyle::FixedSingle, .Align = Alignment::Center, .Keys = KeyStop::Grid, .Font = FieldFont, .BackColor = WindowBackground}};
-    Frame fraNumPad{*this, {.Name = "fraNumPad", .Width = 2400, .Height = 3150, .BackColor = WindowBackground}};
-    ControlArray<CommandButton> btnNumPad{fraNumPad, {.Name = "btnNumPad", .Caption = "0", .Width = FieldSide, .Height = FieldSide, .Font = {.Name = "Arial", .Size = 20}}};
-    Frame fraAction{*this, {.Name = "fraAction", .BackColor = WindowBackground}};
-    CommandButton btnNextFree{fraAction, {.Name = "btnNextFree", .Caption = ">", .ToolTipText = "goto next free field"}};
-    CommandButton btnNextFreeAuto{fraAction, {.Name = "btnNextFreeAuto", .Caption = ">I", .ToolTipText = "goto next free field and fill value in", .Shortcuts = "PgDown"}};
-    CommandButton btnSolve{fraAction, {.Name = "btnSolve", .Caption = "S", .ToolTipText = "solve the sudoku"}};
-    CommandButton btnGoBack{fraAction, {.Name = "btnGoBack", .Caption = "<", .ToolTipText = "go back to previous field"}};
-    CommandButton btnGoBackToFreedom{fraAction, {.Name = "btnGoBackToFreedom", .Caption = "<<", .ToolTipText = "go back to last field with freedom", .Shortcuts = "PgUp"}};
-    CommandButton btnNextFreeValue{fraAction, {.Name = "btnNextFreeValue", .Caption = "F", .ToolTipText = "next free value"}};
-    CommandButton btnInfo{fraAction, {.Name = "btnInfo", .Caption = "I", .ToolTipText = "show/hide fild info"}};
-    Label lblDeadEnd{fraAction, {.Name = "lblDeadEnd", .Caption = "DeadEnd", .ToolTipText = "dead end", .Border = BorderStyle::FixedSingle, .Keys = KeyStop::Own}};
-    Label lblWinner{fraAction, {.Name = "lblWinner", .Caption = "Winner", .ToolTipText = "winner", .Border = BorderStyle::FixedSingle}};
-    Frame fraInfo{*this, {.Name = "fraInfo", .Caption = "FieldInfo", .Width = 2535, .Height = 3375, .Border = BorderStyle::FixedSingle, .Font = PlainFont}};
-    Label lblInfo{fraInfo, {.Name = "lblInfo", .Caption = "Label1", .Left = 240, .Top = 360, .Width = 2055, .Height = 2655, .Wrap = true, .Font = PlainFont}};
-    Frame fraChill{*this, {.Name = "fraChill", .Caption = "Chillout", .Width = 2535, .Height = 2175, .Border = BorderStyle::FixedSingle, .Font = PlainFont}};
-    ControlArray<OptionButton> optChill{fraChill, OptionOf(Paces[0])};
-    Frame fraRotor{fraChill, {.Name = "fraRotor", .Left = 1320, .Top = 960, .Width = 975, .Height = 975, .Border = BorderStyle::FixedSingle}};
-    ctlRotor ctlRotor1{fraRotor, {.Name = "ctlRotor1", .Width = 480, .Height = 480}};
+    Label lblFile{
+        *this, "lblFile", {.Place = {.Top = 120, .Width = 8535, .Height = 255}, .Font = PlainFont}};
+    ControlArray<Label> lblField{*this,
+                                 "lblField",
+                                 {.Place = FieldSize,
+                                  .Font = FieldFont,
+                                  .Flow = TextFlow::Centered,
+                                  .Border = BorderStyle::FixedSingle,
+                                  .BackColor = WindowBackground,
+                                  .Visible = false}};
+    Frame fraNumPad{*this,
+                    "fraNumPad",
+                    {.Place = {.Width = 2400, .Height = 3150}, .BackColor = WindowBackground}};
+    ControlArray<CommandButton> btnNumPad{
+        fraNumPad,
+        "btnNumPad",
+        {.Place = FieldSize, .Caption = "0", .Font = {.Name = "Arial", .Size = 20}}};
+    Frame fraAction{*this, "fraAction", {.BackColor = WindowBackground}};
+    CommandButton btnNextFree{fraAction, "btnNextFree", ActionButton(">", "goto next free field")};
+    CommandButton btnNextFreeAuto{
+        fraAction, "btnNextFreeAuto",
+        ActionButton(">I", "goto next free field and fill value in", "PgDown")};
+    CommandButton btnSolve{fraAction, "btnSolve", ActionButton("S", "solve the sudoku")};
+    CommandButton btnGoBack{fraAction, "btnGoBack", ActionButton("<", "go back to previous field")};
+    CommandButton btnGoBackToFreedom{
+        fraAction, "btnGoBackToFreedom",
+        ActionButton("<<", "go back to last field with freedom", "PgUp")};
+    CommandButton btnNextFreeValue{fraAction, "btnNextFreeValue",
+                                   ActionButton("F", "next free value")};
+    CommandButton btnInfo{fraAction, "btnInfo", ActionButton("I", "show/hide fild info")};
+    Label lblDeadEnd{fraAction,
+                     "lblDeadEnd",
+                     {.Place = FieldSize,
+                      .Caption = "DeadEnd",
+                      .ToolTipText = "dead end",
+                      .Border = BorderStyle::FixedSingle,
+                      .TabStop = true}};
+    Label lblWinner{fraAction,
+                    "lblWinner",
+                    {.Place = FieldSize,
+                     .Caption = "Winner",
+                     .ToolTipText = "winner",
+                     .Border = BorderStyle::FixedSingle}};
+    Frame fraInfo{*this,
+                  "fraInfo",
+                  {.Place = {.Width = 2535, .Height = 3375},
+                   .Caption = "FieldInfo",
+                   .Font = PlainFont,
+                   .Border = BorderStyle::FixedSingle}};
+    Label lblInfo{fraInfo,
+                  "lblInfo",
+                  {.Place = {.Left = 240, .Top = 360, .Width = 2055, .Height = 2655},
+                   .Caption = "Label1",
+                   .Font = PlainFont,
+                   .Flow = TextFlow::Lines}};
+    Frame fraChill{*this,
+                   "fraChill",
+                   {.Place = {.Width = 2535, .Height = 2175},
+                    .Caption = "Chillout",
+                    .Font = PlainFont,
+                    .Border = BorderStyle::FixedSingle}};
+    ControlArray<OptionButton> optChill{fraChill, "optChill", OptionOf(Paces[0])};
+    Frame fraRotor{fraChill,
+                   "fraRotor",
+                   {.Place = {.Left = 1320, .Top = 960, .Width = 975, .Height = 975},
+                    .Border = BorderStyle::FixedSingle}};
+    ctlRotor ctlRotor1{fraRotor, "ctlRotor1", {.Width = 480, .Height = 480}};
     CommonDialog CommonDialog1;
 
-    MenuItem mnuFile{*this, {.Name = "mnuFile", .Caption = "File"}};
-    MenuItem mnuFileImportCSV{mnuFile, {.Name = "mnuFileImportCSV", .Caption = "Import", .Shortcuts = "Ctrl+O"}};
-    MenuItem mnuFileExportCSV{mnuFile, {.Name = "mnuFileExportCSV", .Caption = "Export", .Shortcuts = "Ctrl+S"}};
-    MenuItem mnuSplit0{mnuFile, {.Name = "mnuSplit0", .Caption = "-"}};
-    MenuItem mnuFileQuit{mnuFile, {.Name = "mnuFileQuit", .Caption = "Quit", .Shortcuts = "Ctrl+Q"}};
-    MenuItem mnuEdit{*this, {.Name = "mnuEdit", .Caption = "Edit"}};
-    MenuItem mnuEditClear{mnuEdit, {.Name = "mnuEditClear", .Caption = "Clear"}};
-    MenuItem mnuEditClearFree{mnuEditClear, {.Name = "mnuEditClearFree", .Caption = "Free"}};
-    MenuItem mnuEditClearAll{mnuEditClear, {.Name = "mnuEditClearAll", .Caption = "All"}};
-    MenuItem mnuEditLockAll{mnuEdit, {.Name = "mnuEditLockAll", .Caption = "Lock All"}};
-    MenuItem mnuEditLockAllSet{mnuEditLockAll, {.Name = "mnuEditLockAllSet", .Caption = "Set"}};
-    MenuItem mnuEditLockClear{mnuEditLockAll, {.Name = "mnuEditLockClear", .Caption = "Clear"}};
-    MenuItem mnuView{*this, {.Name = "mnuView", .Caption = "View"}};
-    MenuItem mnuViewFreedom{mnuView, {.Name = "mnuViewFreedom", .Caption = "Freedom"}};
-    MenuItem mnuSplit2{mnuView, {.Name = "mnuSplit2", .Caption = "-"}};
-    MenuItem mnuViewGroups{mnuView, {.Name = "mnuViewGroups", .Caption = "Groups"}};
-    MenuItem mnuViewNeighbours{mnuView, {.Name = "mnuViewNeighbours", .Caption = "Neighbours"}};
-    MenuItem mnuHelp{*this, {.Name = "mnuHelp", .Caption = "?"}};
-    MenuItem mnuAbout{mnuHelp, {.Name = "mnuAbout", .Caption = "About"}};
-    // clang-format on
+    MenuItem mnuFile{*this, "mnuFile", "File"};
+    MenuItem mnuFileImportCSV{mnuFile, "mnuFileImportCSV", "Import", "Ctrl+O"};
+    MenuItem mnuFileExportCSV{mnuFile, "mnuFileExportCSV", "Export", "Ctrl+S"};
+    MenuItem mnuSplit0{mnuFile, "mnuSplit0", "-"};
+    MenuItem mnuFileQuit{mnuFile, "mnuFileQuit", "Quit", "Ctrl+Q"};
+    MenuItem mnuEdit{*this, "mnuEdit", "Edit"};
+    MenuItem mnuEditClear{mnuEdit, "mnuEditClear", "Clear"};
+    MenuItem mnuEditClearFree{mnuEditClear, "mnuEditClearFree", "Free"};
+    MenuItem mnuEditClearAll{mnuEditClear, "mnuEditClearAll", "All"};
+    MenuItem mnuEditLockAll{mnuEdit, "mnuEditLockAll", "Lock All"};
+    MenuItem mnuEditLockAllSet{mnuEditLockAll, "mnuEditLockAllSet", "Set"};
+    MenuItem mnuEditLockClear{mnuEditLockAll, "mnuEditLockClear", "Clear"};
+    MenuItem mnuView{*this, "mnuView", "View"};
+    MenuItem mnuViewFreedom{mnuView, "mnuViewFreedom", "Freedom"};
+    MenuItem mnuSplit2{mnuView, "mnuSplit2", "-"};
+    MenuItem mnuViewGroups{mnuView, "mnuViewGroups", "Groups"};
+    MenuItem mnuViewNeighbours{mnuView, "mnuViewNeighbours", "Neighbours"};
+    MenuItem mnuHelp{*this, "mnuHelp", "?"};
+    MenuItem mnuAbout{mnuHelp, "mnuAbout", "About"};
 
 private:
-    static ControlProperties OptionOf(const Pace& pace);
+    static CommandButtonProperties ActionButton(const char* caption, const char* toolTip,
+                                                const char* shortcuts = "");
+    static OptionButtonProperties OptionOf(const Pace& pace);
 
     // Life cycle.
     void Form_Initialize();

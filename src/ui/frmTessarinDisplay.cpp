@@ -129,7 +129,7 @@ void frmTessarin::RefreshAll() {
 
 void frmTessarin::SetIndicator(Label& indicator, Color color) {
     indicator.SetBackColor(color);
-    indicator.SetAccessibleName(indicator.Properties().ToolTipText +
+    indicator.SetAccessibleName(indicator.ToolTipText() +
                                 (color == WindowBackground ? ": not lit" : ": lit"));
 }
 

@@ -12,12 +12,17 @@ namespace tessarin {
 namespace {
 
 constexpr int BoxGap = FieldSide / 4;
-constexpr int PadPitch = FieldSide + BoxGap;
 
 // The start of the row or column `position` (from 1), with gaps between the boxes.
 float GridOffset(int position, int dimension) {
     const int offset = position * FieldSide + ((position - 1) / dimension - 2) * FieldSide / 4;
     return static_cast<float>(offset);
+}
+
+// The start of the row or column `position` (from 0) of the number pad.
+float PadOffset(int position) {
+    constexpr int Pitch = FieldSide + BoxGap;
+    return static_cast<float>(position * Pitch + BoxGap);
 }
 
 } // namespace
@@ -42,10 +47,12 @@ void frmTessarin::CreateFieldLabels() {
     int k = 0;
     for (int r = 1; r <= n; ++r)
         for (int c = 1; c <= n; ++c) {
-            Label& label = lblField.Load(++k);
-            label.SetTop(GridOffset(r, d) + 120);
-            label.SetLeft(GridOffset(c, d));
-            label.SetVisible(true);
+            LabelProperties field = lblField.Design;
+            field.Place.Left = GridOffset(c, d);
+            field.Place.Top = GridOffset(r, d) + 120;
+            field.Cell = {.Row = r, .Column = c};
+            field.Visible = true;
+            lblField.Add(++k, field);
         }
     lblFile.SetLeft(lblField(1).Left());
 }
@@ -56,24 +63,22 @@ void frmTessarin::CreateNumPad() {
     fraNumPad.SetLeft(lastOfRow.Left() + 750);
     fraNumPad.SetTop(lastOfRow.Top());
 
-    const auto place = [](CommandButton& button, int row, int column) {
-        button.SetTop(static_cast<float>(row * PadPitch + BoxGap));
-        button.SetLeft(static_cast<float>(column * PadPitch + BoxGap));
-    };
     const auto create = [&](int key, const std::string& caption, const std::string& toolTip,
-                            int row, int column) {
-        CommandButton& button = btnNumPad.Load(key);
-        button.SetCaption(caption);
-        button.SetToolTipText(toolTip);
-        button.SetVisible(true);
-        place(button, row, column);
+                            int row, int column, const std::string& shortcuts = "") {
+        CommandButtonProperties button = btnNumPad.Design;
+        button.Place.Left = PadOffset(column);
+        button.Place.Top = PadOffset(row);
+        button.Caption = caption;
+        button.ToolTipText = toolTip;
+        button.Shortcuts = shortcuts;
+        btnNumPad.Add(key, button);
     };
     for (int i = 1; i <= 9; ++i)
         create(i, std::to_string(i), std::to_string(i), (i - 1) / 3, (i - 1) % 3);
-    place(btnNumPad(0), 3, 1);
+    btnNumPad(0).SetLeft(PadOffset(1));
+    btnNumPad(0).SetTop(PadOffset(3));
     create(10, "X", "locke", 3, 2);
-    create(11, "C", "clear", 3, 0);
-    btnNumPad(11).SetShortcuts("Del; Backspace");
+    create(11, "C", "clear", 3, 0, "Del; Backspace");
 }
 
 // Below the number pad, with the same places for buttons, down to the bottom of the fields.
@@ -84,17 +89,13 @@ void frmTessarin::ArrangeActionPanel() {
     fraAction.SetWidth(fraNumPad.Width());
     fraAction.SetHeight(last.Top() + last.Height() - fraAction.Top());
 
-    const FontStyle font{.Name = "Arial", .Size = 14};
-    const std::pair<Control&, int> places[] = {
+    const std::pair<PlacedControl&, int> places[] = {
         {btnNextFree, 1},        {btnNextFreeAuto, 2},  {btnSolve, 3},   {btnGoBack, 4},
         {btnGoBackToFreedom, 5}, {btnNextFreeValue, 6}, {lblDeadEnd, 7}, {btnInfo, 8},
         {lblWinner, 9}};
     for (const auto& [control, key] : places) {
         control.SetLeft(btnNumPad(key).Left());
         control.SetTop(btnNumPad(key).Top());
-        control.SetWidth(FieldSide);
-        control.SetHeight(FieldSide);
-        control.SetFont(font);
     }
     for (Label* const indicator : {&lblDeadEnd, &lblWinner}) {
         indicator->SetCaption("");

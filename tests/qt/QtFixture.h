@@ -38,7 +38,7 @@ using QtParts = WindowParts<SpyPlatform, qt::QtToolkit>;
 /// "Return" are answers, too.
 class QtFixture : public testing::Test, protected QtParts, public WindowUser {
 protected:
-    QWidget* const form = &platform.CurrentForm();
+    QWidget* const form = &platform.Window();
 
     QtFixture();
     void TearDown() override { platform.ExpectNothingLeft(); }

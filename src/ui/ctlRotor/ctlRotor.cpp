@@ -14,24 +14,23 @@ constexpr int TickMilliseconds = 5;
 constexpr float PictureSide = 480;
 constexpr int PicturesInColumn = 4;
 
-ControlProperties PictureAt(int index) {
+PictureProperties PictureAt(int index) {
     const int column = index / PicturesInColumn;
     const int row = index % PicturesInColumn;
-    return {.Name = "Image1",
-            .Left = PictureSide * static_cast<float>(column),
-            .Top = PictureSide * static_cast<float>(row),
-            .Width = PictureSide,
-            .Height = PictureSide,
-            .Visible = false,
-            .PictureFile = "rotor-" + std::to_string(index) + ".png"};
+    return {.Place = {.Left = PictureSide * static_cast<float>(column),
+                      .Top = PictureSide * static_cast<float>(row),
+                      .Width = PictureSide,
+                      .Height = PictureSide},
+            .File = "rotor-" + std::to_string(index) + ".png",
+            .Visible = false};
 }
 
 } // namespace
 
-ctlRotor::ctlRotor(Control& container, ControlProperties properties)
-    : UserControl(container, std::move(properties)), Image1(*this, PictureAt(0)) {
-    for (int i = 1; i < Pictures; ++i)
-        Image1.Add(i, PictureAt(i));
+ctlRotor::ctlRotor(Control& container, std::string name, const Bounds& place)
+    : UserControl(container, std::move(name), {.Place = place}) {
+    for (int i = 0; i < Pictures; ++i)
+        Image1.emplace_back(*this, "Image1(" + std::to_string(i) + ")", PictureAt(i));
     Timer1.Tick = [this] { Timer1_Timer(); };
     UserControl_Initialize();
     UserControl_Resize();
@@ -44,12 +43,13 @@ void ctlRotor::UserControl_Initialize() {
 }
 
 void ctlRotor::UserControl_Resize() {
-    for (int i = 1; i < Pictures; ++i) {
-        Image1(i).SetLeft(Image1(0).Left());
-        Image1(i).SetTop(Image1(0).Top());
+    const Picture& first = Image1.front();
+    for (Picture& picture : Image1) {
+        picture.SetLeft(first.Left());
+        picture.SetTop(first.Top());
     }
-    SetWidth(Image1(0).Width());
-    SetHeight(Image1(0).Height());
+    SetWidth(first.Width());
+    SetHeight(first.Height());
 }
 
 void ctlRotor::SetRunning(bool SetRunning) {
@@ -79,7 +79,7 @@ void ctlRotor::Timer1_Timer() {
 
 void ctlRotor::ShowFrame() {
     for (int i = 0; i < Pictures; ++i)
-        Image1(i).SetVisible(i == FrameIndex);
+        Image1[static_cast<std::size_t>(i)].SetVisible(i == FrameIndex);
     PumpEvents(Pump::Now);
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "platform/Platform.h"
-#include "toolkit/ControlArray.h"
 #include "toolkit/Controls.h"
 
 #include <cstdint>
+#include <deque>
+#include <string>
 
 namespace tessarin {
 
@@ -14,7 +15,7 @@ namespace tessarin {
 /// picture, 480 by 480 twips.
 class ctlRotor : public UserControl {
 public:
-    ctlRotor(Control& container, ControlProperties properties);
+    ctlRotor(Control& container, std::string name, const Bounds& place);
 
     /// True starts or restarts the rotor, which shows a picture from the next tick on. False stops
     /// it and hides all pictures.
@@ -32,8 +33,8 @@ private:
 
     void BoundsChanged() override { UserControl_Resize(); }
 
-    ControlArray<Picture> Image1;
-    Timer Timer1{*this, {.Name = "Timer1"}};
+    std::deque<Picture> Image1; // counts from 0
+    Timer Timer1{*this, "Timer1"};
     bool UseHourglass = false;    // the pointer is an hourglass while the rotor turns
     std::int16_t FrameIndex = -1; // the visible picture; -1 while stopped
 };

@@ -1,0 +1,45 @@
+// The buttons. They report every click, also on an option that is selected already.
+#pragma once
+
+#include "qt/ControlWidget.h"
+
+#include <QPushButton>
+#include <QRadioButton>
+
+class QKeyEvent;
+
+namespace tessarin::qt {
+
+class QtCommandButton : public QPushButton, public ControlPeer, public TextWidget {
+public:
+    QtCommandButton(CommandButton& button, const Site& site);
+
+    void Changed(Property property) override { Apply(property); }
+    /// Whether the key clicks the button: it is its caption or one of its shortcuts.
+    bool IsClickedBy(const QKeyEvent& key) const;
+
+protected:
+    void ShowCaption() override;
+
+private:
+    const CommandButton& mButton;
+};
+
+/// The Tab key stops at the selected option, also when the mouse has selected it.
+class QtOption : public QRadioButton, public OptionPeer, public TextWidget {
+public:
+    QtOption(OptionButton& option, const Site& site);
+
+    void Changed(Property property) override { Apply(property); }
+    void Select() override { setChecked(true); }
+
+protected:
+    void ShowCaption() override;
+    // Can be clicked in its whole rectangle, not only on circle and text.
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+
+private:
+    const OptionButton& mOption;
+};
+
+} // namespace tessarin::qt
