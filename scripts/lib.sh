@@ -1,15 +1,17 @@
 # shellcheck shell=bash
-# shellcheck disable=SC2034 # the scripts that source this use the lists of packages
+# shellcheck disable=SC2034 # the scripts that source this use the version and the lists of packages
 
 # Shared by the scripts. Sourcing it changes to the project's folder.
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 
+version=$(sed -n 's/^project(Tessarin VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
+
 build_packages=(g++ cmake ninja-build)
 window_packages=(qt6-base-dev)
 test_packages=(libgtest-dev)
-package_packages=(build-essential cmake debhelper qt6-base-dev)
-package_check_packages=(appstream desktop-file-utils file lintian man-db)
+package_packages=(build-essential cmake debhelper fakeroot qt6-base-dev)
+package_check_packages=(appstream desktop-file-utils file lintian man-db mandoc xdotool)
 # To make a bare system, and to look at its window from outside.
 fresh_packages=(mmdebstrap git xdotool wmctrl imagemagick)
 # An X server that needs no screen, and a small window manager.
@@ -34,13 +36,14 @@ wait_until() {
     done
 }
 
+can_be_root() { ((EUID == 0)) || command -v sudo >/dev/null; }
+
 as_root() {
+    can_be_root || fail "root or sudo is needed for: $*"
     if ((EUID == 0)); then
         "$@"
-    elif command -v sudo >/dev/null; then
-        sudo "$@"
     else
-        fail "root or sudo is needed for: $*"
+        sudo "$@"
     fi
 }
 
@@ -53,11 +56,16 @@ need() {
             missing+=("$package")
     done
     ((${#missing[@]})) || return 0
-    echo "Installing with apt: ${missing[*]}"
-    ((EUID == 0)) || echo "This needs more rights: sudo may ask for your password."
+    if can_be_root; then
+        echo "Installing with apt: ${missing[*]}" >&2
+        ((EUID == 0)) || echo "This needs more rights: sudo may ask for your password." >&2
+    fi
     local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
-    as_root "${apt[@]}" update
-    as_root "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >/dev/null
+    if ! { can_be_root && as_root "${apt[@]}" update &&
+        as_root "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >/dev/null; }; then
+        fail "these Debian packages are needed. An administrator can install them with:
+    apt-get install --no-install-recommends ${missing[*]}"
+    fi
 }
 
 # configure_and_build <preset>

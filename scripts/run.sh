@@ -9,8 +9,15 @@ need "${build_packages[@]}" "${window_packages[@]}"
 configure_and_build release
 program=build/release/src/Tessarin
 
+# Qt's part for Wayland is a package of its own until Debian 13.
+has_wayland() { compgen -G "$(qtpaths6 --query QT_INSTALL_PLUGINS)/platforms/libqwayland*" >/dev/null; }
+
 if [[ ${WAYLAND_DISPLAY:-} ]]; then
-    need qt6-wayland
+    if ! has_wayland && [[ ${DISPLAY:-} ]]; then
+        echo 'The window opens through X11. With the package qt6-wayland it would speak Wayland.'
+        exec "$program"
+    fi
+    has_wayland || need qt6-wayland
     exec env QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-wayland;xcb}" "$program"
 fi
 if [[ ${DISPLAY:-} ]]; then
