@@ -1,5 +1,5 @@
 #!/bin/bash
-# Runs the README's two commands on a bare system, as a new user would: fresh.sh bookworm|trixie
+# Runs the README's two commands on a bare system, as a new user would: fresh.sh bookworm|trixie|forky
 # Makes a minimal Debian of that release in a temporary folder, from the mirror that this machine's
 # apt uses, and copies the last commit in: once with git and the history, once the plain files.
 # Saves a picture of the window in build/fresh/ and removes everything else. Needs root.
@@ -8,7 +8,7 @@ set -euo pipefail
 source "$(dirname "$0")/lib.sh"
 
 release=${1:-}
-[[ $release == bookworm || $release == trixie ]] || fail "bookworm or trixie?"
+[[ $release =~ ^(bookworm|trixie|forky)$ ]] || fail "bookworm, trixie or forky?"
 ((EUID == 0)) || fail "root is needed, to make a system in a folder"
 need "${fresh_packages[@]}"
 
@@ -81,8 +81,10 @@ mkdir -p build/fresh "$scratch/archives"
 mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Label: Debian' \
     'Component: main' | head -n 1)
 [[ $mirror ]] || fail "apt knows no mirror of Debian: run apt-get update"
-start mmdebstrap --variant=minbase --include=sudo --dpkgopt=force-unsafe-io \
-    "$release" "$scratch/base" "$mirror"
+options=(--variant=minbase --include=sudo --dpkgopt=force-unsafe-io)
+# The index of testing expires within a week; a mirror that is older still serves.
+[[ $release != forky ]] || options+=(--aptopt='Acquire::Check-Valid-Until "false"')
+start mmdebstrap "${options[@]}" "$release" "$scratch/base" "$mirror"
 finish 'a minimal system'
 chroot "$scratch/base" useradd --create-home --shell /bin/bash newcomer
 echo 'newcomer ALL=(ALL) NOPASSWD: ALL' >"$scratch/base/etc/sudoers.d/newcomer"
