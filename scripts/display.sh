@@ -42,3 +42,26 @@ start_display() {
 END
     start_process jwm -f "$scratch/jwmrc" >"$scratch/jwm.log" 2>&1
 }
+
+# use_noto_sans: programs that are started from now on have this font, whose lines are higher than
+# those of most. It is not installed, because then the desktop would have it, too.
+use_noto_sans() {
+    local fonts=$PWD/build/noto-sans
+    if [[ ! -d $fonts ]] && command -v apt-get >/dev/null; then
+        (cd "$scratch" && apt-get -qq -o APT::Sandbox::User=root download fonts-noto-core)
+        mkdir -p "$fonts"
+        dpkg-deb --fsys-tarfile "$scratch"/fonts-noto-core_*.deb |
+            tar -xC "$fonts" --wildcards '*/NotoSans-*'
+    fi
+    cat >"$scratch/fonts.conf" <<END
+<fontconfig>
+  <include>/etc/fonts/fonts.conf</include>
+  <dir>$fonts</dir>
+  <match>
+    <edit name="family" mode="prepend" binding="strong"><string>Noto Sans</string></edit>
+  </match>
+</fontconfig>
+END
+    export FONTCONFIG_FILE=$scratch/fonts.conf
+    [[ $(fc-match) == *'"Noto Sans"'* ]] || fail 'no font "Noto Sans"'
+}

@@ -44,7 +44,7 @@ choose() {
 
 # Sets box to the visible window with the given title that is not the main one.
 find_box() {
-    box=$(xdotool search --onlyvisible --name "^$1\$" | grep -vxF "${main:-none}" | head -n 1) &&
+    box=$(xdotool search --onlyvisible --name "^$1\$" | grep -vxF "$main" | head -n 1) &&
         [[ $box ]]
 }
 box_gone() { ! find_box "$1"; }
@@ -72,6 +72,19 @@ import_puzzle() {
     sleep 0.5
 }
 
+open_window() {
+    main=none
+    start_process env --chdir="$HOME" QT_QPA_PLATFORM=xcb "$program"
+    wait_until 20 'main window' find_box "$title"
+    main=$box
+    xdotool windowactivate --sync "$main"
+}
+window_closed() { ! kill -0 "${started[-1]}" 2>/dev/null; }
+close_window() {
+    choose 1 3
+    wait_until 10 'end of the program' window_closed
+}
+
 need "${build_packages[@]}" "${window_packages[@]}" xdotool imagemagick
 configure_and_build release
 mkdir -p build/tour
@@ -81,10 +94,7 @@ start_display 1280x960
 export HOME=$scratch XDG_CONFIG_HOME=$scratch # the file dialog keeps its state there
 cp puzzles/hard-1.csv puzzles/dead-end.csv "$HOME"
 
-start_process env --chdir="$HOME" QT_QPA_PLATFORM=xcb "$program"
-wait_until 20 'main window' find_box "$title"
-main=$box
-xdotool windowactivate --sync "$main"
+open_window
 take 01-start
 
 import_puzzle hard-1 02-import-dialog
@@ -124,6 +134,10 @@ wait_for_box 'About Tessarin'
 take 10-about
 answer_box 'About Tessarin'
 
-choose 1 3
-window_closed() { ! kill -0 "${started[-1]}" 2>/dev/null; }
-wait_until 10 'end of the program' window_closed
+close_window
+
+use_noto_sans
+open_window
+xdotool key --delay 50 i 5 Right # the information has a list that needs two lines
+take 11-noto-sans
+close_window
