@@ -23,7 +23,7 @@ void Recorder::TellText(const std::string& text) {
             if (std::ranges::find(in, index) == in.end())
                 mRecord += sign + std::to_string(index) + " ";
     };
-    const KeyedNumbers history = Player->History.value_or(KeyedNumbers());
+    const UniqueNumbers history = Player->History.value_or(UniqueNumbers());
     const auto before = std::exchange(mHistory, {history.begin(), history.end()});
     tellMissing(before, mHistory, '-');
     tellMissing(mHistory, before, '+');

@@ -7,14 +7,18 @@ namespace tessarin {
 class Fields;
 class Groups;
 
-/// The grid and its groups. Fields and groups refer to each other by number and look the numbers up
-/// in goBoard.
+/// The grid and its groups.
 struct Board {
     std::unique_ptr<tessarin::Fields> Fields;
     std::unique_ptr<tessarin::Groups> Groups; ///< none until they are built
 };
 
-/// The board of the one game, for the model, which knows no game. Set and cleared with goGame.
+/// The board of the one game. Set and cleared with goGame, which the model may not include.
 inline Board* goBoard = nullptr;
+
+/// The grid of goBoard. Fields, groups and player hold no reference to the grid: they find it here.
+inline Fields& Grid() {
+    return *goBoard->Fields;
+}
 
 } // namespace tessarin

@@ -1,4 +1,4 @@
-// The errors of keyed collections and text items. A position or index that does not exist is
+// The errors of UniqueNumbers and of text items. A position or index that does not exist is
 // std::out_of_range, a number outside the 32-bit range std::overflow_error.
 #pragma once
 
@@ -6,7 +6,7 @@
 
 namespace tessarin {
 
-/// A number is already in its keyed collection.
+/// A number is already there.
 struct DuplicateKeyError : std::invalid_argument {
     using std::invalid_argument::invalid_argument;
 };

@@ -3,11 +3,24 @@
 #include "model/Board.h"
 #include "model/Fields.h"
 #include "model/Groups.h"
-#include "model/ValueSet.h"
+#include "model/TakenValues.h"
 
 #include <algorithm>
 
 namespace tessarin {
+
+namespace {
+
+ValueSet TakenNow(const Field& field) {
+    const int numbers = Grid().Numbers();
+    return TakenValues(field, numbers, [numbers](int index) -> std::optional<ValueSet> {
+        const auto* const group = goBoard->Groups ? goBoard->Groups->Items.Find(index) : nullptr;
+        if (group == nullptr) return {};
+        return ValuesIn(**group, numbers);
+    });
+}
+
+} // namespace
 
 void Field::Clear() {
     mlValue = 0;
@@ -17,13 +30,13 @@ void Field::Clear() {
 void Field::SetValue(int MyValue) {
     if (MyValue == mlValue) return;
     mlValue = MyValue;
-    goBoard->Fields->FieldChanged(Index);
+    Grid().FieldChanged(Index);
 }
 
 void Field::SetLocked(bool MyLocked) {
     if (MyLocked == mbLocked) return;
     mbLocked = MyLocked;
-    goBoard->Fields->FieldChanged(0);
+    Grid().FieldChanged(0);
 }
 
 void Field::GroupAdd(const Group& Grp) {
@@ -32,23 +45,10 @@ void Field::GroupAdd(const Group& Grp) {
         Neighbours.TryAdd(index);
 }
 
-ValueSet Field::TakenValues() const {
-    ValueSet taken(goBoard->Fields->Numbers());
-    for (const int index : InGroups) {
-        const auto* const group = goBoard->Groups ? goBoard->Groups->Items.Find(index) : nullptr;
-        if (group == nullptr) continue;
-        taken.Add(mlValue); // a group that was registered by hand might not list this field
-        for (const int member : (*group)->Fields)
-            if (const auto* const field = goBoard->Fields->Items.Find(member))
-                taken.Add((*field)->Value());
-    }
-    return taken;
-}
-
-KeyedNumbers Field::FreeValues() const {
-    const ValueSet taken = TakenValues();
-    const int numbers = goBoard->Fields->Numbers();
-    KeyedNumbers free;
+UniqueNumbers Field::FreeValues() const {
+    const ValueSet taken = TakenNow(*this);
+    const int numbers = Grid().Numbers();
+    UniqueNumbers free;
     free.Reserve(numbers);
     for (int value = 1; value <= numbers; ++value)
         if (!taken.Contains(value)) free.Add(value);
@@ -56,7 +56,7 @@ KeyedNumbers Field::FreeValues() const {
 }
 
 int Field::Freedom() const {
-    return goBoard->Fields->Numbers() - TakenValues().Count();
+    return Grid().Numbers() - TakenNow(*this).Count();
 }
 
 std::string Field::FreeValuesList() const {
@@ -67,7 +67,7 @@ std::string Field::FreeValuesList() const {
 }
 
 int Field::NextFreeValue(bool SetValue) {
-    const KeyedNumbers free = FreeValues();
+    const UniqueNumbers free = FreeValues();
     const auto above = std::upper_bound(free.begin(), free.end(), mlValue);
     const int next = above != free.end() ? *above : 0;
     if (SetValue) this->SetValue(next);

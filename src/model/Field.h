@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/KeyedNumbers.h"
+#include "model/UniqueNumbers.h"
 
 #include <string>
 #include <string_view>
@@ -8,19 +8,18 @@
 namespace tessarin {
 
 class Group;
-class ValueSet;
 
 /// One cell of the grid: its value, its lock, and which values are still free for it. It refers to
-/// other fields and to groups by number and reports every change of value or lock to the grid of
-/// goBoard. It checks nothing: any value can be stored, a locked field can be changed.
+/// other fields and to groups by number and reports every change of value or lock to Grid(). It
+/// checks nothing: any value can be stored, a locked field can be changed.
 ///
 /// Reporting a change raises the grid's events and pumps window events, so any command can run
 /// before a setter returns, even one that replaces the grid: a caller needs its own shared_ptr.
 class Field {
 public:
-    int Index = 0;           ///< number in the grid, from 1 row by row; set once by the grid
-    KeyedNumbers Neighbours; ///< fields that share a group with it, itself included
-    KeyedNumbers InGroups;   ///< its groups: row, column, box
+    int Index = 0;            ///< number in the grid, from 1 row by row; set once by the grid
+    UniqueNumbers Neighbours; ///< fields that share a group with it, itself included
+    UniqueNumbers InGroups;   ///< its groups: row, column, box
 
     /// Empties and unlocks the field without telling the grid.
     void Clear();
@@ -41,7 +40,7 @@ public:
 
     /// The values 1 to Numbers, ascending, that no field of its groups holds, this field included.
     /// Without groups these are all values. Groups and fields that do not exist are ignored.
-    KeyedNumbers FreeValues() const;
+    UniqueNumbers FreeValues() const;
     /// The number of free values.
     int Freedom() const;
     /// The free values as text, each followed by ";": 2;5;9;
@@ -63,8 +62,6 @@ public:
     void SetTextSDK(std::string_view MyTextSDK);
 
 private:
-    ValueSet TakenValues() const;
-
     int mlValue = 0;
     bool mbLocked = false;
 };

@@ -2,15 +2,13 @@
 
 #include "model/Board.h"
 #include "model/Groups.h"
-#include "model/ValueSet.h"
+#include "model/TakenValues.h"
 #include "platform/Platform.h"
-#include "platform/ScopedValue.h"
 
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
 #include <utility>
-#include <vector>
 
 namespace tessarin {
 
@@ -23,23 +21,26 @@ int Square(int side) {
     return static_cast<int>(square);
 }
 
-// The item at `position`, from 1, or nullptr.
-auto* Find(auto& items, int position) {
-    const auto offset = static_cast<std::size_t>(position) - 1;
-    return offset < items.size() ? &items[offset] : nullptr;
+void RaiseAndPump(const Event<int>& event, int index) {
+    event.Raise(index);
+    PumpEvents();
 }
 
-// What each group of the board holds, collected in one walk over the fields: to ask every empty
-// field for its Freedom would take four times as long. Both agree as long as a field names the
-// groups that name it, as Field::GroupAdd leaves them.
-std::vector<ValueSet> HeldByGroup(const Collection<std::shared_ptr<Field>>& fields, int numbers) {
-    const int groups = goBoard->Groups ? goBoard->Groups->Items.Count() : 0;
-    std::vector<ValueSet> held(static_cast<std::size_t>(groups), ValueSet(numbers));
-    for (const auto& field : fields)
-        if (field->Value() != 0)
-            for (const int group : field->InGroups)
-                if (auto* const values = Find(held, group)) values->Add(field->Value());
-    return held;
+// The status compares a count with the one before, however many changes lie between them.
+int StatusOf(const Fields::Counts& now, const Fields::Counts& before) {
+    if (now.IsWinner || before.IsWinner) return Fields::WinnerToReport;
+    if (now.IsDeadEnd() || before.IsDeadEnd()) return Fields::DeadEndToReport;
+    return Fields::NothingToReport;
+}
+
+// The values in each group, read once for a pass: each group is one of many fields.
+Collection<ValueSet> ValuesInGroups(int numbers) {
+    Collection<ValueSet> values;
+    if (!goBoard->Groups) return values;
+    values.Reserve(goBoard->Groups->Items.Count());
+    for (const auto& group : goBoard->Groups->Items)
+        values.Add(ValuesIn(*group, numbers));
+    return values;
 }
 
 } // namespace
@@ -49,7 +50,6 @@ Fields::Fields() {
 }
 
 std::string Fields::Init(int MyDimension) {
-    const ScopedValue<bool> silence(mbNotify, false);
     const int dimension = MyDimension == 0 ? 3 : MyDimension;
     if (dimension < 3) return "Diemsion kleiner als 3 (" + std::to_string(dimension) + ")";
     if (dimension % 2 == 0)
@@ -62,18 +62,20 @@ std::string Fields::Init(int MyDimension) {
         field->Index = i;
         items.Add(std::move(field));
     }
+    const SilentChange silent(*this);
     mlDimension = dimension;
     Cursor.reset();
     Items = std::move(items);
-    ++mlChanges; // before the event: its handlers may read the status, or fail
     Events.Init.Raise();
     return "";
 }
 
 void Fields::Clear(bool FreeOnly) {
-    for (const auto& field : Items)
-        if (!FreeOnly || !field->Locked()) field->Clear();
-    ++mlChanges;
+    {
+        const SilentChange silent(*this);
+        for (const auto& field : Items)
+            if (!FreeOnly || !field->Locked()) field->Clear();
+    }
     SetIndex(1);
 }
 
@@ -87,10 +89,7 @@ void Fields::SetIndex(int MyIndex) {
     if (!Cursor && MyIndex < 1) return;
     if (MyIndex < 0 || MyIndex > Items.Count())
         throw std::out_of_range("no field " + std::to_string(MyIndex));
-    if (Cursor && Cursor->Index != MyIndex) {
-        Events.BeforeIndexChanged.Raise(Cursor->Index);
-        PumpEvents();
-    }
+    if (Cursor && Cursor->Index != MyIndex) RaiseAndPump(Events.BeforeIndexChanged, Cursor->Index);
     // Commands that ran in the event or the pump may have moved the cursor or replaced the fields.
     if (MyIndex != 0) {
         if (Cursor && Cursor->Index == MyIndex) return;
@@ -98,8 +97,7 @@ void Fields::SetIndex(int MyIndex) {
     } else {
         Cursor.reset();
     }
-    Events.IndexChanged.Raise(MyIndex);
-    PumpEvents();
+    RaiseAndPump(Events.IndexChanged, MyIndex);
 }
 
 int Fields::Count() const {
@@ -114,39 +112,42 @@ void Fields::FieldChanged(int ThisIndex) {
     ++mlChanges;
     if (!mbNotify) return;
     const int index = ThisIndex != 0 ? ThisIndex : Index();
-    Events.StatusChanged.Raise(index);
-    PumpEvents();
-    const int status = Status();
-    if (status == 0)
-        Events.IsWinner.Raise(IsWinner() ? index : 0);
-    else if (status == 2)
-        Events.IsDeadEnd.Raise(DeadField());
-    if (status != 1) PumpEvents(); // after that event
-    PumpEvents();
+    RaiseAndPump(Events.StatusChanged, index);
+    const Counts counts = CountAndPump();
+    if (counts.Status == WinnerToReport)
+        RaiseAndPump(Events.IsWinner, counts.IsWinner ? index : 0);
+    else if (counts.Status == DeadEndToReport)
+        RaiseAndPump(Events.IsDeadEnd, counts.DeadField);
+    PumpEvents(); // after the whole report, whatever it was
+}
+
+Fields::Counts Fields::CountAndPump() {
+    UpdateStatus();
+    return mCounts;
 }
 
 // Counts before it pumps, so that a count sees one state of the grid. If commands in the pumps have
 // changed the grid, it counts again without pumping: otherwise a stream of changes could go on for
 // ever.
-const Fields::Counts& Fields::UpdateStatus() {
-    if (mlCountedChanges == mlChanges) return mCounts;
+void Fields::UpdateStatus() {
+    if (mlCountedChanges == mlChanges) return;
     const auto changes = mlChanges;
-    Counts counts = CountFields();
+    CountedFields counted = CountFields();
     Platform& platform = Platform::Current(); // looked up once, not for each field
     for (int i = Items.Count(); i > 0; --i)
         platform.PumpEvents(Pump::WhenDue);
-    if (mlCountedChanges == mlChanges) return mCounts; // a command in the pumps has read the status
-    if (mlChanges != changes) counts = CountFields();
-    Publish(std::move(counts));
-    return mCounts;
+    if (mlCountedChanges == mlChanges) return; // a command in the pumps has read the status
+    if (mlChanges != changes) counted = CountFields();
+    Publish(std::move(counted));
 }
 
-Fields::Counts Fields::CountFields() const {
+Fields::CountedFields Fields::CountFields() const {
     const int numbers = Numbers();
-    const std::vector<ValueSet> held = HeldByGroup(Items, numbers);
-    ValueSet taken(numbers); // by the groups of the field
-    Counts counts;
     int smallestFreedom = numbers + 1;
+    const Collection<ValueSet> inGroups = ValuesInGroups(numbers);
+    const auto valuesOf = [&](int group) { return inGroups.Find(group); };
+    CountedFields counted;
+    Counts& counts = counted.Counts;
     for (const auto& field : Items) {
         if (field->Locked()) ++counts.Locked;
         if (field->Value() != 0) {
@@ -154,32 +155,23 @@ Fields::Counts Fields::CountFields() const {
             continue;
         }
         ++counts.Free;
-        taken.Clear();
-        for (const int group : field->InGroups)
-            if (const auto* const values = Find(held, group)) taken.Add(*values);
-        const int freedom = numbers - taken.Count();
+        const int freedom = numbers - TakenValues(*field, numbers, valuesOf).Count();
         if (freedom == 0) {
-            counts.DeadFields.Add(field->Index);
+            counted.DeadFields.Add(field->Index);
         } else if (freedom < smallestFreedom) {
             smallestFreedom = freedom;
             counts.NextFreeField = field->Index;
         }
     }
     counts.IsWinner = counts.Free == 0;
-    if (counts.DeadFields.Count() > 0) counts.DeadField = counts.DeadFields.Item(1);
-    return counts;
+    if (counted.DeadFields.Count() > 0) counts.DeadField = counted.DeadFields.Item(1);
+    return counted;
 }
 
-// The status compares the new count with the last one, however many changes lie between them.
-void Fields::Publish(Counts counts) {
-    if (counts.IsWinner || mCounts.IsWinner)
-        counts.Status = 0;
-    else if (counts.DeadField > 0 || mCounts.DeadField > 0)
-        counts.Status = 2;
-    else
-        counts.Status = 1;
-    DeadFields = std::move(counts.DeadFields);
-    mCounts = std::move(counts);
+void Fields::Publish(CountedFields counted) {
+    counted.Counts.Status = StatusOf(counted.Counts, mCounts);
+    mCounts = counted.Counts;
+    DeadFields = std::move(counted.DeadFields);
     mlCountedChanges = mlChanges;
 }
 

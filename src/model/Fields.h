@@ -3,7 +3,8 @@
 #include "model/Collection.h"
 #include "model/Event.h"
 #include "model/Field.h"
-#include "model/KeyedNumbers.h"
+#include "model/UniqueNumbers.h"
+#include "platform/ScopedValue.h"
 
 #include <memory>
 #include <optional>
@@ -16,12 +17,31 @@ namespace tessarin {
 /// tell of every change. With dimension D it has boxes of D by D fields, Numbers() = D*D rows and
 /// columns and Count() = Numbers()*Numbers() fields, numbered from 1 row by row.
 ///
-/// The status is lazy: a change only puts it out of date, and the next read of a status property
-/// counts all fields anew and pumps window events once for each. Commands that run meanwhile may
-/// change the grid or read the status themselves; every read returns the counts of the grid at its
-/// end.
+/// The status is lazy: a change only puts it out of date, and the next read of it counts all fields
+/// anew and pumps window events once for each. Commands that run meanwhile may change the grid or
+/// read the status themselves; every read returns the counts of the grid at its end.
 class Fields {
 public:
+    /// What a change has to report, besides itself (Counts::Status).
+    enum : int {
+        WinnerToReport = 0,  ///< the grid is full, or was so at the count before and is no longer
+        NothingToReport = 1, ///< neither
+        DeadEndToReport = 2  ///< there is a dead field, or was one at the count before
+    };
+
+    /// What a count of all fields finds.
+    struct Counts {
+        int Free = 0;          ///< empty fields, locked or not
+        int Locked = 0;        ///< locked fields, empty or not
+        int Set = 0;           ///< fields with a value that are not locked
+        int NextFreeField = 0; ///< the empty field with the fewest free values, at least one; or 0
+        int DeadField = 0;     ///< the lowest empty field without free value; 0 if none
+        bool IsWinner = false; ///< no field is empty
+        int Status = NothingToReport;
+
+        bool IsDeadEnd() const { return DeadField > 0; }
+    };
+
     /// SetIndex and FieldChanged pump window events after each event that they raise.
     struct GridEvents {
         Event<int> BeforeIndexChanged; ///< index of the field that the cursor is about to leave
@@ -41,7 +61,7 @@ public:
     std::shared_ptr<Field> Cursor;            ///< the current field or none; only the grid sets it
     Collection<std::shared_ptr<Field>> Items; ///< the field with Index k at position k
     /// The empty fields without free value at the last count, ascending; no list before the first.
-    std::optional<KeyedNumbers> DeadFields;
+    std::optional<UniqueNumbers> DeadFields;
 
     /// Replaces all fields by those of a dimension that is odd and at least 3 (0: dimension 3),
     /// removes the cursor and raises Init. Returns "", or why the dimension is refused and the grid
@@ -68,26 +88,23 @@ public:
     /// Locks or unlocks every field with a value above 0.
     void SetLockAll(bool LockState);
 
-    // The status. Each of these counts the fields first if the status is out of date.
+    /// The counts of the present grid. Counts the fields, and pumps, only if the status is out of
+    /// date.
+    Counts CountAndPump();
+    /// The counts that the last CountAndPump has found. Never counts.
+    const Counts& LastCounts() const { return mCounts; }
 
-    /// Empty fields, locked or not.
-    int FreeCount() { return UpdateStatus().Free; }
-    /// Locked fields, empty or not.
-    int LockedCount() { return UpdateStatus().Locked; }
-    /// Fields with a value that are not locked.
-    int SetCount() { return UpdateStatus().Set; }
-    /// The empty field with the fewest free values, at least one; 0 if none.
-    int NextFreeField() { return UpdateStatus().NextFreeField; }
-    /// Whether no field is empty.
-    bool IsWinner() { return UpdateStatus().IsWinner; }
-    /// Whether some empty field has no free value.
-    bool IsDeadEnd() { return DeadField() > 0; }
-    /// The event that a change raises: 0 IsWinner, 1 none, 2 IsDeadEnd.
-    int Status() { return UpdateStatus().Status; }
-    /// The lowest index of an empty field without free value; 0 if none.
-    int DeadField() { return UpdateStatus().DeadField; }
+    // Single counts. Each of these calls CountAndPump.
+    int FreeCount() { return CountAndPump().Free; }
+    int LockedCount() { return CountAndPump().Locked; }
+    int SetCount() { return CountAndPump().Set; }
+    int NextFreeField() { return CountAndPump().NextFreeField; }
+    bool IsWinner() { return CountAndPump().IsWinner; }
+    bool IsDeadEnd() { return CountAndPump().IsDeadEnd(); }
+    int Status() { return CountAndPump().Status; }
+    int DeadField() { return CountAndPump().DeadField; }
 
-    /// The number of DeadFields. Never counts anew.
+    /// The number of DeadFields. Never counts.
     int DeadCount() const { return DeadFields ? DeadFields->Count() : 0; }
 
     /// The cursor field's index, 0 without a cursor.
@@ -105,29 +122,30 @@ public:
 private:
     friend class Field; // which tells of its changes
 
-    // The value of field ThisIndex, or the lock of any field (0), has changed. Raises StatusChanged
-    // and then what Status says, except while the grid is being rebuilt.
-    void FieldChanged(int ThisIndex);
+    // While it lives, changes of fields raise no events. From its start on the status is out of
+    // date.
+    class [[nodiscard]] SilentChange {
+    public:
+        explicit SilentChange(Fields& grid) : mSilence(grid.mbNotify, false) { ++grid.mlChanges; }
 
-    // What one pass over all fields counts.
-    struct Counts {
-        int Free = 0;
-        int Locked = 0;
-        int Set = 0;
-        int NextFreeField = 0;
-        int DeadField = 0;
-        bool IsWinner = false;
-        int Status = 0; // found by Publish
-        KeyedNumbers DeadFields;
+    private:
+        ScopedValue<bool> mSilence;
     };
 
-    // Counts the fields if anything has changed since the last count.
-    const Counts& UpdateStatus();
-    Counts CountFields() const;
-    void Publish(Counts counts);
+    // The value of field ThisIndex, or the lock of any field (0), has changed. Raises StatusChanged
+    // and then the event that the status names, unless the change is silent.
+    void FieldChanged(int ThisIndex);
+
+    struct CountedFields {
+        Fields::Counts Counts;
+        UniqueNumbers DeadFields;
+    };
+    void UpdateStatus();
+    CountedFields CountFields() const;
+    void Publish(CountedFields counted);
 
     Counts mCounts;
-    bool mbNotify = true; // false: changes of fields raise no events
+    bool mbNotify = true;
     int mlDimension = 0;
     unsigned mlChanges = 0;        // of fields, so far
     unsigned mlCountedChanges = 0; // of them, those that mCounts knows; if fewer, it is out of date

@@ -5,14 +5,6 @@
 
 namespace tessarin {
 
-namespace {
-
-Fields& Grid() {
-    return *goBoard->Fields;
-}
-
-} // namespace
-
 void Groups::Init() {
     Items = {};
     mlGroupCount = 0;
@@ -45,14 +37,14 @@ void Groups::AddBoxGroup(int RowOffset, int ColumnOffset) {
     AddGroup(Group::Box, RowOffset, ColumnOffset, d, d);
 }
 
-void Groups::AddGroup(int flavor, int row, int column, int rows, int columns) {
+void Groups::AddGroup(int Flavor, int RowOffset, int ColumnOffset, int Rows, int Columns) {
     const int n = Grid().Numbers();
     const auto group = std::make_shared<Group>();
     group->Index = ++mlGroupCount;
-    group->Flavor = flavor;
+    group->Flavor = Flavor;
     group->Fields.Reserve(n);
-    for (int r = row; r < row + rows; ++r)
-        for (int c = column; c < column + columns; ++c)
+    for (int r = RowOffset; r < RowOffset + Rows; ++r)
+        for (int c = ColumnOffset; c < ColumnOffset + Columns; ++c)
             group->Fields.Add(r * n + c + 1);
     RegisterGroup(group);
 }

@@ -12,7 +12,7 @@ class Groups {
 public:
     Collection<std::shared_ptr<Group>> Items; ///< the group with Index g at position g
 
-    /// Builds the groups of goBoard's grid.
+    /// Builds the groups of Grid().
     Groups() { Init(); }
     Groups(const Groups&) = delete;
     Groups& operator=(const Groups&) = delete;
@@ -26,8 +26,8 @@ private:
     void AddColumnGroups();
     void AddBoxGroups();
     void AddBoxGroup(int RowOffset, int ColumnOffset);
-    // Builds the group of a rectangle of fields, whose first row and column count from 0.
-    void AddGroup(int flavor, int row, int column, int rows, int columns);
+    // Builds the group of a rectangle of fields. The offsets are those of its first row and column.
+    void AddGroup(int Flavor, int RowOffset, int ColumnOffset, int Rows, int Columns);
     void RegisterGroup(const std::shared_ptr<Group>& Grp);
 
     int mlGroupCount = 0; // the Index of the newest group

@@ -2,7 +2,6 @@
 #include "model/Field.h"
 #include "model/Fields.h"
 #include "model/TextItems.h"
-#include "platform/ScopedValue.h"
 
 namespace tessarin {
 
@@ -48,21 +47,25 @@ void Field::SetTextSDK(std::string_view MyTextSDK) {
 
 std::string Fields::TextCSV(bool WithEmpty) const {
     std::string text(HeaderCSV);
-    for (const auto& field : Items)
-        if (const auto line = field->TextCSV(WithEmpty); !line.empty())
-            text.append(LineBreak).append(line);
+    for (const auto& field : Items) {
+        const std::string line = field->TextCSV(WithEmpty);
+        if (!line.empty()) text.append(LineBreak).append(line);
+    }
     return text;
 }
 
 void Fields::SetTextCSV(std::string_view MyTextCSV, bool /*WithEmpty*/) {
     Init(3);
     if (FirstLine(MyTextCSV) != HeaderCSV) return;
-    ++mlChanges; // also of a load that fails
-    const ScopedValue<bool> silence(mbNotify, false);
+    const SilentChange silent(*this);
     TextItems lines(MyTextCSV, LineBreak);
-    for (lines.Next(); !lines.AtEnd();)
-        if (const auto line = lines.Next(); !line.empty())
-            Items.Item(ToNumber(TextItems(line, ";").Next()))->SetTextCSV(line);
+    lines.Next(); // the header
+    while (!lines.AtEnd()) {
+        const std::string_view line = lines.Next();
+        if (line.empty()) continue;
+        const int index = ToNumber(TextItems(line, ";").Next());
+        Items.Item(index)->SetTextCSV(line);
+    }
 }
 
 std::string Fields::TextSDK() const {
@@ -82,12 +85,12 @@ void Fields::SetTextSDK(std::string_view MyTextCSV) {
     const int dimension = DimensionOfLines(CountItems(lines));
     if (dimension == 0) return;
     Init(dimension);
-    ++mlChanges; // also of a load that fails
-    lines.Next();
+    const SilentChange silent(*this);
+    lines.Next(); // the header
     for (int row = 0; !lines.AtEnd(); ++row) {
-        int position = row * Numbers();
-        for (TextItems items(lines.Next(), ","); !items.AtEnd();)
-            Items.Item(++position)->SetTextSDK(items.Next());
+        TextItems values(lines.Next(), ",");
+        for (int index = row * Numbers() + 1; !values.AtEnd(); ++index)
+            Items.Item(index)->SetTextSDK(values.Next());
     }
 }
 

@@ -34,8 +34,10 @@ std::string_view TextItems::Next() {
 
 std::size_t CountItems(TextItems items) {
     std::size_t count = 0;
-    for (; !items.AtEnd(); items.Next())
+    while (!items.AtEnd()) {
+        items.Next();
         ++count;
+    }
     return count;
 }
 

@@ -49,7 +49,8 @@ private:
     using Word = std::uint64_t;
     static constexpr unsigned WordSize = 64;
 
-    // The place of a value, from 0; 0 and negative values get one past the last.
+    // The place of a value, from 0; 0 and negative values get places above 31 bits, far past the
+    // last.
     static unsigned Place(int value) { return static_cast<unsigned>(value) - 1; }
     static Word Bit(unsigned place) { return Word{1} << place % WordSize; }
 

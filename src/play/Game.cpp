@@ -9,6 +9,7 @@ namespace tessarin {
 
 namespace {
 
+// Raises `to` whenever `from` is raised.
 Connection Relay(Event<int>& from, const Event<int>& to) {
     return from.Connect([&to](int Index) {
         to.Raise(Index);
@@ -18,19 +19,17 @@ Connection Relay(Event<int>& from, const Event<int>& to) {
 
 } // namespace
 
-// Here the two roads to the game begin, which lead to the same object: play and the window read
-// goGame; the model, which may not include play, reads goBoard.
 Game::Game() {
     goGame = this;
     goBoard = this;
     Fields = std::make_unique<tessarin::Fields>();
-    auto& grid = Fields->Events;
-    mConnections = {Relay(grid.BeforeIndexChanged, Events.BeforeIndexChanged),
-                    Relay(grid.IndexChanged, Events.IndexChanged),
-                    Relay(grid.StatusChanged, Events.StatusChanged),
-                    Relay(grid.IsWinner, Events.IsWinner),
-                    Relay(grid.IsDeadEnd, Events.IsDeadEnd),
-                    grid.Init.Connect([this] { Fields_Init(); })};
+    auto& fromGrid = Fields->Events;
+    mConnections = {Relay(fromGrid.BeforeIndexChanged, Events.BeforeIndexChanged),
+                    Relay(fromGrid.IndexChanged, Events.IndexChanged),
+                    Relay(fromGrid.StatusChanged, Events.StatusChanged),
+                    Relay(fromGrid.IsWinner, Events.IsWinner),
+                    Relay(fromGrid.IsDeadEnd, Events.IsDeadEnd),
+                    fromGrid.Init.Connect([this] { Fields_Init(); })};
     Groups = std::make_unique<tessarin::Groups>();
     Play = std::make_unique<tessarin::Play>();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/KeyedNumbers.h"
+#include "model/UniqueNumbers.h"
 
 #include <memory>
 #include <optional>
@@ -18,13 +18,13 @@ class Field;
 /// SetValue keeps the field that it began with.
 class Play {
 public:
-    /// A player without history, for the grid of goGame.
+    /// A player without history, for Grid().
     Play() = default;
     Play(const Play&) = delete;
     Play& operator=(const Play&) = delete;
 
     /// The indices of the fields filled while tracing, oldest first; none while tracing is off.
-    std::optional<KeyedNumbers> History;
+    std::optional<UniqueNumbers> History;
     /// How often GoBackToFreedom has run since Solve last started.
     int Retries = 0;
 
@@ -32,7 +32,7 @@ public:
     void Reset();
 
     /// Whether filled fields are recorded.
-    bool Tracing() const { return mbTracing; }
+    bool Tracing() const { return History.has_value(); }
     /// Switching on starts an empty history, switching off drops it.
     void SetTracing(bool MyTracing);
 
@@ -73,15 +73,15 @@ public:
     void Solve();
 
 private:
-    void AddToHistory(int Index);
-    void EnterValue(Field& field, int value);
-    void EmptyField(Field& field);
+    void EnterNextFreeValue();
+    void EnterValue(int MyValue);
+    void EmptyOrStepBack();
     void GotoNewestEntry();
+    void AddToHistory(int Index);
     int Entries() const { return History ? History->Count() : 0; }
-    bool StepBack();
+    bool GoBackOnce();
+    bool CursorHasFreedom() const;
     void Retreat();
-
-    bool mbTracing = false;
 };
 
 } // namespace tessarin

@@ -1,21 +1,22 @@
 #include "play/Play.h"
 
+#include "model/Board.h"
 #include "model/Fields.h"
-#include "play/Game.h"
 #include "support/modKbd.h"
 
 namespace tessarin {
 
 void Play::Solve() {
-    auto& grid = *goGame->Fields;
+    Fields& grid = Grid();
     Retries = 0;
     ClearCancel();
     SetTracing(true);
     if (grid.Cursor) AddToHistory(grid.Index());
     while (!CancelRequested()) {
         GotoNextFreeField(true);
-        if (grid.IsDeadEnd()) Retreat();
-        if (grid.IsWinner() || grid.IsDeadEnd()) return;
+        if (grid.CountAndPump().IsDeadEnd()) Retreat();
+        const Fields::Counts counts = grid.CountAndPump();
+        if (counts.IsWinner || counts.IsDeadEnd()) return;
     }
 }
 

@@ -1,4 +1,4 @@
-#include "model/KeyedNumbers.h"
+#include "model/UniqueNumbers.h"
 
 #include "model/Errors.h"
 
@@ -6,16 +6,16 @@
 
 namespace tessarin {
 
-bool KeyedNumbers::Contains(int number) const {
+bool UniqueNumbers::Contains(int number) const {
     return Count() > 0 && number <= mlHighest && std::find(begin(), end(), number) != end();
 }
 
-void KeyedNumbers::Add(int number) {
+void UniqueNumbers::Add(int number) {
     if (!TryAdd(number))
         throw DuplicateKeyError("the number " + std::to_string(number) + " is already there");
 }
 
-bool KeyedNumbers::TryAdd(int number) {
+bool UniqueNumbers::TryAdd(int number) {
     if (Contains(number)) return false;
     mlHighest = Count() == 0 ? number : std::max(mlHighest, number);
     Collection::Add(number);
