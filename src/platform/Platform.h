@@ -87,13 +87,17 @@ public:
     virtual void ReportError(const std::string& what);
 
     // The window-style calls behind the taskbar entry. `handle` is the window's native handle. By
-    // default they do nothing, and every style is 0.
+    // default they do nothing, and every style is 0: a desktop gives every window its entry, and
+    // hiding the window would lose its place and focus.
+    static constexpr int HideCommand = 0;
+    static constexpr int ShowCommand = 5; ///< shows and activates the window
+    static constexpr int ExtendedStyle = -20;
+    static constexpr int ApplicationWindowBit = 0x40000; ///< gives the window a taskbar entry
     virtual int GetDesktopWindow() { return 0; }
     /// Suspends what the calls below make visible, to avoid flicker; handle 0 ends that.
     virtual void LockWindowUpdate(int /*handle*/) {}
-    /// Command 0 hides the window, command 5 shows and activates it.
     virtual void ShowWindow(int /*handle*/, int /*command*/) {}
-    /// Index -20 is the extended style; its bit 0x40000 gives the window a taskbar entry.
+    /// The style with that index, such as ExtendedStyle.
     virtual int GetWindowLongA(int /*handle*/, int /*index*/) { return 0; }
     virtual void SetWindowLongA(int /*handle*/, int /*index*/, int /*value*/) {}
 };

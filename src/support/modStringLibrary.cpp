@@ -34,9 +34,11 @@ std::string PadInteger(std::int16_t number, std::int16_t width, std::string_view
 std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view replacement) {
     std::string result(text);
     if (find.empty()) return result;
-    for (auto p = result.find(find); p != std::string::npos;
-         p = result.find(find, p + replacement.size()))
+    auto p = result.find(find);
+    while (p != std::string::npos) {
         result.replace(p, find.size(), replacement);
+        p = result.find(find, p + replacement.size());
+    }
     return result;
 }
 

@@ -1,4 +1,4 @@
-// Text helpers for keys, file names and version numbers. Texts are 8-bit, positions count from 1,
+// Text helpers for file names, dates and version numbers. Texts are 8-bit, positions count from 1,
 // and a blank is the character 32 alone.
 #pragma once
 

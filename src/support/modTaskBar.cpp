@@ -5,22 +5,18 @@
 
 namespace tessarin {
 
-namespace {
-constexpr int ExtendedStyle = -20;
-constexpr int ApplicationWindow = 0x40000;
-constexpr int CommandHide = 0;
-constexpr int CommandShow = 5;
-} // namespace
-
 void ShowInTaskBar(int windowHandle, bool show) {
     Platform& platform = Platform::Current();
     platform.LockWindowUpdate(platform.GetDesktopWindow());
     const AtScopeEnd unlock([&] { platform.LockWindowUpdate(0); });
-    platform.ShowWindow(windowHandle, CommandHide);
-    const int style = platform.GetWindowLongA(windowHandle, ExtendedStyle);
-    platform.SetWindowLongA(windowHandle, ExtendedStyle,
-                            show ? style | ApplicationWindow : style & ~ApplicationWindow);
-    platform.ShowWindow(windowHandle, CommandShow);
+    platform.ShowWindow(windowHandle, Platform::HideCommand);
+    int style = platform.GetWindowLongA(windowHandle, Platform::ExtendedStyle);
+    if (show)
+        style |= Platform::ApplicationWindowBit;
+    else
+        style &= ~Platform::ApplicationWindowBit;
+    platform.SetWindowLongA(windowHandle, Platform::ExtendedStyle, style);
+    platform.ShowWindow(windowHandle, Platform::ShowCommand);
 }
 
 } // namespace tessarin

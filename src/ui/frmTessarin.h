@@ -165,12 +165,15 @@ private:
     void ArrangeActionPanel();
     void ArrangeSideColumn();
 
-    FieldState StateOf(const Field& field, int deadField) const;
+    void PaintAsNeighbour(int index);
+    void PaintAsGroupMember(int index);
+    // With the dead field of the last count.
+    FieldState StateOf(const Field& field) const;
     void ShowState(int index, const FieldState& state);
     // The cursor has left the field that is painted as the current one: arrow keys, focus and
     // screen reader move to the cursor's label.
-    void MakeCursorCurrent(int deadField);
-    void RepaintFormerCurrent(int index, int deadField);
+    void MakeCursorCurrent();
+    void RepaintFormerCurrent(int index);
     std::string InfoText(const Field& field, const FieldState& state) const;
     static void SetIndicator(Label& indicator, Color color);
     // The labels of the fields that were dead at the last count.
@@ -211,9 +214,9 @@ private:
     std::unique_ptr<Game> moGame;
     std::array<Connection, 5> mConnections;
     bool Solving = false;
-    int ChillDelay = 0;       // the Delay of the chosen pace
-    int PreviousIndex = 0;    // the index of the last BeforeIndexChanged
-    int mlPaintedCurrent = 0; // the field that is painted as the current one; 0 for none
+    int ChillDelay = 0;     // the Delay of the chosen pace
+    int PreviousIndex = 0;  // the index of the last BeforeIndexChanged
+    int PaintedCurrent = 0; // the field that is painted as the current one; 0 for none
     bool mbViewRunning = false;
     bool mbInfoVisible = false;
 };

@@ -16,19 +16,19 @@ namespace tessarin {
 
 namespace {
 
-// Runs a step of an import or export. An error is not reported, and the next step follows.
+// Runs a step of an import or export. The next step follows even after an error.
 void RunIgnoringErrors(const std::function<void()>& step) {
     try {
         step();
     } catch (const std::exception&) {
-        return;
+        // The user is not told.
     }
 }
 
 bool Confirmed(const std::string& question) {
-    return Platform::Current().ShowMessage(
-               {.Prompt = question, .ButtonSet = Message::Buttons::YesNo, .QuestionIcon = true}) ==
-           Message::Answer::Yes;
+    const auto answer = Platform::Current().ShowMessage(
+        {.Prompt = question, .ButtonSet = Message::Buttons::YesNo, .QuestionIcon = true});
+    return answer == Message::Answer::Yes;
 }
 
 void Prepare(CommonDialog& dialog, const char* title, bool fileMustExist) {

@@ -11,37 +11,43 @@ namespace tessarin {
 
 void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
     Fields& grid = *moGame->Fields;
-    // May count the status and pump events: everything else is read after it, so that the field is
-    // painted as it is now.
-    const int deadField = grid.DeadField();
+    grid.CountAndPump(); // before everything else is read: the field is painted as it is then
     const int idx = index > 0 ? index : grid.Index();
     if (!grid.Items.Has(idx) || !lblField.Has(idx)) return;
-    const auto field = grid.Items.Item(idx);
-    FieldState state = StateOf(*field, deadField);
+    const Field& field = *grid.Items.Item(idx);
+    FieldState state = StateOf(field);
     state.IsMarked = neighbourMark || groupMark;
-    lblInfo.SetCaption(InfoText(*field, state));
-    if (idx == mlPaintedCurrent && !state.IsCursor) {
-        MakeCursorCurrent(deadField);
-        mlPaintedCurrent = 0;
+    lblInfo.SetCaption(InfoText(field, state));
+    if (idx == PaintedCurrent && !state.IsCursor) {
+        MakeCursorCurrent();
+        PaintedCurrent = 0;
     }
     ShowState(idx, state);
     if (state.IsCursor) {
         lblField(idx).MakeCurrent();
-        RepaintFormerCurrent(std::exchange(mlPaintedCurrent, idx), deadField);
+        RepaintFormerCurrent(std::exchange(PaintedCurrent, idx));
     }
     // Commands that run in the wait may change the pace or end the solve.
     const auto pause = [this] { return Solving ? ChillDelay : 0; };
     if (pause() > 0) Wait(pause);
 }
 
-FieldState frmTessarin::StateOf(const Field& field, int deadField) const {
+void frmTessarin::PaintAsNeighbour(int index) {
+    PaintField(index, true, false);
+}
+
+void frmTessarin::PaintAsGroupMember(int index) {
+    PaintField(index, false, true);
+}
+
+FieldState frmTessarin::StateOf(const Field& field) const {
     const Fields& grid = *moGame->Fields;
     const int n = grid.Numbers();
     return {.Row = (field.Index - 1) / n + 1,
             .Column = (field.Index - 1) % n + 1,
             .Value = field.Value(),
             .IsCursor = field.Index == grid.Index(),
-            .IsDead = field.Index == deadField,
+            .IsDead = field.Index == grid.LastCounts().DeadField,
             .IsLocked = field.Locked()};
 }
 
@@ -52,20 +58,20 @@ void frmTessarin::ShowState(int index, const FieldState& state) {
 
 // Before the label that had the focus gets its new look and name: a screen reader tells a focus
 // that moves, and a name that changes where the focus is.
-void frmTessarin::MakeCursorCurrent(int deadField) {
+void frmTessarin::MakeCursorCurrent() {
     const auto cursor = moGame->Fields->Cursor;
     if (!cursor || !lblField.Has(cursor->Index)) return;
     Label& label = lblField(cursor->Index);
-    label.SetAccessibleName(SpokenName(StateOf(*cursor, deadField)));
+    label.SetAccessibleName(SpokenName(StateOf(*cursor)));
     label.MakeCurrent();
 }
 
 // A click may move the cursor in the middle of another move, and paint its field as the current
 // one. The outer move then ends on its own field and would leave the field of the click green.
-void frmTessarin::RepaintFormerCurrent(int index, int deadField) {
+void frmTessarin::RepaintFormerCurrent(int index) {
     const auto& fields = moGame->Fields->Items;
-    if (index != mlPaintedCurrent && fields.Has(index))
-        ShowState(index, StateOf(*fields.Item(index), deadField));
+    if (index != PaintedCurrent && fields.Has(index))
+        ShowState(index, StateOf(*fields.Item(index)));
 }
 
 std::string frmTessarin::InfoText(const Field& field, const FieldState& state) const {
@@ -94,13 +100,15 @@ std::string frmTessarin::InfoText(const Field& field, const FieldState& state) c
 }
 
 void frmTessarin::PaintFreedoms() {
-    for (const auto& field : moGame->Fields->Items)
-        if (field->Value() == 0 && lblField.Has(field->Index)) {
-            Label& label = lblField(field->Index);
-            const FieldLook look = LookOfFreedom(field->Freedom());
-            Apply(look, label);
-            label.SetAccessibleName(SpokenName(StateOf(*field, 0)) + ", freedom " + look.Caption);
-        }
+    for (const auto& field : moGame->Fields->Items) {
+        if (field->Value() != 0 || !lblField.Has(field->Index)) continue;
+        FieldState state = StateOf(*field);
+        state.IsDead = false; // freedom 0 says it
+        const FieldLook look = LookOfFreedom(field->Freedom());
+        Label& label = lblField(field->Index);
+        Apply(look, label);
+        label.SetAccessibleName(SpokenName(state) + ", freedom " + look.Caption);
+    }
 }
 
 // Sets the final state of each key directly: hiding and showing keys is slow.

@@ -48,7 +48,7 @@ void frmTessarin::mnuViewNeighbours_Click() {
     const auto view = RunningView(*this);
     if (const auto cursor = moGame->Fields->Cursor) {
         for (const int index : cursor->Neighbours)
-            PaintField(index, true);
+            PaintAsNeighbour(index);
         ShowInformation("Neigbours = " + std::to_string(cursor->Neighbours.Count()));
         for (const int index : cursor->Neighbours)
             PaintField(index);
@@ -60,7 +60,7 @@ void frmTessarin::mnuViewGroups_Click() {
     const auto groups = moGame->Groups->Items; // an import meanwhile replaces them
     for (const auto& group : groups) {
         for (const int index : group->Fields)
-            PaintField(index, false, true);
+            PaintAsGroupMember(index);
         Wait(GroupMilliseconds);
         for (const int index : group->Fields)
             PaintField(index);
