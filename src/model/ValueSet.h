@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -17,15 +16,13 @@ public:
         if (mlNumbers > WordSize) mAbove.resize((mlNumbers - 1) / WordSize);
     }
 
-    void Clear() {
-        mWord = 0;
-        std::fill(mAbove.begin(), mAbove.end(), Word{0});
-    }
     /// Ignores a value outside 1 to `numbers`.
     void Add(int value) {
         const unsigned place = Place(value);
-        if (place >= mlNumbers) return;
-        (place < WordSize ? mWord : mAbove[place / WordSize - 1]) |= Bit(place);
+        if (mlNumbers <= WordSize)
+            mWord |= Word{place < mlNumbers} << place % WordSize; // no branch on what is random
+        else if (place < mlNumbers)
+            (place < WordSize ? mWord : mAbove[place / WordSize - 1]) |= Bit(place);
     }
     /// Adds the values of a set for the same `numbers`.
     void Add(const ValueSet& other) {
@@ -49,8 +46,7 @@ private:
     using Word = std::uint64_t;
     static constexpr unsigned WordSize = 64;
 
-    // The place of a value, from 0; 0 and negative values get places above 31 bits, far past the
-    // last.
+    // The place of a value, from 0; that of 0 and of negative values is higher than any in the set.
     static unsigned Place(int value) { return static_cast<unsigned>(value) - 1; }
     static Word Bit(unsigned place) { return Word{1} << place % WordSize; }
 

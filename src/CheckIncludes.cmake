@@ -1,0 +1,10 @@
+# Stops the build if a source of FOLDER includes another folder of src than ALLOWED ("model|platform").
+file(GLOB_RECURSE sources ${FOLDER}/*.h ${FOLDER}/*.cpp)
+foreach(source IN LISTS sources)
+  file(STRINGS ${source} includes REGEX "^#include \"")
+  foreach(include IN LISTS includes)
+    if(NOT include MATCHES "^#include \"(${ALLOWED})/")
+      message(FATAL_ERROR "${source}: ${include} goes against the layers")
+    endif()
+  endforeach()
+endforeach()
