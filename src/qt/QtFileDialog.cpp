@@ -61,14 +61,12 @@ public:
     QString Chosen() const { return msChosen; }
 
 protected:
-    // QFileDialog reads quotes as separators of several names; here they belong to one name. A file
-    // to open may have no extension: the default one is tried only if the name as typed does not
-    // exist. A file to save always gets one.
+    // A file to open may have no extension: the default one is tried only if the name as typed does
+    // not exist. A file to save always gets one.
     void accept() override {
-        const auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
-        const bool isQuoted = nameEdit != nullptr && nameEdit->text().contains('"');
-        QString path =
-            isQuoted ? directory().absoluteFilePath(nameEdit->text()) : selectedFiles().value(0);
+        QString path = QuotedPath();
+        const bool isQuoted = !path.isEmpty();
+        if (!isQuoted) path = selectedFiles().value(0);
         if (path.isEmpty() || QFileInfo(path).isDir()) {
             if (isQuoted)
                 setDirectory(path);
@@ -88,6 +86,14 @@ protected:
     }
 
 private:
+    // The path if its name as typed contains quotes. QFileDialog reads them as separators of
+    // several names; here they belong to one name.
+    QString QuotedPath() const {
+        const auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
+        if (nameEdit == nullptr || !nameEdit->text().contains('"')) return {};
+        return directory().absoluteFilePath(nameEdit->text());
+    }
+
     // Why the file cannot be chosen; empty if it can.
     QString ReasonAgainst(const QFileInfo& file) const {
         if (mRequest.FileMustExist && !file.isFile())

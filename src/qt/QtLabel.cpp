@@ -64,8 +64,11 @@ void QtLabel::DrawLines(QPainter& painter, const QRect& space) const {
     text.replace(';', QStringLiteral(";\u200B")); // where a line may end
     QTextLayout layout(text, font());
     layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
+    while (true) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid()) break;
         line.setLineWidth(space.width());
+    }
     layout.endLayout();
     const int count = layout.lineCount();
     const qreal distance = std::min(1.2 * font().pixelSize(), 1.0 * space.height() / count);

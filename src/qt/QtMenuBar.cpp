@@ -90,8 +90,11 @@ public:
         setShortcuts(Shortcuts(item.Shortcuts));
         setAutoRepeat(false);
         connect(this, &QAction::triggered, [&item] { item.RaiseClick(); });
-        auto* const menu = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
-        (menu != nullptr ? menu->Menu() : bar).addAction(this);
+        auto* const container = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
+        if (container != nullptr)
+            container->Menu().addAction(this);
+        else
+            bar.addAction(this);
     }
 
     // Only Enabled can change.

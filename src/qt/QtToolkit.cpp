@@ -118,18 +118,17 @@ private:
     Timer& mTimer;
 };
 
-// The control's container has its widget already.
-template <class Widget, class Kind>
-std::unique_ptr<Widget> Make(Kind& control, QtForm& form, QtPlatform& platform) {
+} // namespace
+
+template <class Widget, class KindOfControl>
+std::unique_ptr<Widget> QtToolkit::Make(KindOfControl& control) {
     auto& container = dynamic_cast<QWidget&>(control.Container()->Peer());
-    QWidget& parent = &container == &form ? form.Client() : container;
+    QWidget& parent = &container == mForm ? mForm->Client() : container;
     auto widget =
-        std::make_unique<Widget>(control, Site{parent, form.Client(), form.Focus(), platform});
+        std::make_unique<Widget>(control, Site{parent, mForm->Client(), mForm->Focus(), mPlatform});
     widget->Changed(Property::Texts);
     return widget;
 }
-
-} // namespace
 
 std::unique_ptr<FormPeer> QtToolkit::Create(Form& form) {
     QAccessible::installFactory(CreateAccessible);
@@ -140,15 +139,15 @@ std::unique_ptr<FormPeer> QtToolkit::Create(Form& form) {
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(CommandButton& button) {
-    return Make<QtCommandButton>(button, *mForm, mPlatform);
+    return Make<QtCommandButton>(button);
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(Frame& frame) {
-    return Make<QtFrame>(frame, *mForm, mPlatform);
+    return Make<QtFrame>(frame);
 }
 
 std::unique_ptr<LabelPeer> QtToolkit::Create(Label& label) {
-    return Make<QtLabel>(label, *mForm, mPlatform);
+    return Make<QtLabel>(label);
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(MenuItem& item) {
@@ -156,11 +155,11 @@ std::unique_ptr<ControlPeer> QtToolkit::Create(MenuItem& item) {
 }
 
 std::unique_ptr<OptionPeer> QtToolkit::Create(OptionButton& option) {
-    return Make<QtOption>(option, *mForm, mPlatform);
+    return Make<QtOption>(option);
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(Picture& picture) {
-    return Make<QtPicture>(picture, *mForm, mPlatform);
+    return Make<QtPicture>(picture);
 }
 
 std::unique_ptr<ControlPeer> QtToolkit::Create(Timer& timer) {

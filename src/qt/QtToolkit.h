@@ -27,6 +27,10 @@ public:
     std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool saving) override;
 
 private:
+    // The widget for a placed control.
+    template <class Widget, class KindOfControl>
+    std::unique_ptr<Widget> Make(KindOfControl& control);
+
     QtPlatform& mPlatform;
     QtForm* mForm = nullptr; // set by the first Create, that of the form
 };
