@@ -63,6 +63,7 @@ void QtLabel::DrawLines(QPainter& painter, const QRect& space) const {
     text.replace("\r\n", QChar(QChar::LineSeparator));
     text.replace(';', QStringLiteral(";\u200B")); // where a line may end
     QTextLayout layout(text, font());
+    layout.setCacheEnabled(true); // otherwise each line lays out the whole text again
     layout.beginLayout();
     while (true) {
         QTextLine line = layout.createLine();
