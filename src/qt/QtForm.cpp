@@ -50,7 +50,7 @@ void QtForm::Changed(Property property) {
 void QtForm::Arrange() {
     const QSize size = mFrame.InnerSize();
     const int menuHeight = mMenuBar.sizeHint().height();
-    mMenuBar.setGeometry(0, 0, size.width(), menuHeight);
+    mMenuBar.setGeometry(0, 0, width(), menuHeight);
     mClient.setGeometry(0, menuHeight, size.width(), size.height() - menuHeight);
     for (QObject* const child : mClient.children())
         if (auto* const widget = dynamic_cast<ControlWidget*>(child)) widget->Place();
@@ -62,7 +62,7 @@ QRect QtForm::GridOnScreen() const {
 
 bool QtForm::event(QEvent* event) {
     const bool handled = QWidget::event(event);
-    if (mFrame.Follow(*event)) Arrange();
+    if (mFrame.Follow(*event) || event->type() == QEvent::Resize) Arrange();
     // A box of our own has not hidden much, and its end would repaint inside the running command.
     if (event->type() == QEvent::WindowActivate && !std::exchange(mbLeftForOwnBox, false))
         Activate();

@@ -2,12 +2,19 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QWidget>
 #include <QWindow>
 
-#include <algorithm>
-
 namespace tessarin::qt {
+
+namespace {
+
+bool IsOnWayland() {
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+} // namespace
 
 void WindowFrame::SetSize(QSize outer, int leastHeight) {
     mOuter = outer;
@@ -21,33 +28,41 @@ QSize WindowFrame::InnerSize() const {
 }
 
 // X11 tells the frame with the first move, other systems with the first paint. Margins of zero mean
-// "not known yet" before the first paint and "no frame" after it.
+// "not known yet" before the first paint and "no frame" after it. On Wayland they also mean that
+// the compositor draws the frame, and it does not tell its thickness.
 bool WindowFrame::Follow(const QEvent& event) {
     const bool isPaint = event.type() == QEvent::Paint;
     const bool isResize = event.type() == QEvent::Resize;
-    const bool hasWrongSize = isResize && mWindow.size() != InnerSize();
-    if (hasWrongSize || event.type() == QEvent::WindowStateChange) ApplySize();
+    if (isResize || event.type() == QEvent::WindowStateChange) ApplySize();
     if (!isPaint && !isResize && event.type() != QEvent::Move) return false;
     if (!mWindow.isVisible()) return false;
     const QMargins margins = mWindow.windowHandle()->frameMargins();
-    if (margins == mMargins || (margins.isNull() && !isPaint)) return false;
+    const bool isUnknown = margins.isNull() && (!isPaint || IsOnWayland());
+    if (isUnknown || margins == mMargins) return false;
     mMargins = margins;
     ApplySize();
     return true;
 }
 
-// Some desktops maximise every window. It must then take the size that it is given: on Wayland
-// another one would break the protocol, and the system would end the program. Qt keeps to a fixed
-// size even then, so there the size is not fixed, but set again after each change.
+// Wayland desktops maximise windows or put them into tiles. There the window must take the size
+// that it is given: another one may hide its menus, or break the protocol, which ends the program.
 void WindowFrame::ApplySize() {
     const QWindow* const native = mWindow.windowHandle();
     const auto states =
         mWindow.windowState() | (native ? native->windowStates() : mWindow.windowState());
     if (states.testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen)) return;
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
-        mWindow.resize(InnerSize());
-    else
+    if (!IsOnWayland()) {
         mWindow.setFixedSize(InnerSize());
+        return;
+    }
+    // Unless it has its own size, a tile or the user has given it another one.
+    const QSize least = mWindow.minimumSize();
+    const bool hasOwnSize =
+        !mWindow.isVisible() || mWindow.size().expandedTo(least) == mOwnSize.expandedTo(least);
+    if (hasOwnSize) mOwnSize = InnerSize();
+    // A least size holds for maximised windows, too: on a small screen it leaves room for panels.
+    mWindow.setMinimumSize(InnerSize().boundedTo(mWindow.screen()->size() * 0.75));
+    mWindow.resize(hasOwnSize ? mOwnSize : mWindow.size().expandedTo(InnerSize()));
 }
 
 } // namespace tessarin::qt

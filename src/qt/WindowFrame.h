@@ -10,7 +10,8 @@ namespace tessarin::qt {
 
 /// Keeps the outer size of a window fixed. Qt's sizes are without the frame, whose thickness
 /// depends on the desktop and is known only some milliseconds after the window is shown. Until then
-/// a thin one is assumed.
+/// a thin one is assumed. On Wayland the window can also be larger: maximised, in a tile, or pulled
+/// by the user.
 class WindowFrame {
 public:
     explicit WindowFrame(QWidget& window) : mWindow(window) {}
@@ -31,6 +32,7 @@ private:
     QMargins mMargins{1, 20, 1, 1};
     QSize mOuter;
     int mlLeastHeight = 0;
+    QSize mOwnSize; // on Wayland, asked for last
 };
 
 } // namespace tessarin::qt
