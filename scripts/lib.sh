@@ -16,8 +16,8 @@ package_check_packages=(appstream desktop-file-utils file lintian man-db mandoc 
 fresh_packages=(mmdebstrap git xdotool wmctrl imagemagick)
 # An X server that needs no screen, and a small window manager.
 display_packages=(xvfb jwm)
-# A compositor, hands on it, and pictures of it.
-wayland_packages=(weston qt6-wayland imagemagick xdotool)
+# Compositors, hands on them, and pictures of them.
+wayland_packages=(weston sway qt6-wayland imagemagick xdotool)
 # To hear what a screen reader hears.
 reader_packages=(at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xdotool)
 
