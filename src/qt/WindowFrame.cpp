@@ -33,7 +33,7 @@ QSize WindowFrame::InnerSize() const {
 bool WindowFrame::Follow(const QEvent& event) {
     const bool isPaint = event.type() == QEvent::Paint;
     const bool isResize = event.type() == QEvent::Resize;
-    if (isResize || event.type() == QEvent::WindowStateChange) ApplySize();
+    if (isResize) ApplySize();
     if (!isPaint && !isResize && event.type() != QEvent::Move) return false;
     if (!mWindow.isVisible()) return false;
     const QMargins margins = mWindow.windowHandle()->frameMargins();
