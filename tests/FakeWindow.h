@@ -8,18 +8,18 @@
 
 namespace tessarin {
 
-/// A window toolkit that shows nothing. Its peers do nothing; Find looks controls up by name.
+/// A window toolkit that shows nothing. Its peers do nothing; controls are clicked by name.
 class FakeToolkit : public Toolkit {
 public:
     explicit FakeToolkit(ScriptedPlatform& platform) : mPlatform(platform) {}
 
-    Control& Find(const std::string& name) { return *mControls.at(name); }
+    void Click(const std::string& name) { mControls.at(name).first->RaiseClick(); }
     /// The names of all controls that can be clicked: one field and one digit stand for all.
     std::vector<std::string> Commands() const {
         std::vector<std::string> names{"lblField(50)", "btnNumPad(5)"};
         const std::regex alike("lblField.*|btnNumPad.[0-9].");
-        for (const auto& [name, click] : mClicks)
-            if (*click && !std::regex_match(name, alike)) names.push_back(name);
+        for (const auto& [name, control] : mControls)
+            if (*control.second && !std::regex_match(name, alike)) names.push_back(name);
         return names;
     }
 
@@ -35,8 +35,8 @@ public:
     }
     std::unique_ptr<ControlPeer> Create(Picture& picture) override { return Add(picture); }
     std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
-    std::optional<std::string> RunFileDialog(const CommonDialog& /*dialog*/, bool saving) override {
-        mPlatform.Tell(saving ? "Save" : "Open");
+    std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool /*saving*/) override {
+        mPlatform.Tell(dialog.DialogTitle);
         const std::string path = mPlatform.TakeAnswer();
         return path.empty() ? std::nullopt : std::optional(path);
     }
@@ -62,14 +62,13 @@ private:
 
     template <class Peer = Quiet<ControlPeer>, class KindOfControl>
     std::unique_ptr<Peer> Add(KindOfControl& control) {
-        mControls[control.Name()] = &control;
-        if constexpr (requires { control.Click; }) mClicks[control.Name()] = &control.Click;
+        if constexpr (requires { control.Click; })
+            mControls[control.Name()] = {&control, &control.Click};
         return std::make_unique<Peer>();
     }
 
     ScriptedPlatform& mPlatform;
-    std::map<std::string, Control*> mControls;
-    std::map<std::string, const std::function<void()>*> mClicks;
+    std::map<std::string, std::pair<Control*, std::function<void()>*>> mControls;
 };
 
 /// The window, active, on the toolkit that shows nothing.
@@ -78,11 +77,11 @@ public:
     FakeWindow() : WindowUser(platform, OwnWindow) {
         window.Show();
         window.RaiseActivate();
-        platform.TakeRecord();
+        platform.Record.clear();
     }
 
 protected:
-    void ClickControl(const std::string& control) override { toolkit.Find(control).RaiseClick(); }
+    void ClickControl(const std::string& control) override { toolkit.Click(control); }
 };
 
 class WindowFixture : public testing::Test, protected FakeWindow {

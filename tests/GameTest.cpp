@@ -3,12 +3,24 @@
 #include "support/modKbd.h"
 #include "support/modWait.h"
 
+#include <gtest/gtest-spi.h>
+
 namespace tessarin {
 
 constexpr bool AutoValue = true; // of the player's commands
 constexpr bool Store = true;     // of NextFreeValue
 
 using GridTest = GameFixture;
+
+TEST_F(GridTest, AFailureNamesTheLineOfItsStep) {
+    testing::TestPartResultArray failures;
+    {
+        const testing::ScopedFakeTestPartResultReporter reporter(&failures);
+        TELLS(grid.SetIndex(5), "to 6");
+    }
+    EXPECT_EQ(failures.GetTestPartResult(0).line_number(), __LINE__ - 2);
+    EXPECT_STREQ(failures.GetTestPartResult(0).file_name(), __FILE__);
+}
 
 TEST_F(GridTest, FreeIsWhatNoNeighbourHolds) {
     Fill("5.......1 .2....... ......... 9");
@@ -89,6 +101,17 @@ TEST_F(GridTest, AWaitPumpsBeforeAndAfterItsSleep) {
     platform.TellsPumps = true;
     TELLS(Wait(100), "(1) Sleep(100) (1)");
     TELLS(Wait(0), "(1)");
+    int pause = 800;
+    AtPump(1, [&] { pause = 100; });
+    TELLS(Wait([&] { return pause; }), "(1) Sleep(100) (1)");
+}
+
+TEST_F(GridTest, AGameThatEndsLeavesANewerOneInItsPlace) {
+    auto older = std::make_unique<Game>();
+    const Game newer;
+    older.reset();
+    EXPECT_EQ(goGame, &newer);
+    EXPECT_EQ(goBoard, &newer);
 }
 
 using PlayTest = GameFixture;
@@ -96,10 +119,11 @@ using PlayTest = GameFixture;
 TEST_F(PlayTest, OnlyFreeValuesAreEntered) {
     Fill("..125.... 67....... 9"); // field 1 may have 3, 4 and 8
     grid.SetIndex(1);
-    At(1).SetLocked(true);
+    At(1).SetLocked(true); // has no effect
+    Trace({12});
     TELLS(play.SetValue(5), "");
     TELLS(play.SetValue(12), "");
-    TELLS(play.SetValue(3), "1=3");
+    TELLS(play.SetValue(3), "1=3 +1");
     TELLS(play.SetValue(3), "");
     TELLS(play.SetValue(8), "1=8");
     TELLS(play.SetValue(4, AutoValue), "");
@@ -114,13 +138,6 @@ TEST_F(PlayTest, TheNextFreeValueIsTakenWithoutHistory) {
     TELLS(play.NextFreeValue(Store), "1=8");
     TELLS(EXPECT_EQ(play.NextFreeValue(Store), 0), "1=0");
     TELLS(play.SetValue(0, AutoValue), "1=3 +1");
-}
-
-TEST_F(PlayTest, AnEnteredFieldJoinsTheHistoryOnce) {
-    grid.SetIndex(1);
-    Trace({12});
-    TELLS(play.SetValue(3), "1=3 +1");
-    TELLS(play.SetValue(4), "1=4");
 }
 
 TEST_F(PlayTest, ClearingGoesBackAlongTheHistory) {
@@ -157,6 +174,7 @@ TEST_F(PlayTest, ARetreatStopsAtTheFirstFieldWithFreedom) {
     Trace({1, 81});
     At(81).SetValue(1);
     grid.SetIndex(81);
+    Meanwhile([&] { EXPECT_EQ(play.Retries, 1); });
     TELLS(play.GoBackToFreedom(), "81=0 -81 from 81 to 1");
     grid.SetIndex(80);
     TELLS(play.GoBackToFreedom(AutoValue), "from 80 to 1 1=8");

@@ -25,7 +25,7 @@ TEST_P(NestingTest, LeavesNothingStuckAndAllPainted) {
             user.FullBut({41, 1, 9, 21, 45, 80});
             user.Trace({3, 40});
             user.Pace("100");
-            user.Click("lblField(3)");
+            user.Click(3);
             user.platform.SaysYes = true;
             bool ran = false;
             user.AtPump(pump, [&] {

@@ -12,8 +12,8 @@ public:
     ScriptedPlatform() { Platform::SetCurrent(this); }
     ~ScriptedPlatform() override { Platform::SetCurrent(nullptr); }
 
-    std::vector<bool> EscPresses; ///< before the next cycles of a solve; none after them
-    bool SaysYes = false;         ///< to all questions without an answer in Answers
+    std::deque<bool> EscPresses; ///< before the next cycles of a solve; none after them
+    bool SaysYes = false;        ///< to all questions without an answer in Answers
     std::string Folder = ".";
     std::string ExpectedError; ///< of a handler of the window
     bool Hourglass = false;    ///< the mouse pointer
@@ -30,7 +30,7 @@ public:
     bool EscPressed() override {
         if (EscPresses.empty()) return false;
         const bool pressed = EscPresses.front();
-        EscPresses.erase(EscPresses.begin());
+        EscPresses.pop_front();
         return pressed;
     }
     Message::Answer ShowMessage(const Message& box) override {

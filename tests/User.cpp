@@ -18,18 +18,17 @@ static std::string WithLineBreaks(const std::string& text) {
 }
 
 void Recorder::TellText(const std::string& text) {
-    const auto tellMissing = [this](const auto& from, const auto& in, char sign) {
-        for (const int index : from)
-            if (std::ranges::find(in, index) == in.end())
-                mRecord += sign + std::to_string(index) + " ";
-    };
     const UniqueNumbers history = Player->History.value_or(UniqueNumbers());
-    const auto before = std::exchange(mHistory, {history.begin(), history.end()});
-    tellMissing(before, mHistory, '-');
-    tellMissing(mHistory, before, '+');
+    const auto tellMissing = [this](const auto& from, const auto& in, const char* sign) {
+        for (const int index : from)
+            if (!in.Contains(index)) Record += sign + std::to_string(index) + " ";
+    };
+    tellMissing(mHistory, history, "-");
+    tellMissing(history, mHistory, "+");
+    mHistory = history;
     const int pumps = mPumps - std::exchange(mPumpsTold, mPumps);
-    if (TellsPumps && pumps > 0) mRecord += "(" + std::to_string(pumps) + ") ";
-    if (!text.empty()) mRecord += text + " ";
+    if (TellsPumps && pumps > 0) Record += "(" + std::to_string(pumps) + ") ";
+    if (!text.empty()) Record += text + " ";
 }
 
 void Recorder::Pumped() {
@@ -43,7 +42,7 @@ void Recorder::Paused() {
 std::string Recorder::TakeAnswer() {
     if (Answers.empty()) return "";
     const std::string answer = Answers.front();
-    Answers.erase(Answers.begin());
+    Answers.pop_front();
     return answer;
 }
 
@@ -70,15 +69,14 @@ User::~User() {
 
 std::string User::Told(const std::function<void()>& step) {
     Tell("");
-    const std::string outer = mRecorder.TakeRecord();
+    const std::string outer = std::exchange(mRecorder.Record, "");
     try {
         step();
     } catch (const std::exception& error) {
         Tell("! ", error.what());
     }
     Tell(""); // what has changed without being told
-    const std::string told = mRecorder.TakeRecord();
-    mRecorder.PutBack(outer);
+    const std::string told = std::exchange(mRecorder.Record, outer);
     return ReplaceAll(WithBars(told.substr(0, told.find_last_of(' '))), folder, "");
 }
 

@@ -19,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <functional>
 #include <sstream>
 #include <string>
@@ -43,7 +44,8 @@ public:
     /// Fails if something was prepared that has not been asked for.
     void ExpectNothingLeft();
 
-    std::vector<std::string> Answers; ///< to the next boxes: a button; to the next dialogs: a path
+    std::string Record;              ///< what has been told, each item with a blank behind it
+    std::deque<std::string> Answers; ///< to the next boxes: a button; to the next dialogs: a path
     bool TellsPumps = false;
     const Play* Player = nullptr; ///< whose history is told
 
@@ -53,10 +55,6 @@ public:
         (text << ... << parts);
         TellText(text.str());
     }
-    /// What has been told since the last call.
-    std::string TakeRecord() { return std::exchange(mRecord, ""); }
-    void PutBack(const std::string& record) { mRecord = record; }
-
     /// To be called in each pump; while a box is open and during a sleep.
     void Pumped();
     void Paused();
@@ -66,8 +64,7 @@ public:
 private:
     void TellText(const std::string& text);
 
-    std::string mRecord;       // each item with a blank behind it
-    std::vector<int> mHistory; // as told last
+    UniqueNumbers mHistory; // as told last
     int mPumps = 0;
     int mPumpsTold = 0;
     int mPumpOfAction = 0;

@@ -20,8 +20,7 @@ WindowUser::WindowUser(Recorder& recorder, frmTessarin& worked)
     : User(recorder, *goGame), window(worked) {}
 
 void WindowUser::Click(const std::string& control, const std::string& answer) {
-    auto& answers = mRecorder.Answers;
-    if (!answer.empty()) answers.insert(answers.begin(), answer);
+    if (!answer.empty()) mRecorder.Answers.push_front(answer);
     ClickControl(control);
 }
 

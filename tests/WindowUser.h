@@ -23,6 +23,8 @@ public:
     /// Clicks a control: "btnSolve", "lblField(40)". The box or dialog that opens is closed by
     /// `answer`: a button, or the path of a file.
     void Click(const std::string& control, const std::string& answer = "");
+    /// Clicks a field.
+    void Click(int field) { Click("lblField(" + std::to_string(field) + ")"); }
     /// Chooses a pace by its caption.
     void Pace(const std::string& caption);
     /// Opens a file with these lines of CSV: see Load. Returns its path.

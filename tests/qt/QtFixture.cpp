@@ -11,7 +11,7 @@ QtFixture::QtFixture() : WindowUser(platform, OwnWindow) {
     mEyes.start(10);
     window.Show();
     Activate();
-    platform.TakeRecord();
+    platform.Record.clear();
 }
 
 void QtFixture::Key(const QString& keys, const std::string& answer) {
@@ -46,7 +46,7 @@ bool QtFixture::HasHourglass() {
     return pointer != nullptr && pointer->shape() == Qt::WaitCursor;
 }
 
-void QtFixture::TellClicksOnFieldsAndInfo() {
+void QtFixture::TellClicks() {
     window.btnInfo.Click = [this] { Tell("info"); };
     window.lblField.Click = [this](int index) { Tell("field ", index); };
 }
@@ -63,20 +63,11 @@ void QtFixture::ClickAt(QWidget& widget, QPoint where) {
 }
 
 void QtFixture::ClickControl(const std::string& control) {
-    if (control.starts_with("mnu"))
-        OpenMenuAndClick(QString::fromStdString(control));
+    if (auto* const entry = form->findChild<QAction*>(QString::fromStdString(control)))
+        entry->trigger();
     else
         ClickAt(Widget(control), Widget(control).rect().center());
     Activate();
-}
-
-void QtFixture::OpenMenuAndClick(const QString& entry) {
-    auto* const action = form->findChild<QAction*>(entry);
-    auto* const menu = qobject_cast<QMenu*>(action->associatedObjects().constFirst());
-    if (menu == nullptr) return ClickAt(MenuBar(), MenuBar().actionGeometry(action).center());
-    OpenMenuAndClick(menu->menuAction()->objectName());
-    if (!QTest::qWaitFor([&] { return menu->isVisible(); }, 300)) return;
-    ClickAt(*menu, menu->actionGeometry(action).center());
 }
 
 QWidget& QtFixture::Top() {
@@ -92,10 +83,10 @@ void QtFixture::LookForBox() {
     mSeen = dialog;
     mEyes.start(); // fires again although this handler has not ended
     if (const auto* const box = qobject_cast<const QMessageBox*>(dialog))
-        Tell("Box(", box->windowTitle().toStdString(), "|", box->text().toStdString(), ")");
+        Tell("Box(", box->windowTitle().toStdString(), "|", box->text().toStdString(),
+             box->icon() == QMessageBox::Question ? "|?)" : "|-)");
     else
-        Tell(dynamic_cast<QFileDialog&>(*dialog).acceptMode() == QFileDialog::AcceptSave ? "Save"
-                                                                                         : "Open");
+        Tell(dialog->windowTitle().toStdString());
     platform.Paused();
     if (dialog->isVisible()) AnswerBox(*dialog);
 }

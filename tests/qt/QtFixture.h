@@ -56,19 +56,18 @@ protected:
     /// The user returns to the window, if it is not behind a box.
     void Activate();
     static bool HasHourglass();
-    /// From now on clicks on these are only told.
-    void TellClicksOnFieldsAndInfo();
+    /// From now on clicks on fields and on "I" are only told.
+    void TellClicks();
 
     QWidget& Widget(const std::string& name);
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
 
 private:
-    // Clicks the middle of a control; an entry of a menu through all menus on the way.
+    // Clicks the middle of a control. An entry of a menu is triggered as by a key.
     void ClickControl(const std::string& control) override;
     // Sends a click to the top window, so that modal boxes, open menus and disabled panels keep it
     // from the controls as they do for a user.
     static void ClickAt(QWidget& widget, QPoint where);
-    void OpenMenuAndClick(const QString& entry);
     QWidget& Top();
     void SendKey(QEvent::Type type, int time, const QString& key);
     void LookForBox();

@@ -22,37 +22,25 @@ STEPS = [
     ("Tab", "1"),
 ]
 
-said = []
+heard = []
 wrong = []
 
 
 def hear(event):
     name = event.source.get_name()
-    if event.type.endswith("accessible-name"):
-        if ("name", name) in said and name.startswith("row"):
-            wrong.append(f"told again: {name}")
-        said.append(("name", name))
-    elif event.detail1 == 1:
-        if name.startswith("row") and "current" not in name:
-            wrong.append(f"focus before the new name: {name}")
-        said.append(("focus", name))
+    isName = event.type.endswith("accessible-name")
+    if not isName and event.detail1 == 0:
+        return
+    if name.startswith("row") and ((isName, name) in heard if isName else "current" not in name):
+        wrong.append(f"told again, or focus before the new name: {name}")
+    heard.append((isName, name))
 
 
-def listen_until(over, seconds):
+def listen(seconds, name=None):
     end = time.monotonic() + seconds
-    while not over() and time.monotonic() < end:
+    while time.monotonic() < end and all(name != item[1] for item in heard):
         GLib.MainContext.default().iteration(False)
         time.sleep(0.01)
-
-
-def say_until(text):
-    listen_until(lambda: ("focus", text) in said or ("name", text) in said, 20)
-    if ("focus", text) not in said and ("name", text) not in said:
-        sys.exit(f"screen_reader.py: not heard: {text!r}, but {said[-5:]}")
-    listen_until(lambda: False, 0.3)  # what comes too much
-    if wrong:
-        sys.exit(f"screen_reader.py: {wrong[:5]}")
-    said.clear()
 
 
 Atspi.init()
@@ -63,10 +51,14 @@ program = subprocess.Popen(
     sys.argv[1:], env=os.environ | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 )
 try:
-    for key, text in STEPS:
+    for key, name in STEPS:
         if key:
             subprocess.run(["xdotool", "key", key], check=True)
-        say_until(text)
+        listen(20, name)
+        listen(0.3)  # what comes too much
+        if wrong or all(name != item[1] for item in heard):
+            sys.exit(f"screen_reader.py: {name!r} wanted, {heard} heard, {wrong}")
+        heard.clear()
         desktop = Atspi.get_desktop(0)  # a program sends events to clients that read its tree
         for i in range(desktop.get_child_count()):
             desktop.get_child_at_index(i).get_name()

@@ -1,0 +1,53 @@
+// The small classes below the grid.
+#include "model/Event.h"
+#include "model/ValueSet.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace tessarin {
+
+TEST(EventTest, HandlersMayConnectAndDisconnect) {
+    Event<> event;
+    std::string called;
+    Connection second, third;
+    const Connection first = event.Connect([&] {
+        called += "1";
+        second = {};                                                      // is not called any more
+        if (called == "1") third = event.Connect([&] { called += "3"; }); // nor is this one yet
+    });
+    second = event.Connect([&] { called += "2"; });
+    event.Raise();
+    EXPECT_EQ(called, "1");
+    event.Raise();
+    EXPECT_EQ(called, "113");
+}
+
+TEST(EventTest, AHandlerMayReplaceItselfAndDestroyTheEvent) {
+    auto event = std::make_unique<Event<>>();
+    Connection own;
+    own = event->Connect([&, data = std::make_shared<int>()] {
+        const std::weak_ptr<int> kept = data;
+        own = {};
+        own = event->Connect([] {});
+        event.reset();
+        EXPECT_FALSE(kept.expired()) << "the running handler has been destroyed";
+    });
+    event->Raise();
+}
+
+TEST(ValueSetTest, HoldsTheValuesOfLargeGridsToo) {
+    ValueSet set(130), other(130);
+    for (const int value : {0, -1, 131, 1, 64, 65, 65, 130})
+        set.Add(value);
+    EXPECT_EQ(set.Count(), 4);
+    other.Add(128);
+    other.Add(set);
+    std::vector<int> contained;
+    for (int value = -1; value <= 131; ++value)
+        if (other.Contains(value)) contained.push_back(value);
+    EXPECT_EQ(contained, std::vector({1, 64, 65, 128, 130}));
+}
+
+} // namespace tessarin

@@ -1,0 +1,76 @@
+// The controls of a window, apart from this program's window.
+#include "FakeWindow.h"
+
+namespace tessarin {
+
+struct ToolkitTest : testing::Test {
+    ScriptedPlatform platform;
+    FakeToolkit toolkit{platform};
+    Form form{toolkit, "form", {}};
+    Frame frame{form, "frame", {}};
+    CommandButton button{frame, "button", {}};
+    int clicks = 0;
+
+    ToolkitTest() {
+        button.Click = [this] { ++clicks; };
+        form.Show();
+    }
+};
+
+TEST_F(ToolkitTest, AClosedFormTakesNoClicks) {
+    bool refuse = true;
+    form.Unload = [&](bool& cancel) {
+        cancel = refuse;
+        platform.ExpectedError = "failed";
+        throw std::runtime_error("failed");
+    };
+    EXPECT_FALSE(form.RaiseUnload());
+    button.RaiseClick();
+    refuse = false;
+    EXPECT_TRUE(form.RaiseUnload());
+    button.RaiseClick();
+    EXPECT_EQ(clicks, 1);
+}
+
+// Every click brings another one, far more than the stack could hold if they nested.
+TEST_F(ToolkitTest, AFloodOfClicksIsAnsweredInOrder) {
+    ControlArray<CommandButton> keys{form, "keys", {}};
+    for (int i = 1; i < 80; ++i)
+        keys.Add(i, {});
+    int sent = 0;
+    keys.Click = [&](int key) {
+        EXPECT_EQ(key, clicks++ % 80);
+        for (int i = 0; i < 80 && sent < 20'000; ++i)
+            keys(sent++ % 80).RaiseClick();
+    };
+    keys(sent++).RaiseClick();
+    EXPECT_EQ(clicks, 20'000);
+}
+
+// Of clicks that wait, those are dropped whose control is disabled by then.
+TEST_F(ToolkitTest, AWaitingClickIsDroppedIfItsPanelIsDisabled) {
+    CommandButton outer{form, "outer", {}};
+    int depth = 0;
+    outer.Click = [&] {
+        if (++depth < ClickGate::MaxDepth) return outer.RaiseClick();
+        button.RaiseClick();
+        frame.SetEnabled(false);
+    };
+    outer.RaiseClick();
+    EXPECT_EQ(clicks, 0);
+    frame.SetEnabled(true);
+    button.RaiseClick();
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ToolkitTest, TicksNestFourDeep) {
+    Timer timer{form, "timer"};
+    int ticks = 0;
+    timer.Tick = [&] {
+        if (++ticks < 99) timer.RaiseTick();
+    };
+    timer.RaiseTick();
+    EXPECT_EQ(ticks, 4);
+}
+
+} // namespace tessarin
