@@ -262,20 +262,6 @@ TEST_F(InputTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
     TELLS(Click("btnSolve", "Yes"), "+1 Box(ESC gedrückt|Abbrechen?|-)");
 }
 
-TEST_F(InputTest, AClickInASleepWaitsForThePumpBehindIt) {
-    if (QApplication::platformName() == "offscreen") GTEST_SKIP() << "its events never wait";
-    platform.ReallySleeps = true;
-    TellClicks();
-    const QPoint place = Widget("btnInfo").mapTo(form, QPoint(9, 9));
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const auto down = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-        qt_handleMouseEvent(form->windowHandle(), place, form->mapToGlobal(place), down,
-                            Qt::LeftButton, type, {}, 1000);
-    }
-    TELLS(platform.Sleep(1), "");
-    TELLS(PumpEvents(Pump::Now), "info");
-}
-
 TEST_F(InputTest, TheRotorTurnsInPauses) {
     platform.ReallySleeps = true;
     int shown = -1, turns = 0;
