@@ -62,7 +62,7 @@ public:
     /// may be painted and activated meanwhile. User input and timers wait, unless the activation
     /// pumps events.
     virtual void Sleep(int milliseconds) = 0;
-    /// Whether ESC is down now or has been pressed since the last call.
+    /// Whether ESC has been pressed since the last call. Holding it is one press.
     virtual bool EscPressed() = 0;
     /// Shows the box and returns the button that closed it. Closing it without a button counts as
     /// No, or as OK if that is the only button.

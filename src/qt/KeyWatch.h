@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 #include <utility>
 
@@ -17,23 +18,21 @@ public:
     /// Watches all windows of the application.
     KeyWatch();
 
-    /// Whether ESC is down now or has been pressed since the last call.
-    bool EscPressed() { return std::exchange(mbEscPressed, false) || mbEscDown; }
+    /// Whether a press of ESC that counts has come since the last call.
+    bool EscPressed() { return std::exchange(mbEscPressed, false); }
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
+    void Release(const QKeyEvent& key);
     // Returns whether the press is swallowed.
     bool Press(const QObject& window, const QKeyEvent& key);
 
-    int mlHeld = 0;                      // the key that is down
-    const QObject* mPressedIn = nullptr; // the window that has got its press
-    quint64 mlPressTime = 0;             // of its last press or repeat, in milliseconds
-    int mlReleased = 0;                  // the key that was released last
-    quint64 mlReleaseTime = 0;           // in milliseconds, 0 when unknown
-    bool mbEscDown = false;              // down since a press that counts
-    bool mbEscPressed = false;           // a press that counts has come since the last query
+    QPointer<const QObject> mPressedIn; // the window that got the last press that is no repeat
+    int mlReleased = 0;                 // the key that was released last
+    quint64 mlReleaseTime = 0;          // in milliseconds
+    bool mbEscPressed = false;          // a press that counts has come since the last query
 };
 
 } // namespace tessarin::qt

@@ -9,9 +9,8 @@ extern bool gbCancel;
 void ClearCancel();
 void SetCancel();
 
-/// Whether the running solve has to stop: true if gbCancel is set. If not, and ESC is down or was
-/// pressed since the last call, the user is asked: Yes sets gbCancel, after No the next ESC asks
-/// again.
+/// Whether the running solve has to stop: true if gbCancel is set. If not, and ESC was pressed
+/// since the last call, the user is asked: Yes sets gbCancel, after No the next ESC asks again.
 bool CancelRequested();
 
 } // namespace tessarin

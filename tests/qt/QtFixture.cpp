@@ -17,7 +17,7 @@ QtFixture::QtFixture() : WindowUser(platform, OwnWindow) {
 void QtFixture::Key(const QString& keys, const std::string& answer) {
     if (!answer.empty()) platform.Answers.push_back(answer);
     const QKeyCombination key = Combination(keys);
-    QTest::qWait(3); // KeyWatch takes a press that follows a release at once for a repeat
+    QTest::qWait(2); // a press in the same millisecond as the release before would be a repeat
     QTest::keyClick(Top().windowHandle(), key.key(), key.keyboardModifiers());
     Activate();
 }

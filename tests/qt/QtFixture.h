@@ -45,9 +45,14 @@ protected:
 
     /// Presses and releases a key, "Ctrl+Home", in the window that would get it.
     void Key(const QString& keys, const std::string& answer = "");
-    /// The press or repeat of a key, and its release, at a time in milliseconds.
+    /// The press of a key, its release, and its repeat while it is held, which X11 sends without a
+    /// mark as one of each. The time is in milliseconds.
     void Down(int time, const QString& key) { SendKey(QEvent::KeyPress, time, key); }
     void Up(int time, const QString& key) { SendKey(QEvent::KeyRelease, time, key); }
+    void Repeat(int time, const QString& key) {
+        Up(time, key);
+        Down(time, key);
+    }
     /// Does something with the mouse near the corner of a control.
     void Mouse(QTest::MouseAction action, const std::string& control,
                Qt::MouseButton button = Qt::LeftButton);
