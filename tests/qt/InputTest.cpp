@@ -126,6 +126,12 @@ TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {
     Meanwhile([&] { Click(5); });
     Key("Space");
     EXPECT_EQ(Focused(), "lblField(21)"); // in the grid, where the last move has led
+    FullBut({1, 11, 21});
+    Click("btnInfo");
+    Focus("btnSolve");
+    Meanwhile([&] { Focus("optChill(1)"); });
+    Key("Space");
+    EXPECT_EQ(Focused(), "optChill(1)");
 }
 
 TEST_F(InputTest, AKeyThatIsHiddenAfterASolveDoesNotGetTheFocusLater) {
