@@ -92,7 +92,7 @@ TEST_F(InputTest, EveryPressCountsWithoutTheReleaseBeforeIt) {
     Meanwhile([&] {
         Down(1300, "Return");
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-        TellClicksOnFieldsAndInfo();
+        TellClicks();
         Focus("lblField(1)");
         TELLS(Down(1500, "Return"), "field 1");
         TELLS(Repeat(2100, "Return"), "");
@@ -273,7 +273,7 @@ TEST_F(InputTest, RepeatsOfAHeldEscDoNotAnswerItsQuestion) {
 TEST_F(InputTest, EscWhoseReleaseIsLostAsksOnce) {
     FullBut({1, 11});
     Down(1000, "Esc");
-    TELLS(Click("btnSolve", "No"), "+1 Box(ESC gedrückt|Abbrechen?) +11");
+    TELLS(Click("btnSolve", "No"), "+1 Box(ESC gedrückt|Abbrechen?|-) +11");
 }
 
 TEST_F(InputTest, TheRotorTurnsInPauses) {
