@@ -64,7 +64,6 @@ TEST_F(CommandsTest, ClearingAsksFirst) {
 TEST_F(CommandsTest, TheLightsStayUntilTheNextEventOrImport) {
     FullBut({81});
     At(81).SetValue(8);
-    EXPECT_EQ(Lights(), "normal green");
     Click("mnuEditClearAll", "Yes");
     EXPECT_EQ(Lights(), "normal green");
     Fill(".12345678");
@@ -97,6 +96,7 @@ TEST_F(CommandsTest, AnExportWritesANewFileAndStartsTheHistory) {
     EXPECT_EQ(window.lblFile.Caption(), "");
     EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|1;5;0");
     TELLS(Click("btnNumPad(9)"), "+1");
+    TELLS(Click("mnuFileExportCSV", folder + "again.csv"), "Export File"); // and keeps it
 }
 
 TEST_F(CommandsTest, AnImportKeepsItsNameInSpiteOfANestedDialog) {

@@ -15,10 +15,11 @@ protected:
     GameFixture() : User(platform, OwnGame) {
         platform.Folder = folder;
         Hear(game.Events.StatusChanged, [this](int i) { Tell(i, "=", i > 0 ? At(i).Value() : 0); });
-        Hear(game.Events.BeforeIndexChanged, [this](int i) { Tell("from ", i); });
-        Hear(game.Events.IndexChanged, [this](int i) { Tell("to ", i); });
-        Hear(game.Events.IsWinner, [this](int i) { Tell("winner ", i); });
-        Hear(game.Events.IsDeadEnd, [this](int i) { Tell("dead ", i); });
+        for (const auto& [event, name] : {std::pair(&game.Events.BeforeIndexChanged, "from "),
+                                          {&game.Events.IndexChanged, "to "},
+                                          {&game.Events.IsWinner, "winner "},
+                                          {&game.Events.IsDeadEnd, "dead "}})
+            Hear(*event, [this, name = name](int i) { Tell(name, i); });
     }
     void TearDown() override { platform.ExpectNothingLeft(); }
     void Hear(auto& event, auto handler) { mEvents.push_back(event.Connect(handler)); }

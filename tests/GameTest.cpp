@@ -235,11 +235,12 @@ TEST_F(PlayTest, AFieldThatHasLeftTheHistoryDoesNotComeBack) {
                         "from 3 to 1 1=1 dead 2 +1 1=0 dead 0 -1 1=1 dead 2 Beep");
 }
 
+const std::string EscBox = "Box(ESC gedrückt|Abbrechen?|- Yes No)";
+
 TEST_F(PlayTest, EscAsksOnceForEachPress) {
     platform.EscPresses = {false, true, true};
     platform.Answers = {"No", "Yes"};
-    TELLS(play.Solve(), "to 1 1=1 +1 Box(ESC gedrückt|Abbrechen?|- Yes No) "
-                        "from 1 to 2 2=2 +2 Box(ESC gedrückt|Abbrechen?|- Yes No)");
+    TELLS(play.Solve(), "to 1 1=1 +1 " + EscBox + " from 1 to 2 2=2 +2 " + EscBox);
 }
 
 TEST_F(PlayTest, EscDoesNotAskForWhatIsRequestedAlready) {
@@ -248,7 +249,7 @@ TEST_F(PlayTest, EscDoesNotAskForWhatIsRequestedAlready) {
     TELLS(play.Solve(), "to 1 1=1 +1");
     // The next solve has forgotten that cancel.
     platform.Answers = {"Yes"};
-    TELLS(play.Solve(), "Box(ESC gedrückt|Abbrechen?|- Yes No)");
+    TELLS(play.Solve(), EscBox);
 }
 
 } // namespace tessarin

@@ -47,14 +47,18 @@ TEST_F(ToolkitTest, AFloodOfClicksIsAnsweredInOrder) {
     EXPECT_EQ(clicks, 20'000);
 }
 
-// Of clicks that wait, those are dropped whose control is disabled by then.
-TEST_F(ToolkitTest, AWaitingClickIsDroppedIfItsPanelIsDisabled) {
+// The click on an option does not wait.
+TEST_F(ToolkitTest, AWaitingClickIsDroppedIfItsPanelIsDisabledByThen) {
     CommandButton outer{form, "outer", {}};
-    int depth = 0;
+    OptionButton option{form, "option", {}};
+    int depth = 0, chosen = 0;
+    option.Click = [&] { ++chosen; };
     outer.Click = [&] {
         if (++depth < ClickGate::MaxDepth) return outer.RaiseClick();
         button.RaiseClick();
         frame.SetEnabled(false);
+        option.RaiseClick();
+        EXPECT_EQ(chosen, 1);
     };
     outer.RaiseClick();
     EXPECT_EQ(clicks, 0);
