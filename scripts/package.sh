@@ -1,5 +1,5 @@
 #!/bin/bash
-# Builds the Debian package from the upstream tarball in build/package/ and prints its path.
+# Builds the Debian package from the upstream tarball and debian/ in build/package/ and prints its path.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"
@@ -8,6 +8,7 @@ need "${package_packages[@]}"
 rm -rf build/package
 tarball=$(scripts/tarball.sh "build/package/tessarin_$version.orig.tar.xz")
 tar --extract --directory build/package --file "$tarball"
+cp --recursive debian "build/package/tessarin-$version"
 (
     cd "build/package/tessarin-$version"
     # scripts/test.sh runs the tests.
