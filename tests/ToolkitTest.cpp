@@ -67,6 +67,14 @@ TEST_F(ToolkitTest, AWaitingClickIsDroppedIfItsPanelIsDisabledByThen) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(ToolkitTest, ACancelledDialogKeepsTheFileChosenBefore) {
+    CommonDialog dialog(toolkit);
+    platform.Answers = {"/folder/file"};
+    EXPECT_TRUE(dialog.ShowOpen());
+    EXPECT_FALSE(dialog.ShowSave());
+    EXPECT_EQ(dialog.FileName, "/folder/file");
+}
+
 TEST_F(ToolkitTest, TicksNestFourDeep) {
     Timer timer{form, "timer"};
     int ticks = 0;

@@ -18,6 +18,7 @@ static std::string WithLineBreaks(const std::string& text) {
 }
 
 void Recorder::TellText(const std::string& text) {
+    if (Player == nullptr) return;
     const UniqueNumbers history = Player->History.value_or(UniqueNumbers());
     const auto tellMissing = [this](const auto& from, const auto& in, const char* sign) {
         for (const int index : from)

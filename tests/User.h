@@ -47,7 +47,7 @@ public:
     std::string Record;              ///< what has been told, each item with a blank behind it
     std::deque<std::string> Answers; ///< to the next boxes: a button; to the next dialogs: a path
     bool TellsPumps = false;
-    const Play* Player = nullptr; ///< whose history is told
+    const Play* Player = nullptr; ///< whose history is told; without one nothing is
 
     /// Records a changed history, the pumps since the last call, and the text of all parts.
     void Tell(const auto&... parts) {
