@@ -54,15 +54,12 @@ TEST_F(ViewsTest, FreedomsShowHowManyValuesAreFree) {
 }
 
 TEST_F(ViewsTest, GroupsAreShownForASecondEach) {
-    std::vector<std::vector<int>> shown;
-    const std::function<void()> look = [&] {
-        shown.push_back(Marked());
-        if (shown.size() < 27) Meanwhile(look);
-    };
-    Meanwhile(look);
-    EXPECT_EQ(Told([&] { Click("mnuViewGroups"); }).substr(0, 24), "Sleep(1000) Sleep(1000) ");
-    ASSERT_EQ(shown.size(), 27U);
-    EXPECT_EQ(shown[26], std::vector({61, 62, 63, 70, 71, 72, 79, 80, 81}));
+    Meanwhile([&] { EXPECT_EQ(Marked(), std::vector({1, 2, 3, 4, 5, 6, 7, 8, 9})); });
+    std::string pauses = "Sleep(1000)";
+    for (int group = 2; group <= 27; ++group)
+        pauses += " Sleep(1000)";
+    TELLS(Click("mnuViewGroups"), pauses);
+    EXPECT_EQ(Marked(), std::vector<int>());
 }
 
 TEST_F(ViewsTest, TheGroupsViewGoesOnWithItsGroupsAfterAnImport) {

@@ -70,9 +70,9 @@ std::string WindowUser::Pad() {
 
 std::string WindowUser::Faults() {
     std::ostringstream faults;
-    for (const Control* const control : std::initializer_list<Control*>{
-             &window.mnuFile, &window.mnuView, &window.fraAction, &window.fraNumPad})
-        if (!control->Enabled()) faults << control->Name() << " is disabled; ";
+    const bool enabled = window.mnuFile.Enabled() && window.mnuView.Enabled() &&
+                         window.fraAction.Enabled() && window.fraNumPad.Enabled();
+    if (!enabled) faults << "a menu or panel is disabled; ";
     if (window.ViewRunning()) faults << "a view runs; ";
     if (window.ctlRotor1.Running()) faults << "the rotor turns; ";
     int free = 0, locked = 0, dead = 0;
