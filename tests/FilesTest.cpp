@@ -90,6 +90,18 @@ TEST_F(FilesTest, OnlyAWholeImportOfCSVResetsThePlayer) {
     EXPECT_EQ(Grid(), "2;9;1");
 }
 
+TEST_F(FilesTest, TheFirstBytesTellTheCharset) {
+    const std::string path = folder + "text";
+    const std::pair<std::string, const char*> texts[] = {
+        {BomUnicode(), "unicode"}, {BomUtf8(), "utf-8"}, {"text", "x-ansi"}, {"", ""}};
+    for (const auto& [text, charset] : texts) {
+        WriteTextFile(path, text, "", true);
+        EXPECT_EQ(DetectCharset(path), charset);
+    }
+    WriteTextFile(path, "AB", "unicode", true);
+    EXPECT_EQ(ReadTextFile(path), std::string("A\0B\0", 4));
+}
+
 TEST_F(FilesTest, FilesKeepEveryByteAndAreReadWhole) {
     const std::string bytes = BomUtf8() + "a\r\nb\n\xFF\r" + std::string(200'000, '\0');
     EXPECT_EQ(WriteTextFile(folder + "all", bytes, "utf-8", true), "");

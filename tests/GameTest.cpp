@@ -1,5 +1,6 @@
 // The grid: fields, cursor, counts, status and events. The player by hand, and the automatic solve.
 #include "GameFixture.h"
+#include "model/Groups.h"
 #include "support/modKbd.h"
 #include "support/modWait.h"
 
@@ -30,6 +31,13 @@ TEST_F(GridTest, FreeIsWhatNoNeighbourHolds) {
     At(3).SetValue(-1);
     EXPECT_EQ(At(1).FreeValuesList(), "3;4;6;7;8;");
     EXPECT_EQ(At(41).FreeValuesList(), "1;2;3;5;6;7;8;9;");
+}
+
+TEST_F(GridTest, GroupsAreRowsColumnsAndBoxes) {
+    std::string flavors;
+    for (const int group : {1, 9, 10, 18, 19, 27})
+        flavors += game.Groups->Items.Item(group)->FlavorText() + " ";
+    EXPECT_EQ(flavors, "horizontal horizontal vertikal vertikal box box ");
 }
 
 TEST_F(GridTest, OnlyChangesAreTold) {

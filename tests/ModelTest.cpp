@@ -1,6 +1,9 @@
 // The small classes below the grid.
+#include "model/Errors.h"
 #include "model/Event.h"
+#include "model/UniqueNumbers.h"
 #include "model/ValueSet.h"
+#include "support/modStringLibrary.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +51,22 @@ TEST(ValueSetTest, HoldsTheValuesOfLargeGridsToo) {
     for (int value = -1; value <= 131; ++value)
         if (other.Contains(value)) contained.push_back(value);
     EXPECT_EQ(contained, std::vector({1, 64, 65, 128, 130}));
+}
+
+TEST(UniqueNumbersTest, RefuseANumberThatIsThere) {
+    UniqueNumbers numbers;
+    numbers.Add(5);
+    EXPECT_THROW(numbers.Add(5), DuplicateKeyError);
+    EXPECT_EQ(numbers.Count(), 1);
+}
+
+TEST(StringLibraryTest, PositionsCountFrom1) {
+    EXPECT_EQ(DeleteChars("abcdef", 2, 3), "aef");
+    EXPECT_EQ(DeleteChars("abc", -1, 3), "bc");
+    EXPECT_EQ(DeleteChars("abc", 2), "a");
+    EXPECT_EQ(DeleteChars("abc", 4), "abc");
+    EXPECT_EQ(InsertText("ab", "x", 3), "abx");
+    EXPECT_EQ(InsertText("ab", "x", 4), "ab");
 }
 
 } // namespace tessarin
