@@ -24,7 +24,7 @@ public:
 
     /// The item at `position`, or nullptr outside 1 to Count().
     const T* Find(int position) const {
-        const auto offset = static_cast<std::size_t>(position) - 1;
+        const auto offset = static_cast<std::size_t>(position) - 1; // huge for 0 and below
         return offset < mItems.size() ? &mItems[offset] : nullptr;
     }
     bool Has(int position) const { return Find(position) != nullptr; }

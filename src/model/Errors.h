@@ -6,7 +6,7 @@
 
 namespace tessarin {
 
-/// A number is already there.
+/// A number cannot be added because it is already there.
 struct DuplicateKeyError : std::invalid_argument {
     using std::invalid_argument::invalid_argument;
 };

@@ -7,8 +7,8 @@
 
 namespace tessarin {
 
-/// Keeps a handler connected to an event while it lives; a handler whose connection has died is not
-/// called again, not even by a Raise in progress. It may outlive the event.
+/// Keeps a handler connected to an event while it lives. A handler whose connection has died is not
+/// called again, not even by a Raise in progress. A connection may outlive its event.
 class Connection {
 public:
     Connection() = default;

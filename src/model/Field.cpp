@@ -36,7 +36,7 @@ void Field::SetValue(int MyValue) {
 void Field::SetLocked(bool MyLocked) {
     if (MyLocked == mbLocked) return;
     mbLocked = MyLocked;
-    Grid().FieldChanged(0);
+    Grid().FieldChanged(0); // 0 stands for the cursor's index
 }
 
 void Field::GroupAdd(const Group& Grp) {

@@ -89,14 +89,11 @@ void Fields::SetIndex(int MyIndex) {
     if (!Cursor && MyIndex < 1) return;
     if (MyIndex < 0 || MyIndex > Items.Count())
         throw std::out_of_range("no field " + std::to_string(MyIndex));
-    if (Cursor && Cursor->Index != MyIndex) RaiseAndPump(Events.BeforeIndexChanged, Cursor->Index);
+    if (Index() == MyIndex) return;
+    if (Cursor) RaiseAndPump(Events.BeforeIndexChanged, Cursor->Index);
     // Commands that ran in the event or the pump may have moved the cursor or replaced the fields.
-    if (MyIndex != 0) {
-        if (Cursor && Cursor->Index == MyIndex) return;
-        Cursor = Items.Item(MyIndex);
-    } else {
-        Cursor.reset();
-    }
+    if (Cursor && Cursor->Index == MyIndex) return;
+    Cursor = MyIndex != 0 ? Items.Item(MyIndex) : nullptr;
     RaiseAndPump(Events.IndexChanged, MyIndex);
 }
 

@@ -120,9 +120,9 @@ public:
     int Dimension() const { return mlDimension; }
 
 private:
-    friend class Field; // which tells of its changes
+    friend class Field; // calls FieldChanged
 
-    // While it lives, changes of fields raise no events. From its start on the status is out of
+    // While it lives, changes of fields raise no events. Its constructor puts the status out of
     // date.
     class [[nodiscard]] SilentChange {
     public:
@@ -132,8 +132,8 @@ private:
         ScopedValue<bool> mSilence;
     };
 
-    // The value of field ThisIndex, or the lock of any field (0), has changed. Raises StatusChanged
-    // and then the event that the status names, unless the change is silent.
+    // Called after the value of field ThisIndex has changed, and with 0 after any field's lock has.
+    // Raises StatusChanged and then the event that the status names, unless the change is silent.
     void FieldChanged(int ThisIndex);
 
     struct CountedFields {
@@ -147,8 +147,8 @@ private:
     Counts mCounts;
     bool mbNotify = true;
     int mlDimension = 0;
-    unsigned mlChanges = 0;        // of fields, so far
-    unsigned mlCountedChanges = 0; // of them, those that mCounts knows; if fewer, it is out of date
+    unsigned mlChanges = 0;        // grows with every change of a field
+    unsigned mlCountedChanges = 0; // mlChanges at the last count; if it differs, mCounts is old
 };
 
 } // namespace tessarin

@@ -9,6 +9,7 @@ namespace tessarin {
 /// A set of fields of which no two may hold the same value: a row, a column or a box.
 class Group {
 public:
+    /// The grid has no diagonal groups.
     enum : int { Horizontal = 1, Vertical = 2, Diagonal = 3, Box = 4 };
 
     int Index = 0;          ///< number of the group, from 1, its position in Groups::Items

@@ -30,7 +30,7 @@ private:
     void AddGroup(int Flavor, int RowOffset, int ColumnOffset, int Rows, int Columns);
     void RegisterGroup(const std::shared_ptr<Group>& Grp);
 
-    int mlGroupCount = 0; // the Index of the newest group
+    int mlGroupCount = 0; // groups built so far; the newest has this Index
 };
 
 } // namespace tessarin

@@ -16,8 +16,8 @@ std::string_view FirstLine(std::string_view text) {
 }
 
 // The dimension of the grid whose SDK text has that number of lines: the header, the rows, and an
-// empty line after the last line break. 0 if there is none; 16 rows would be of dimension 4, which
-// the grid refuses.
+// empty line after the last line break. 0 for any other number: 16 rows would be of dimension 4,
+// which the grid refuses, and larger grids are not loaded.
 int DimensionOfLines(std::size_t lines) {
     for (const std::size_t dimension : {3U, 5U})
         if (lines == 1 + dimension * dimension + 1) return static_cast<int>(dimension);

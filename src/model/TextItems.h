@@ -6,8 +6,8 @@
 
 namespace tessarin {
 
-/// Splits a text at its separators (exact comparison), one item after the other. The empty text has
-/// no items; any other has one more than separators. The items point into the text.
+/// Splits a text wherever its separator occurs, one item after the other. The empty text has no
+/// items; any other text has one item more than separators. The items point into the text.
 class TextItems {
 public:
     TextItems(std::string_view text, std::string_view separator);

@@ -24,7 +24,7 @@ public:
     using Collection::Remove;
 
 private:
-    int mlHighest = 0; // an upper bound of the numbers; unused while there are none
+    int mlUpperBound = 0; // of the numbers; means nothing while there are none
 };
 
 } // namespace tessarin

@@ -33,7 +33,8 @@ DateTime Platform::Now() {
 
 std::string Platform::NativePath(const std::string& path) {
     std::string native = path;
-    if (const auto joint = native.rfind('\\'); joint != std::string::npos) native[joint] = '/';
+    const auto backslash = native.rfind('\\');
+    if (backslash != std::string::npos) native[backslash] = '/';
     return native;
 }
 

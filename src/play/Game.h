@@ -33,7 +33,7 @@ public:
     GameEvents Events;
     std::unique_ptr<tessarin::Play> Play;
 
-    // Puzzle files. None of these returns whether it succeeded.
+    // Puzzle files. A file that cannot be read or written is not reported.
 
     /// Writes the grid to a new file as CSV text; never changes an existing file. Without a name
     /// the file is created beside the program and named after it and the current time.

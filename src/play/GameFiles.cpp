@@ -1,3 +1,4 @@
+// The puzzle files of the game.
 #include "play/Game.h"
 
 #include "model/Fields.h"
@@ -21,7 +22,8 @@ std::string DefaultFileName(const std::string& extension) {
 
 // Ignores failures.
 void Export(const std::string& fileName, const std::string& extension, const std::string& text) {
-    WriteTextFile(fileName.empty() ? DefaultFileName(extension) : fileName, text, "", false);
+    const std::string target = fileName.empty() ? DefaultFileName(extension) : fileName;
+    WriteTextFile(target, text, /*charset=*/"", /*replaceExisting=*/false);
 }
 
 } // namespace

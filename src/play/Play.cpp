@@ -28,7 +28,7 @@ void Play::GotoNextFreeField(bool AutoValue) {
 }
 
 void Play::GoBack(bool AutoValue) {
-    EmptyOrStepBack();
+    EmptyAndStepBack();
     if (AutoValue) EnterNextFreeValue();
 }
 
@@ -36,9 +36,9 @@ bool Play::GoBackToFreedom(bool AutoValue) {
     ++Retries;
     const int oldValue = Value();
     const int start = Grid().Index();
-    bool goOn = true;
-    while (goOn)
-        goOn = GoBackOnce() && !CursorHasFreedom();
+    bool canGoOn = GoBackOnce();
+    while (canGoOn && !CursorHasFreedom())
+        canGoOn = GoBackOnce();
     if (AutoValue && CursorHasFreedom()) EnterNextFreeValue();
     if (Grid().Index() != start) return true;
     if (const auto field = Grid().Cursor) field->SetValue(oldValue);
@@ -46,9 +46,9 @@ bool Play::GoBackToFreedom(bool AutoValue) {
     return false;
 }
 
-// Returns whether going back once more could lead on: there is a history, and this time the cursor
-// has moved or the history has become shorter. It has not if the newest entry is the cursor field
-// itself, and that field is empty.
+// Returns whether another step back can lead on: entries are left, and this step has moved the
+// cursor or used up an entry. A step from an empty field that is itself the newest entry does
+// neither.
 bool Play::GoBackOnce() {
     const int index = Grid().Index();
     const int entries = Entries();
@@ -72,7 +72,7 @@ void Play::SetValue(int MyValue, bool AutoValue) {
     else if (MyValue != 0)
         EnterValue(MyValue);
     else
-        EmptyOrStepBack();
+        EmptyAndStepBack();
 }
 
 void Play::EnterNextFreeValue() {
@@ -87,7 +87,7 @@ void Play::EnterValue(int MyValue) {
     AddToHistory(field->Index);
 }
 
-void Play::EmptyOrStepBack() {
+void Play::EmptyAndStepBack() {
     const auto field = Grid().Cursor;
     if (!field) return;
     if (field->Value() != 0) {
@@ -100,7 +100,8 @@ void Play::EmptyOrStepBack() {
 void Play::GotoNewestEntry() {
     if (Entries() == 0) return;
     const int newest = History->Item(Entries());
-    if (newest <= Grid().Items.Count()) Grid().SetIndex(newest); // else left from a larger grid
+    if (newest > Grid().Items.Count()) return; // left from a larger grid
+    Grid().SetIndex(newest);
 }
 
 bool Play::Locked() const {

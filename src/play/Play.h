@@ -58,7 +58,7 @@ public:
     /// value is the next free one, if any.
     void SetValue(int MyValue, bool AutoValue = false);
 
-    /// The cursor field's lock, False without a cursor.
+    /// The cursor field's lock, false without a cursor.
     bool Locked() const;
     void SetLocked(bool MyLocked);
 
@@ -75,7 +75,7 @@ public:
 private:
     void EnterNextFreeValue();
     void EnterValue(int MyValue);
-    void EmptyOrStepBack();
+    void EmptyAndStepBack();
     void GotoNewestEntry();
     void AddToHistory(int Index);
     int Entries() const { return History ? History->Count() : 0; }

@@ -1,3 +1,4 @@
+// The automatic solve of the player.
 #include "play/Play.h"
 
 #include "model/Board.h"

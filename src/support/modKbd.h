@@ -3,7 +3,7 @@
 
 namespace tessarin {
 
-/// A cancel of the running automatic solve has been requested.
+/// Whether a cancel of the running automatic solve has been requested.
 extern bool gbCancel;
 
 void ClearCancel();

@@ -17,10 +17,11 @@ std::string_view WithoutOuterBlanks(std::string_view text) {
 std::string PadLeft(std::string_view text, std::optional<std::int16_t> length,
                     std::string_view padCharacter) {
     if (length && *length <= 0) return "";
-    const std::size_t n = length ? static_cast<std::size_t>(*length) : text.size();
-    const std::string_view s = WithoutOuterBlanks(text);
-    if (s.size() >= n) return std::string(s.substr(s.size() - n));
-    return std::string(n - s.size(), padCharacter.empty() ? ' ' : padCharacter.front()).append(s);
+    const std::size_t width = length ? static_cast<std::size_t>(*length) : text.size();
+    const std::string_view trimmed = WithoutOuterBlanks(text);
+    if (trimmed.size() >= width) return std::string(trimmed.substr(trimmed.size() - width));
+    const char pad = padCharacter.empty() ? ' ' : padCharacter.front();
+    return std::string(width - trimmed.size(), pad).append(trimmed);
 }
 
 std::string PadNumber(int number, std::int16_t width, std::string_view padCharacter) {
@@ -34,10 +35,10 @@ std::string PadInteger(std::int16_t number, std::int16_t width, std::string_view
 std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view replacement) {
     std::string result(text);
     if (find.empty()) return result;
-    auto p = result.find(find);
-    while (p != std::string::npos) {
-        result.replace(p, find.size(), replacement);
-        p = result.find(find, p + replacement.size());
+    auto found = result.find(find);
+    while (found != std::string::npos) {
+        result.replace(found, find.size(), replacement);
+        found = result.find(find, found + replacement.size());
     }
     return result;
 }

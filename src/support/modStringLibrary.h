@@ -9,9 +9,9 @@
 
 namespace tessarin {
 
-/// Trims blanks from `text` and right-aligns it in `length` characters (by default the untrimmed
-/// length; 0 or less gives ""). Pads on the left with the first character of `padCharacter`, or a
-/// blank if that is empty. Of a longer text the last characters remain.
+/// Trims the outer blanks of `text` and right-aligns it in `length` characters (by default the
+/// untrimmed length; 0 or less gives ""). Pads on the left with the first character of
+/// `padCharacter`, or a blank if that is empty. Of a longer text the last characters remain.
 std::string PadLeft(std::string_view text, std::optional<std::int16_t> length = std::nullopt,
                     std::string_view padCharacter = " ");
 

@@ -25,10 +25,10 @@ int Write(const std::string& FileName, const std::string& bytes, bool replaceExi
     std::FILE* const file = std::fopen(FileName.c_str(), replaceExisting ? "wb" : "wbx");
     if (file == nullptr) return errno;
     const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
-    const int error = errno;
+    const int writeError = errno; // fclose may change errno
     const bool closed = std::fclose(file) == 0;
     if (written && closed) return 0;
-    return written ? errno : error;
+    return written ? errno : writeError;
 }
 
 // Opens a regular file alone: a pipe or device could block for ever or never end.

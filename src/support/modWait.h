@@ -9,7 +9,7 @@ namespace tessarin {
 /// once.
 void Wait(int milliseconds = 5);
 
-/// The same, but reads the time after the first pump, whose handlers may change it.
+/// The same, but asks for the milliseconds after the first pump, whose handlers may change them.
 void Wait(const std::function<int()>& milliseconds);
 
 } // namespace tessarin

@@ -146,6 +146,10 @@ public:
     MenuItem mnuAbout{mnuHelp, "mnuAbout", "About"};
 
 private:
+    // The keys of btnNumPad besides the digits 0 to 9.
+    static constexpr int LockKey = 10;
+    static constexpr int ClearKey = 11;
+
     static CommandButtonProperties ActionButton(const char* caption, const char* toolTip,
                                                 const char* shortcuts = "");
     static OptionButtonProperties OptionOf(const Pace& pace);
@@ -167,7 +171,7 @@ private:
 
     void PaintAsNeighbour(int index);
     void PaintAsGroupMember(int index);
-    // With the dead field of the last count.
+    // IsDead is set for one field alone: the lowest dead field of the last count.
     FieldState StateOf(const Field& field) const;
     void ShowState(int index, const FieldState& state);
     // The cursor has left the field that is painted as the current one: arrow keys, focus and

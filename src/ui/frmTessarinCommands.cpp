@@ -109,6 +109,7 @@ void frmTessarin::moGame_StatusChanged(int Index) {
         RefreshNumPad();
     }
     if (!Solving || ChillDelay != Pace::Step) return;
+    // One step is done: the solve ends at its next look at the cancel request.
     SetCancel();
     ctlRotor1.SetRunning(false);
     Solving = false;
@@ -128,12 +129,12 @@ void frmTessarin::lblField_Click(int Index) {
 
 void frmTessarin::btnNumPad_Click(int Index) {
     Play& play = *moGame->Play;
-    if (Index <= 9)
-        play.SetValue(Index);
-    else if (Index == 11)
-        play.SetValue(0);
-    else if (Index == 10)
+    if (Index == LockKey)
         play.SetLocked(!play.Locked());
+    else if (Index == ClearKey)
+        play.SetValue(0);
+    else
+        play.SetValue(Index);
 }
 
 void frmTessarin::optChill_Click(int Index) {
@@ -169,7 +170,8 @@ void frmTessarin::mnuFileImportCSV_Click() {
     Prepare(CommonDialog1, "Import File", true);
     const bool chosen = CommonDialog1.ShowOpen();
     // A copy, because a command that runs meanwhile may use the dialog again.
-    if (const std::string fileName = CommonDialog1.FileName; chosen && !fileName.empty()) {
+    const std::string fileName = chosen ? CommonDialog1.FileName : "";
+    if (!fileName.empty()) {
         RunIgnoringErrors([this] { moGame->Fields->Clear(); });
         RunIgnoringErrors([this] { RefreshAll(); });
         lblFile.SetCaption("");
@@ -178,6 +180,7 @@ void frmTessarin::mnuFileImportCSV_Click() {
         moGame->Play->SetTracing(true);
         lblFile.SetCaption(fileName);
     }
+    // Also when no file was chosen.
     SetIndicator(lblDeadEnd, WindowBackground);
     SetIndicator(lblWinner, WindowBackground);
 }

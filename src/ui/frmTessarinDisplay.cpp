@@ -1,4 +1,4 @@
-// Painting: fields, information panel, number pad.
+// Painting: fields, information panel, number pad, indicators.
 #include "model/Fields.h"
 #include "play/Play.h"
 #include "support/modWait.h"
@@ -12,20 +12,20 @@ namespace tessarin {
 void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
     Fields& grid = *moGame->Fields;
     grid.CountAndPump(); // before everything else is read: the field is painted as it is then
-    const int idx = index > 0 ? index : grid.Index();
-    if (!grid.Items.Has(idx) || !lblField.Has(idx)) return;
-    const Field& field = *grid.Items.Item(idx);
+    const int shown = index > 0 ? index : grid.Index();
+    if (!grid.Items.Has(shown) || !lblField.Has(shown)) return;
+    const Field& field = *grid.Items.Item(shown);
     FieldState state = StateOf(field);
     state.IsMarked = neighbourMark || groupMark;
     lblInfo.SetCaption(InfoText(field, state));
-    if (idx == PaintedCurrent && !state.IsCursor) {
+    if (shown == PaintedCurrent && !state.IsCursor) {
         MakeCursorCurrent();
         PaintedCurrent = 0;
     }
-    ShowState(idx, state);
+    ShowState(shown, state);
     if (state.IsCursor) {
-        lblField(idx).MakeCurrent();
-        RepaintFormerCurrent(std::exchange(PaintedCurrent, idx));
+        lblField(shown).MakeCurrent();
+        RepaintFormerCurrent(std::exchange(PaintedCurrent, shown));
     }
     // Commands that run in the wait may change the pace or end the solve.
     const auto pause = [this] { return Solving ? ChillDelay : 0; };
@@ -56,8 +56,8 @@ void frmTessarin::ShowState(int index, const FieldState& state) {
     lblField(index).SetAccessibleName(SpokenName(state));
 }
 
-// Before the label that had the focus gets its new look and name: a screen reader tells a focus
-// that moves, and a name that changes where the focus is.
+// To be called before the label that the cursor has left gets its new look and name. A screen
+// reader announces a new name only where the focus is, so it announces the move of the focus alone.
 void frmTessarin::MakeCursorCurrent() {
     const auto cursor = moGame->Fields->Cursor;
     if (!cursor || !lblField.Has(cursor->Index)) return;
@@ -93,7 +93,7 @@ std::string frmTessarin::InfoText(const Field& field, const FieldState& state) c
     };
     std::string text;
     for (const auto& line : lines) {
-        if (&line != lines) text += "\r\n";
+        if (!text.empty()) text += "\r\n";
         text += line;
     }
     return text;
@@ -117,12 +117,12 @@ void frmTessarin::RefreshNumPad() {
     if (!cursor) return;
     const bool locked = cursor->Locked();
     const std::string freeValues = cursor->FreeValuesList();
-    for (int key = 0; key <= 11; ++key) {
-        const bool isLockKey = key == 10;
-        const bool isDigit = key >= 1 && key <= 9;
-        btnNumPad(key).SetEnabled(isLockKey ? locked || cursor->Value() != 0 : !locked);
-        btnNumPad(key).SetVisible(!isDigit ||
-                                  freeValues.find(std::to_string(key) + ";") != std::string::npos);
+    for (int key = 0; key <= ClearKey; ++key) {
+        const bool canLock = locked || cursor->Value() != 0;
+        btnNumPad(key).SetEnabled(key == LockKey ? canLock : !locked);
+        const bool isValue = key >= 1 && key <= 9;
+        const bool isFree = freeValues.find(std::to_string(key) + ";") != std::string::npos;
+        btnNumPad(key).SetVisible(!isValue || isFree);
     }
     fraNumPad.SetBackColor(locked ? Red : WindowBackground);
 }
@@ -139,12 +139,6 @@ void frmTessarin::SetIndicator(Label& indicator, Color color) {
     indicator.SetBackColor(color);
     indicator.SetAccessibleName(indicator.ToolTipText() +
                                 (color == WindowBackground ? ": not lit" : ": lit"));
-}
-
-void frmTessarin::SetViewRunning(bool MyViewRunning) {
-    mbViewRunning = MyViewRunning;
-    for (MenuItem* const menu : {&mnuFile, &mnuEdit, &mnuView})
-        menu->SetEnabled(!MyViewRunning);
 }
 
 } // namespace tessarin

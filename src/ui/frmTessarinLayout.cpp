@@ -15,8 +15,10 @@ constexpr int BoxGap = FieldSide / 4;
 
 // The start of the row or column `position` (from 1), with gaps between the boxes.
 float GridOffset(int position, int dimension) {
-    const int offset = position * FieldSide + ((position - 1) / dimension - 2) * FieldSide / 4;
-    return static_cast<float>(offset);
+    constexpr int Margin = FieldSide / 2;
+    const int fieldsBefore = position - 1;
+    const int gapsBefore = fieldsBefore / dimension;
+    return static_cast<float>(Margin + fieldsBefore * FieldSide + gapsBefore * BoxGap);
 }
 
 // The start of the row or column `position` (from 0) of the number pad.
@@ -77,8 +79,8 @@ void frmTessarin::CreateNumPad() {
         create(i, std::to_string(i), std::to_string(i), (i - 1) / 3, (i - 1) % 3);
     btnNumPad(0).SetLeft(PadOffset(1));
     btnNumPad(0).SetTop(PadOffset(3));
-    create(10, "X", "locke", 3, 2);
-    create(11, "C", "clear", 3, 0, "Del; Backspace");
+    create(LockKey, "X", "locke", 3, 2);
+    create(ClearKey, "C", "clear", 3, 0, "Del; Backspace");
 }
 
 // Below the number pad, with the same places for buttons, down to the bottom of the fields.

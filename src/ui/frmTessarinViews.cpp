@@ -17,14 +17,20 @@ void ShowInformation(const std::string& prompt) {
     Platform::Current().ShowMessage({.Prompt = prompt});
 }
 
-// Sets ViewRunning until the guard ends. A dead-cells view that is opened inside the groups view
-// ends before it and enables the menus for the rest of it: the last step of every view is the same.
+// Sets ViewRunning until the guard ends. Every view ends by clearing it: a dead-cells view that is
+// opened inside the groups view enables the menus again while the groups view goes on.
 auto RunningView(frmTessarin& window) {
     window.SetViewRunning(true);
     return AtScopeEnd([&window] { window.SetViewRunning(false); });
 }
 
 } // namespace
+
+void frmTessarin::SetViewRunning(bool MyViewRunning) {
+    mbViewRunning = MyViewRunning;
+    for (MenuItem* const menu : {&mnuFile, &mnuEdit, &mnuView})
+        menu->SetEnabled(!MyViewRunning);
+}
 
 std::vector<Label*> frmTessarin::DeadLabels() {
     std::vector<Label*> labels;
@@ -34,7 +40,8 @@ std::vector<Label*> frmTessarin::DeadLabels() {
     return labels;
 }
 
-// Sets only backgrounds: the fields keep the normal one until they are painted again.
+// Sets only backgrounds. At the end the dead fields have the normal one until they are painted
+// again.
 void frmTessarin::lblDeadEnd_Click() {
     const auto view = RunningView(*this);
     for (Label* const label : DeadLabels())
@@ -73,6 +80,7 @@ void frmTessarin::mnuViewFreedom_Click() {
     PaintFreedoms();
     ShowInformation("Freedoms of fields");
     RefreshAll();
+    // As after the dead-cells view: dead fields look normal until they are painted again.
     for (Label* const label : DeadLabels()) {
         label->SetBackColor(WindowBackground);
         label->SetForeColor(ButtonText);

@@ -14,6 +14,7 @@ constexpr int TickMilliseconds = 5;
 constexpr float PictureSide = 480;
 constexpr int PicturesInColumn = 4;
 
+// The pictures lie side by side in the design; UserControl_Resize puts them on top of each other.
 PictureProperties PictureAt(int index) {
     const int column = index / PicturesInColumn;
     const int row = index % PicturesInColumn;
@@ -38,7 +39,6 @@ ctlRotor::ctlRotor(Control& container, std::string name, const Bounds& place)
 
 void ctlRotor::UserControl_Initialize() {
     Timer1.SetInterval(TickMilliseconds);
-    UseHourglass = true;
     Stop();
 }
 
@@ -73,7 +73,7 @@ void ctlRotor::Stop() {
 }
 
 void ctlRotor::Timer1_Timer() {
-    FrameIndex = static_cast<std::int16_t>((FrameIndex + 1) % Pictures);
+    FrameIndex = (FrameIndex + 1) % Pictures;
     ShowFrame();
 }
 

@@ -3,7 +3,6 @@
 #include "platform/Platform.h"
 #include "toolkit/Controls.h"
 
-#include <cstdint>
 #include <deque>
 #include <string>
 
@@ -35,8 +34,8 @@ private:
 
     std::deque<Picture> Image1; // counts from 0
     Timer Timer1{*this, "Timer1"};
-    bool UseHourglass = false;    // the pointer is an hourglass while the rotor turns
-    std::int16_t FrameIndex = -1; // the visible picture; -1 while stopped
+    bool UseHourglass = true; // the pointer is an hourglass while the rotor turns
+    int FrameIndex = -1;      // the visible picture; -1 while stopped
 };
 
 } // namespace tessarin
