@@ -40,6 +40,20 @@ TEST_F(GridTest, GroupsAreRowsColumnsAndBoxes) {
     EXPECT_EQ(flavors, "horizontal horizontal vertikal vertikal box box ");
 }
 
+TEST_F(GridTest, LargeGridsHaveMoreValuesThanFitIntoAWord) {
+    grid.Init(9);
+    const std::pair<int, int> values[] = {{2, 1}, {3, 64}, {4, 65}, {5, 81}, {6, 82}};
+    for (const auto& [field, value] : values)
+        At(field).SetValue(value);
+    std::vector<int> taken;
+    const UniqueNumbers free = At(1).FreeValues();
+    for (int value = 1; value <= 82; ++value)
+        if (!free.Contains(value)) taken.push_back(value);
+    EXPECT_EQ(taken, std::vector({1, 64, 65, 81, 82}));
+    EXPECT_EQ(At(1).Freedom(), 77);
+    EXPECT_EQ(grid.NextFreeField(), 1);
+}
+
 TEST_F(GridTest, OnlyChangesAreTold) {
     TELLS(At(7).SetValue(99), "7=99");
     TELLS(At(7).SetValue(99), "");

@@ -2,7 +2,6 @@
 #include "model/Errors.h"
 #include "model/Event.h"
 #include "model/UniqueNumbers.h"
-#include "model/ValueSet.h"
 #include "support/modStringLibrary.h"
 
 #include <gtest/gtest.h>
@@ -38,19 +37,6 @@ TEST(EventTest, AHandlerMayReplaceItselfAndDestroyTheEvent) {
         EXPECT_FALSE(kept.expired()) << "the running handler has been destroyed";
     });
     event->Raise();
-}
-
-TEST(ValueSetTest, HoldsTheValuesOfLargeGridsToo) {
-    ValueSet set(130), other(130);
-    for (const int value : {0, -1, 131, 1, 64, 65, 65, 130})
-        set.Add(value);
-    EXPECT_EQ(set.Count(), 4);
-    other.Add(128);
-    other.Add(set);
-    std::vector<int> contained;
-    for (int value = -1; value <= 131; ++value)
-        if (other.Contains(value)) contained.push_back(value);
-    EXPECT_EQ(contained, std::vector({1, 64, 65, 128, 130}));
 }
 
 TEST(UniqueNumbersTest, RefuseANumberThatIsThere) {

@@ -6,18 +6,24 @@
 #include "model/TakenValues.h"
 
 #include <algorithm>
+#include <bit>
+#include <optional>
 
 namespace tessarin {
 
 namespace {
 
-ValueSet TakenNow(const Field& field) {
-    const int numbers = Grid().Numbers();
-    return TakenValues(field, numbers, [numbers](int index) -> std::optional<ValueSet> {
+ValueBits TakenNow(const Field& field, const Slice& slice) {
+    const auto bitOf = [&](int index) -> ValueBits {
+        const auto* const listed = Grid().Items.Find(index);
+        return listed != nullptr ? slice.BitOf((*listed)->Value()) : 0;
+    };
+    const auto bitsIn = [&](int index) -> std::optional<ValueBits> {
         const auto* const group = goBoard->Groups ? goBoard->Groups->Items.Find(index) : nullptr;
         if (group == nullptr) return {};
-        return ValuesIn(**group, numbers);
-    });
+        return BitsIn(**group, bitOf);
+    };
+    return TakenBits(field, slice.BitOf(field.Value()), bitsIn);
 }
 
 } // namespace
@@ -46,17 +52,24 @@ void Field::GroupAdd(const Group& Grp) {
 }
 
 UniqueNumbers Field::FreeValues() const {
-    const ValueSet taken = TakenNow(*this);
     const int numbers = Grid().Numbers();
     UniqueNumbers free;
     free.Reserve(numbers);
-    for (int value = 1; value <= numbers; ++value)
-        if (!taken.Contains(value)) free.Add(value);
+    for (int first = 1; first <= numbers; first += Slice::MaxSize) {
+        const Slice slice(first, numbers);
+        const ValueBits taken = TakenNow(*this, slice);
+        for (int value = first; value < first + slice.Size; ++value)
+            if ((taken & slice.BitOf(value)) == 0) free.Add(value);
+    }
     return free;
 }
 
 int Field::Freedom() const {
-    return Grid().Numbers() - TakenNow(*this).Count();
+    const int numbers = Grid().Numbers();
+    int freedom = numbers;
+    for (int first = 1; first <= numbers; first += Slice::MaxSize)
+        freedom -= std::popcount(TakenNow(*this, Slice(first, numbers)));
+    return freedom;
 }
 
 std::string Field::FreeValuesList() const {

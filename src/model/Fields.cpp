@@ -5,10 +5,12 @@
 #include "model/TakenValues.h"
 #include "platform/Platform.h"
 
+#include <bit>
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace tessarin {
 
@@ -33,14 +35,35 @@ int StatusOf(const Fields::Counts& now, const Fields::Counts& before) {
     return Fields::NothingToReport;
 }
 
-// The values in each group, read once for a pass: each group is one of many fields.
-Collection<ValueSet> ValuesInGroups(int numbers) {
-    Collection<ValueSet> values;
-    if (!goBoard->Groups) return values;
-    values.Reserve(goBoard->Groups->Items.Count());
-    for (const auto& group : goBoard->Groups->Items)
-        values.Add(ValuesIn(*group, numbers));
-    return values;
+// The number of values that are taken for each field, in the order of the fields; 0 for fields with
+// a value, for which nobody asks. The values of a field and those in a group are read once, because
+// a field is in several groups and a group in many fields.
+std::vector<int> TakenCounts(const Collection<std::shared_ptr<Field>>& fields, int numbers) {
+    std::vector<int> counts(static_cast<std::size_t>(fields.Count()));
+    for (int first = 1; first <= numbers; first += Slice::MaxSize) {
+        const Slice slice(first, numbers);
+        Collection<ValueBits> values;
+        values.Reserve(fields.Count());
+        for (const auto& field : fields)
+            values.Add(slice.BitOf(field->Value()));
+        const auto bitOf = [&](int index) {
+            const ValueBits* const bit = values.Find(index);
+            return bit != nullptr ? *bit : 0;
+        };
+        Collection<ValueBits> inGroups;
+        if (goBoard->Groups) {
+            inGroups.Reserve(goBoard->Groups->Items.Count());
+            for (const auto& group : goBoard->Groups->Items)
+                inGroups.Add(BitsIn(*group, bitOf));
+        }
+        const auto bitsIn = [&](int index) { return inGroups.Find(index); };
+        auto count = counts.begin();
+        for (const auto& field : fields) {
+            if (field->Value() == 0) *count += std::popcount(TakenBits(*field, 0, bitsIn));
+            ++count;
+        }
+    }
+    return counts;
 }
 
 } // namespace
@@ -140,19 +163,18 @@ void Fields::UpdateStatus() {
 
 Fields::CountedFields Fields::CountFields() const {
     const int numbers = Numbers();
+    const std::vector<int> taken = TakenCounts(Items, numbers);
     int smallestFreedom = numbers + 1;
-    const Collection<ValueSet> inGroups = ValuesInGroups(numbers);
-    const auto valuesOf = [&](int group) { return inGroups.Find(group); };
     CountedFields counted;
     Counts& counts = counted.Counts;
-    for (const auto& field : Items) {
+    for (std::size_t i = 0; const auto& field : Items) {
+        const int freedom = numbers - taken[i++];
         if (field->Locked()) ++counts.Locked;
         if (field->Value() != 0) {
             if (!field->Locked()) ++counts.Set;
             continue;
         }
         ++counts.Free;
-        const int freedom = numbers - TakenValues(*field, numbers, valuesOf).Count();
         if (freedom == 0) {
             counted.DeadFields.Add(field->Index);
         } else if (freedom < smallestFreedom) {

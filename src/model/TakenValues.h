@@ -1,35 +1,53 @@
 // Which values are taken for a field: one algorithm, for a field alone and for a pass over the
-// grid.
+// grid. Values are bits of a word, so a grid with more than 64 values is worked in slices of 64.
 #pragma once
 
-#include "model/Board.h"
 #include "model/Field.h"
-#include "model/Fields.h"
 #include "model/Group.h"
-#include "model/ValueSet.h"
+
+#include <algorithm>
+#include <cstdint>
 
 namespace tessarin {
 
-/// The values of the fields in the group's list. Fields that do not exist are ignored.
-inline ValueSet ValuesIn(const Group& group, int numbers) {
-    const auto& fields = Grid().Items;
-    ValueSet values(numbers);
+/// Up to 64 values, one bit each.
+using ValueBits = std::uint64_t;
+
+/// Those of the values 1 to Numbers that share a word: First to First + Size - 1.
+struct Slice {
+    static constexpr int MaxSize = 64;
+
+    int First;
+    int Size;
+
+    Slice(int first, int numbers) : First(first), Size(std::min(MaxSize, numbers - first + 1)) {}
+
+    /// The bit of a value; none for a value outside the slice.
+    ValueBits BitOf(int value) const {
+        const auto place = static_cast<unsigned>(value) - static_cast<unsigned>(First);
+        const bool isInside = place < static_cast<unsigned>(Size);
+        return ValueBits{isInside} << (place % MaxSize); // no branch: it would be hard to predict
+    }
+};
+
+/// The values that a group holds: those of the fields in its list. `bitOf(index)` gives the bit of
+/// a field's value, or none if there is no such field.
+template <class BitOfField>
+ValueBits BitsIn(const Group& group, BitOfField bitOf) {
+    ValueBits bits = 0;
     for (const int index : group.Fields)
-        if (const auto* const field = fields.Find(index)) values.Add((*field)->Value());
-    return values;
+        bits |= bitOf(index);
+    return bits;
 }
 
-/// The values in the groups of `field`, and its own one, which a group registered by hand may not
-/// list. None for a field without groups. `valuesOf(index)` gives the values in the group with that
-/// index, as ValuesIn does, or nothing if there is no such group.
-template <class ValuesOf>
-ValueSet TakenValues(const Field& field, int numbers, ValuesOf valuesOf) {
-    ValueSet taken(numbers);
+/// The values that are taken for a field: those in its groups, and its own one, because a group
+/// registered by hand need not list the field. `bitsIn(index)` points to the values of a group, or
+/// is empty if there is no such group; a field without groups has no value taken, not even its own.
+template <class BitsInGroup>
+ValueBits TakenBits(const Field& field, ValueBits own, BitsInGroup bitsIn) {
+    ValueBits taken = 0;
     for (const int index : field.InGroups)
-        if (const auto& values = valuesOf(index)) {
-            taken.Add(*values);
-            taken.Add(field.Value());
-        }
+        if (const auto bits = bitsIn(index)) taken |= *bits | own;
     return taken;
 }
 

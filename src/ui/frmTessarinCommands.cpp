@@ -129,12 +129,12 @@ void frmTessarin::lblField_Click(int Index) {
 
 void frmTessarin::btnNumPad_Click(int Index) {
     Play& play = *moGame->Play;
-    if (Index == LockKey)
-        play.SetLocked(!play.Locked());
+    if (Index <= 9)
+        play.SetValue(Index);
     else if (Index == ClearKey)
         play.SetValue(0);
-    else
-        play.SetValue(Index);
+    else if (Index == LockKey)
+        play.SetLocked(!play.Locked());
 }
 
 void frmTessarin::optChill_Click(int Index) {
