@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <optional>
 
 namespace tessarin {
 
@@ -18,12 +17,12 @@ ValueBits TakenNow(const Field& field, const Slice& slice) {
         const auto* const listed = Grid().Items.Find(index);
         return listed != nullptr ? slice.BitOf((*listed)->Value()) : 0;
     };
-    const auto bitsIn = [&](int index) -> std::optional<ValueBits> {
+    // With the field's own value, because a group that was registered by hand need not list it.
+    const auto bitsIn = [&](int index) -> ValueBits {
         const auto* const group = goBoard->Groups ? goBoard->Groups->Items.Find(index) : nullptr;
-        if (group == nullptr) return {};
-        return BitsIn(**group, bitOf);
+        return group != nullptr ? BitsIn(**group, bitOf) | slice.BitOf(field.Value()) : 0;
     };
-    return TakenBits(field, slice.BitOf(field.Value()), bitsIn);
+    return TakenBits(field, bitsIn);
 }
 
 } // namespace

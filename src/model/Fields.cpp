@@ -35,35 +35,36 @@ int StatusOf(const Fields::Counts& now, const Fields::Counts& before) {
     return Fields::NothingToReport;
 }
 
-// The number of values that are taken for each field, in the order of the fields; 0 for fields with
-// a value, for which nobody asks. The values of a field and those in a group are read once, because
-// a field is in several groups and a group in many fields.
-std::vector<int> TakenCounts(const Collection<std::shared_ptr<Field>>& fields, int numbers) {
-    std::vector<int> counts(static_cast<std::size_t>(fields.Count()));
+// Bits for each number from 1 to a count; none for other numbers.
+class BitsByNumber {
+public:
+    explicit BitsByNumber(int count) : mBits(static_cast<std::size_t>(count) + 1) {}
+    ValueBits& operator[](int number) { return mBits[static_cast<std::size_t>(number)]; }
+    ValueBits operator()(int number) const {
+        const auto place = static_cast<std::size_t>(number); // huge for a negative number
+        return place < mBits.size() ? mBits[place] : 0;
+    }
+
+private:
+    std::vector<ValueBits> mBits;
+};
+
+// What each group holds, for each slice of the values. The values of the fields are read once: a
+// field is in several groups.
+std::vector<BitsByNumber> BitsInGroups(const Collection<std::shared_ptr<Field>>& fields,
+                                       int numbers) {
+    std::vector<BitsByNumber> slices;
+    const int groups = goBoard->Groups ? goBoard->Groups->Items.Count() : 0;
     for (int first = 1; first <= numbers; first += Slice::MaxSize) {
         const Slice slice(first, numbers);
-        Collection<ValueBits> values;
-        values.Reserve(fields.Count());
-        for (const auto& field : fields)
-            values.Add(slice.BitOf(field->Value()));
-        const auto bitOf = [&](int index) {
-            const ValueBits* const bit = values.Find(index);
-            return bit != nullptr ? *bit : 0;
-        };
-        Collection<ValueBits> inGroups;
-        if (goBoard->Groups) {
-            inGroups.Reserve(goBoard->Groups->Items.Count());
-            for (const auto& group : goBoard->Groups->Items)
-                inGroups.Add(BitsIn(*group, bitOf));
-        }
-        const auto bitsIn = [&](int index) { return inGroups.Find(index); };
-        auto count = counts.begin();
-        for (const auto& field : fields) {
-            if (field->Value() == 0) *count += std::popcount(TakenBits(*field, 0, bitsIn));
-            ++count;
-        }
+        BitsByNumber bitOf(fields.Count());
+        for (int i = 0; const auto& field : fields)
+            bitOf[++i] = slice.BitOf(field->Value());
+        BitsByNumber& bitsIn = slices.emplace_back(groups);
+        for (int group = 1; group <= groups; ++group)
+            bitsIn[group] = BitsIn(*goBoard->Groups->Items.Item(group), bitOf);
     }
-    return counts;
+    return slices;
 }
 
 } // namespace
@@ -163,18 +164,20 @@ void Fields::UpdateStatus() {
 
 Fields::CountedFields Fields::CountFields() const {
     const int numbers = Numbers();
-    const std::vector<int> taken = TakenCounts(Items, numbers);
+    const std::vector<BitsByNumber> bitsInGroups = BitsInGroups(Items, numbers);
     int smallestFreedom = numbers + 1;
     CountedFields counted;
     Counts& counts = counted.Counts;
-    for (std::size_t i = 0; const auto& field : Items) {
-        const int freedom = numbers - taken[i++];
+    for (const auto& field : Items) {
         if (field->Locked()) ++counts.Locked;
         if (field->Value() != 0) {
             if (!field->Locked()) ++counts.Set;
             continue;
         }
         ++counts.Free;
+        int freedom = numbers;
+        for (const BitsByNumber& bitsIn : bitsInGroups)
+            freedom -= std::popcount(TakenBits(*field, bitsIn));
         if (freedom == 0) {
             counted.DeadFields.Add(field->Index);
         } else if (freedom < smallestFreedom) {

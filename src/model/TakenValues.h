@@ -26,28 +26,27 @@ struct Slice {
     ValueBits BitOf(int value) const {
         const auto place = static_cast<unsigned>(value) - static_cast<unsigned>(First);
         const bool isInside = place < static_cast<unsigned>(Size);
-        return ValueBits{isInside} << (place % MaxSize); // no branch: it would be hard to predict
+        return ValueBits{isInside ? 1U : 0U} << (place % MaxSize);
     }
 };
 
 /// The values that a group holds: those of the fields in its list. `bitOf(index)` gives the bit of
 /// a field's value, or none if there is no such field.
 template <class BitOfField>
-ValueBits BitsIn(const Group& group, BitOfField bitOf) {
+ValueBits BitsIn(const Group& group, const BitOfField& bitOf) {
     ValueBits bits = 0;
     for (const int index : group.Fields)
         bits |= bitOf(index);
     return bits;
 }
 
-/// The values that are taken for a field: those in its groups, and its own one, because a group
-/// registered by hand need not list the field. `bitsIn(index)` points to the values of a group, or
-/// is empty if there is no such group; a field without groups has no value taken, not even its own.
+/// The values that are taken for a field: those in its groups. `bitsIn(index)` gives the values in
+/// a group, or none if there is no such group.
 template <class BitsInGroup>
-ValueBits TakenBits(const Field& field, ValueBits own, BitsInGroup bitsIn) {
+ValueBits TakenBits(const Field& field, const BitsInGroup& bitsIn) {
     ValueBits taken = 0;
     for (const int index : field.InGroups)
-        if (const auto bits = bitsIn(index)) taken |= *bits | own;
+        taken |= bitsIn(index);
     return taken;
 }
 
