@@ -25,10 +25,7 @@ public:
         platform.EscPresses.assign(9, false); // a solve that takes long is cancelled
         platform.EscPresses.back() = true;
         platform.SaysYes = true;
-        if (command == "mnuFileImportCSV")
-            Import("3;7;1|" + std::to_string(choose(80) + 1) + ";4;0");
-        else
-            Click(command);
+        Do(command);
         mbStale |= command.starts_with("optChill");
         if (--mlDepth > 0 || platform.Closed) return;
         // What a quiet solve has changed is not painted if another pace is chosen in it.

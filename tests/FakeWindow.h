@@ -80,6 +80,14 @@ public:
         platform.Record.clear();
     }
 
+    /// Clicks a control. An import has a file to read; the dialog to save is cancelled.
+    void Do(const std::string& command) {
+        if (command == "mnuFileImportCSV")
+            Import("3;7;1|41;4;0");
+        else
+            Click(command);
+    }
+
 protected:
     void ClickControl(const std::string& control) override { toolkit.Click(control); }
 };

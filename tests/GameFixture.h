@@ -14,12 +14,13 @@ class GameFixture : public testing::Test, protected GameParts, protected User {
 protected:
     GameFixture() : User(platform, OwnGame) {
         platform.Folder = folder;
-        Hear(game.Events.StatusChanged, [this](int i) { Tell(i, "=", i > 0 ? At(i).Value() : 0); });
+        Hear(game.Events.StatusChanged,
+             [this](int i) { platform.Tell(i, "=", i > 0 ? At(i).Value() : 0); });
         for (const auto& [event, name] : {std::pair(&game.Events.BeforeIndexChanged, "from "),
                                           {&game.Events.IndexChanged, "to "},
                                           {&game.Events.IsWinner, "winner "},
                                           {&game.Events.IsDeadEnd, "dead "}})
-            Hear(*event, [this, name = name](int i) { Tell(name, i); });
+            Hear(*event, [this, name = name](int i) { platform.Tell(name, i); });
     }
     void TearDown() override { platform.ExpectNothingLeft(); }
     void Hear(auto& event, auto handler) { mEvents.push_back(event.Connect(handler)); }

@@ -3,14 +3,6 @@
 
 namespace tessarin {
 
-// Imports have a file to read; boxes are answered with Yes; the dialog to save is cancelled.
-static void Do(FakeWindow& user, const std::string& command) {
-    if (command == "mnuFileImportCSV")
-        user.Import("3;7;1|41;4;0");
-    else
-        user.Click(command);
-}
-
 class NestingTest : public testing::TestWithParam<std::string> {};
 
 INSTANTIATE_TEST_SUITE_P(Commands, NestingTest, testing::ValuesIn(FakeWindow().toolkit.Commands()));
@@ -30,9 +22,9 @@ TEST_P(NestingTest, LeavesNothingStuckAndAllPainted) {
             bool ran = false;
             user.AtPump(pump, [&] {
                 ran = true;
-                Do(user, inner);
+                user.Do(inner);
             });
-            Do(user, GetParam());
+            user.Do(GetParam());
             if (!ran) break;
             ASSERT_EQ(user.platform.Closed ? "" : user.Faults(), "");
         }

@@ -16,7 +16,6 @@ public:
     bool SaysYes = false;        ///< to all questions without an answer in Answers
     std::string Folder = ".";
     std::string ExpectedError; ///< of a handler of the window
-    bool Hourglass = false;    ///< the mouse pointer
     bool Closed = false;       ///< the window is closed: no pumps, sleeps and questions
 
     void PumpEvents(Pump /*pump*/) override {
@@ -46,24 +45,22 @@ public:
         return yes ? Message::Answer::Yes : Message::Answer::No;
     }
     void Beep() override { Tell("Beep"); }
-    void SetMousePointer(MousePointer p) override { Hourglass = p == MousePointer::Hourglass; }
     void ReportError(const std::string& what) override { EXPECT_EQ(what, ExpectedError); }
     std::string ProgramFolder() override { return Folder; }
     VersionRecord Version() override { return {"Solves", "by X", "https://x", 1, 6, 48}; }
     DateTime Now() override { return {2022, 4, 29, 6, 49, 52}; }
     int GetDesktopWindow() override { return 77; }
     void LockWindowUpdate(int handle) override { Tell("Lock(", handle, ")"); }
-    void ShowWindow(int handle, int command) override { Tell("Show(", handle, "|", command, ")"); }
-    int GetWindowLongA(int handle, int index) override {
-        Tell("Get(", handle, "|", index, ")");
-        return mWindowStyle;
+    void ShowWindow(int handle, int command) override {
+        Tell(command == HideCommand ? "Hide(" : "Show(", handle, ")");
+    }
+    int GetWindowLongA(int /*handle*/, int index) override {
+        return index == ExtendedStyle ? 0x10 : 0;
     }
     void SetWindowLongA(int handle, int index, int value) override {
-        Tell("Set(", handle, "|", index, "|", mWindowStyle = value, ")");
+        EXPECT_EQ(index, ExtendedStyle);
+        Tell("Style(", handle, "|0x", std::hex, value, ")");
     }
-
-private:
-    int mWindowStyle = 0x10;
 };
 
 } // namespace tessarin

@@ -3,12 +3,13 @@
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <random>
 #include <stdexcept>
 
 namespace tessarin {
+
+static const std::string FirstLine = "Index;Value;Locked";
 
 static std::string WithBars(const std::string& text) {
     return ReplaceAll(text, "\r\n", "|");
@@ -69,25 +70,25 @@ User::~User() {
 }
 
 std::string User::Told(const std::function<void()>& step) {
-    Tell("");
+    mRecorder.Tell("");
     const std::string outer = std::exchange(mRecorder.Record, "");
     try {
         step();
     } catch (const std::exception& error) {
-        Tell("! ", error.what());
+        mRecorder.Tell("! ", error.what());
     }
-    Tell(""); // what has changed without being told
+    mRecorder.Tell(""); // what has changed without being told
     const std::string told = std::exchange(mRecorder.Record, outer);
     return ReplaceAll(WithBars(told.substr(0, told.find_last_of(' '))), folder, "");
 }
 
 void User::Load(const std::string& lines) {
-    grid.SetTextCSV(WithLineBreaks("Index;Value;Locked|" + lines));
+    grid.SetTextCSV(WithLineBreaks(FirstLine + "|" + lines));
 }
 
 std::string User::Grid() {
     const std::string text = WithBars(grid.TextCSV());
-    return text.substr(std::min(text.find('|'), text.size() - 1) + 1);
+    return text == FirstLine ? "" : text.substr(FirstLine.size() + 1);
 }
 
 void User::Fill(std::string values) {

@@ -7,7 +7,8 @@
 //     to 4        the cursor is on field 4 (0: nowhere)
 //     winner 81   an event of the game with its index; also: dead 12
 //     +3          field 3 has joined the history; -3: it has left it
-//     Beep        a call of the machine; also: Sleep(100), Box(title|text|icon buttons)
+//     Beep        a call of the machine; also: Sleep(100)
+//     Box(title|text|? Yes No)  a box with its buttons; ?: with a question icon, -: with none
 //     (83)        so many pumps of window events, if TellsPumps is set
 //     ! text      the step has ended with this error
 // Line breaks are told as "|", paths of files without the test's folder.
@@ -86,7 +87,6 @@ public:
 
     /// Does a step and returns what is told of it.
     std::string Told(const std::function<void()>& step);
-    void Tell(const auto&... parts) { mRecorder.Tell(parts...); }
     void AtPump(int n, std::function<void()> action) { mRecorder.AtPump(n, std::move(action)); }
     void Meanwhile(std::function<void()> action) { mRecorder.Meanwhile(std::move(action)); }
 
@@ -100,7 +100,7 @@ public:
     void Fill(std::string values);
     /// Loads a full grid but for these fields, and puts the cursor on the first of them.
     void FullBut(const std::vector<int>& empty);
-    /// Begins to trace, with this history.
+    /// Begins to trace, with this history: the oldest entry first.
     void Trace(const std::vector<int>& history);
 
     /// Writes a file, whose lines are separated by "|". Returns its path.

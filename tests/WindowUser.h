@@ -20,8 +20,9 @@ public:
 
     WindowUser(Recorder& recorder, frmTessarin& worked);
 
-    /// Clicks a control: "btnSolve", "lblField(40)". The box or dialog that opens is closed by
-    /// `answer`: a button, or the path of a file.
+    /// Clicks a control: "btnSolve", "lblField(40)"; "btnNumPad(10)" is the key X, which locks, and
+    /// (11) is C, which clears. The box or dialog that opens is closed by `answer`: a button, or
+    /// the path of a file.
     void Click(const std::string& control, const std::string& answer = "");
     /// Clicks a field.
     void Click(int field) { Click("lblField(" + std::to_string(field) + ")"); }

@@ -14,8 +14,7 @@ QtFixture::QtFixture() : WindowUser(platform, OwnWindow) {
     platform.Record.clear();
 }
 
-void QtFixture::Key(const QString& keys, const std::string& answer) {
-    if (!answer.empty()) platform.Answers.push_back(answer);
+void QtFixture::Key(const QString& keys) {
     const QKeyCombination key = Combination(keys);
     QTest::qWait(2); // a press in the same millisecond as the release before would be a repeat
     QTest::keyClick(Top().windowHandle(), key.key(), key.keyboardModifiers());
@@ -47,8 +46,8 @@ bool QtFixture::HasHourglass() {
 }
 
 void QtFixture::TellClicks() {
-    window.btnInfo.Click = [this] { Tell("info"); };
-    window.lblField.Click = [this](int index) { Tell("field ", index); };
+    window.btnInfo.Click = [this] { platform.Tell("info"); };
+    window.lblField.Click = [this](int index) { platform.Tell("field ", index); };
 }
 
 QWidget& QtFixture::Widget(const std::string& name) {
@@ -83,10 +82,10 @@ void QtFixture::LookForBox() {
     mSeen = dialog;
     mEyes.start(); // fires again although this handler has not ended
     if (const auto* const box = qobject_cast<const QMessageBox*>(dialog))
-        Tell("Box(", box->windowTitle().toStdString(), "|", box->text().toStdString(),
-             box->icon() == QMessageBox::Question ? "|?)" : "|-)");
+        platform.Tell("Box(", box->windowTitle().toStdString(), "|", box->text().toStdString(),
+                      box->icon() == QMessageBox::Question ? "|?)" : "|-)");
     else
-        Tell(dialog->windowTitle().toStdString());
+        platform.Tell(dialog->windowTitle().toStdString());
     platform.Paused();
     if (dialog->isVisible()) AnswerBox(*dialog);
 }

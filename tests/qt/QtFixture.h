@@ -44,9 +44,9 @@ protected:
     void TearDown() override { platform.ExpectNothingLeft(); }
 
     /// Presses and releases a key, "Ctrl+Home", in the window that would get it.
-    void Key(const QString& keys, const std::string& answer = "");
-    /// The press of a key, its release, and its repeat while it is held, which X11 sends without a
-    /// mark as one of each. The time is in milliseconds.
+    void Key(const QString& keys);
+    /// The press of a key, its release, and a repeat while it is held: X11 sends that as a release
+    /// and a press at the same time, and does not mark it. Times are in milliseconds.
     void Down(int time, const QString& key) { SendKey(QEvent::KeyPress, time, key); }
     void Up(int time, const QString& key) { SendKey(QEvent::KeyRelease, time, key); }
     void Repeat(int time, const QString& key) {

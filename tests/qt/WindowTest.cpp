@@ -143,7 +143,9 @@ TEST_F(WindowTest, ADialogOpensInTheFolderOfTheFileBeforeAndLeavesNoSettings) {
 
 TEST_F(WindowTest, TheWindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
     const QSize narrow = form->frameSize();
-    EXPECT_NEAR(narrow.width(), 8850 / 15, 2); // a thin frame leaves an empty strip
+    // Twips, 15 to a pixel. The size with the frame is fixed: a thin frame leaves an empty strip
+    // beside the columns.
+    EXPECT_NEAR(narrow.width(), 8850 / 15, 2);
     EXPECT_EQ(narrow.height(), 7170 / 15);
     Click("btnInfo");
     EXPECT_EQ(form->frameSize(), narrow + QSize(2775 / 15, 0));
@@ -163,16 +165,14 @@ TEST_F(WindowTest, AReturnFromAnotherWindowRepaintsButNotOneFromAnOwnBox) {
     EXPECT_EQ(Seen({81}), "3");
 }
 
-TEST_F(WindowTest, ScreenReadersHearTheNewNameAndPressFields) {
-    QWidget& field = Widget("lblField(2)");
-    QObject::connect(qApp, &QApplication::focusChanged, &field, [&] {
-        EXPECT_EQ(field.accessibleName().toStdString(), "row 1, column 2: empty, current");
+TEST_F(WindowTest, AFieldIsCurrentBeforeItGetsTheFocusAndReadersMayPressIt) {
+    QObject::connect(qApp, &QApplication::focusChanged, form, [](auto* /*old*/, auto* field) {
+        EXPECT_TRUE(!field || field->accessibleName().endsWith(", current"));
     });
     Key("Right");
-    EXPECT_EQ(Focused(), "lblField(2)");
-    auto* const spoken = QAccessible::queryAccessibleInterface(&field);
-    ASSERT_NE(spoken->actionInterface(), nullptr);
     Click(40);
+    auto* const spoken = QAccessible::queryAccessibleInterface(&Widget("lblField(2)"));
+    ASSERT_NE(spoken->actionInterface(), nullptr);
     spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(grid.Index(), 2);
 }
@@ -219,7 +219,6 @@ TEST_F(WindowTest, EachMoveOfASolveIsSeenBeforeTheNext) {
 }
 
 TEST_F(WindowTest, AllLinesOfTheInformationAreWholeInAHighFont) {
-    EXPECT_EQ(Lines(Picture("lblInfo")), 11);
     window.lblInfo.SetFont({.Size = 8.25F});
     EXPECT_EQ(Lines(Picture("lblInfo")), 11);
 }
@@ -267,7 +266,6 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     QApplication::exec();
     EXPECT_LT(sinceClose.elapsed(), 900);
     EXPECT_EQ(Grid(), "1;5;0"); // the question was not answered
-    EXPECT_FALSE(form->isVisible());
 }
 
 } // namespace tessarin
