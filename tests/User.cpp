@@ -21,16 +21,18 @@ static std::string WithLineBreaks(const std::string& text) {
 void Recorder::TellText(const std::string& text) {
     if (Player == nullptr) return;
     const UniqueNumbers history = Player->History.value_or(UniqueNumbers());
-    const auto tellMissing = [this](const auto& from, const auto& in, const char* sign) {
+    std::ostringstream told;
+    const auto tellMissing = [&](const auto& from, const auto& in, char sign) {
         for (const int index : from)
-            if (!in.Contains(index)) Record += sign + std::to_string(index) + " ";
+            if (!in.Contains(index)) told << sign << index << " ";
     };
-    tellMissing(mHistory, history, "-");
-    tellMissing(history, mHistory, "+");
+    tellMissing(mHistory, history, '-');
+    tellMissing(history, mHistory, '+');
     mHistory = history;
     const int pumps = mPumps - std::exchange(mPumpsTold, mPumps);
-    if (TellsPumps && pumps > 0) Record += "(" + std::to_string(pumps) + ") ";
-    if (!text.empty()) Record += text + " ";
+    if (TellsPumps && pumps > 0) told << "(" << pumps << ") ";
+    if (!text.empty()) told << text << " ";
+    Record += told.str();
 }
 
 void Recorder::Pumped() {
