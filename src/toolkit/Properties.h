@@ -46,7 +46,8 @@ enum class TextFlow {
 struct GridCell {
     int Row = 1;
     int Column = 1;
-    auto operator<=>(const GridCell&) const = default;
+    // clang-tidy 14 sees a null pointer in a comparison that is defaulted.
+    auto operator<=>(const GridCell&) const = default; // NOLINT(modernize-use-nullptr)
 };
 
 struct LabelProperties {
