@@ -77,6 +77,8 @@ TEST_F(GridTest, AMoveArrivesWhateverHappensOnItsWay) {
     TELLS(grid.SetIndex(3), "from 1 from 1 to 9 to 3");
     AtPump(1, [&] { grid.Init(); });
     TELLS(grid.SetIndex(4), "from 3 to 4");
+    AtPump(1, [&] { grid.SetIndex(5); });
+    TELLS(grid.SetIndex(5), "from 4 from 4 to 5"); // told once
 }
 
 TEST_F(GridTest, WinnerComesAndGoes) {

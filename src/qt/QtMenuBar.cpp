@@ -97,10 +97,9 @@ public:
             bar.addAction(this);
     }
 
-    // Only Enabled can change.
+    // Only a menu is ever disabled. Qt disables its title with it; if the title alone were
+    // disabled, the entries of an open menu would still answer.
     void Changed(Property /*property*/) override {
-        setEnabled(mItem.Enabled());
-        // The entries of an open menu still answer when only its action is disabled.
         if (mMenu) mMenu->setEnabled(mItem.Enabled());
     }
 

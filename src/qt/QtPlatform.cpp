@@ -2,6 +2,7 @@
 
 #include "platform/ScopedValue.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QFileInfo>
@@ -56,6 +57,8 @@ void QtPlatform::Sleep(int milliseconds) {
         const ScopedValue<bool> held(mbTicksHeld, true);
         QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
+    // Otherwise GLib's event loop would not look at what has waited until something new arrives.
+    QAbstractEventDispatcher::instance()->wakeUp();
 }
 
 void QtPlatform::SetMousePointer(MousePointer pointer) {

@@ -218,6 +218,23 @@ TEST_F(WindowTest, EachMoveOfASolveIsSeenBeforeTheNext) {
     EXPECT_TRUE(eye.Painted.contains(changed));
 }
 
+// User and timers wait: a tick of the rotor would pump.
+TEST_F(WindowTest, ASleepOnlyPaints) {
+    platform.ReallySleeps = true;
+    platform.TellsPumps = true;
+    window.ctlRotor1.SetRunning(true);
+    QWidget& field = Widget("lblField(40)");
+    Eye eye;
+    field.installEventFilter(&eye);
+    field.update();
+    QCursor::setPos(field.mapToGlobal(QPoint(9, 9)));
+    TELLS(platform.Sleep(100), "");
+    EXPECT_TRUE(eye.Painted.contains(&field));
+    EXPECT_FALSE(field.underMouse());
+    platform.PumpEvents(Pump::Now);
+    EXPECT_TRUE(field.underMouse());
+}
+
 TEST_F(WindowTest, AllLinesOfTheInformationAreWholeInAHighFont) {
     window.lblInfo.SetFont({.Size = 8.25F});
     EXPECT_EQ(Lines(Picture("lblInfo")), 11);
@@ -256,6 +273,7 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     QElapsedTimer sinceClose;
     const auto close = [&] {
         if (form->close() && !sinceClose.isValid()) sinceClose.start();
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     };
     if (GetParam() != std::string("mnuViewGroups")) Meanwhile(close);
     platform.EachPump = [&] {
