@@ -16,34 +16,54 @@ namespace tessarin::qt {
 
 QtMenuBar::QtMenuBar(QWidget& window, KeyboardFocus& focus) : QMenuBar(&window), mFocus(focus) {
     setNativeMenuBar(false);
-    qApp->installEventFilter(this);
 }
 
-// Watches the window instead of its widgets: QMenuBar itself overlooks a tap on Alt if the focus
-// moves between press and release, as it does during a solve.
+// From now on there is a native window to watch.
+void QtMenuBar::showEvent(QShowEvent* event) {
+    QMenuBar::showEvent(event);
+    window()->windowHandle()->installEventFilter(this);
+}
+
+// Watches the native window instead of the widgets in it: QMenuBar itself overlooks a tap on Alt if
+// the focus moves between press and release, as it does during a solve.
 bool QtMenuBar::eventFilter(QObject* receiver, QEvent* event) {
     if (receiver != window()->windowHandle()) return false;
-    const QEvent::Type type = event->type();
-    if (type == QEvent::KeyPress) return Pressed(*static_cast<QKeyEvent*>(event));
-    bool leaves = type == QEvent::MouseButtonPress && !underMouse();
-    if (type == QEvent::KeyRelease) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Alt && std::exchange(mbAltAlone, false)) Toggle();
-        // After ESC has closed the last menu, Qt leaves the focus on the menu bar.
-        leaves = key == Qt::Key_Escape && QApplication::activePopupWidget() == nullptr;
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return Pressed(*static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+        Released(*static_cast<QKeyEvent*>(event));
+        break;
+    case QEvent::MouseButtonPress:
+        mbAltAlone = false;
+        if (!underMouse()) Leave();
+        break;
+    case QEvent::FocusOut:
+        mbAltAlone = false;
+        break;
+    default:
+        break;
     }
-    if (leaves && hasFocus()) Toggle();
     // QMenuBar keeps the focus if the control that had it before is disabled or hidden by now.
     if (hasFocus() && activeAction() == nullptr) mFocus.ToGrid();
-    if (type == QEvent::FocusOut || type == QEvent::MouseButtonPress) mbAltAlone = false;
     return false;
+}
+
+void QtMenuBar::Released(const QKeyEvent& key) {
+    if (key.key() == Qt::Key_Alt && std::exchange(mbAltAlone, false)) Toggle();
+    // After ESC has closed the last menu, Qt leaves the focus on the menu bar.
+    if (key.key() == Qt::Key_Escape && QApplication::activePopupWidget() == nullptr) Leave();
+}
+
+void QtMenuBar::Leave() {
+    if (hasFocus()) Toggle();
 }
 
 bool QtMenuBar::Pressed(const QKeyEvent& key) {
     mbAltAlone = key.key() == Qt::Key_Alt && QApplication::activePopupWidget() == nullptr;
     if (QApplication::activePopupWidget() != nullptr) return false;
     if (key.key() == Qt::Key_F10 && key.modifiers() == Qt::NoModifier) {
-        if (!key.isAutoRepeat()) Toggle();
+        Toggle();
         return true;
     }
     const auto modifiers = key.modifiers() & ~Qt::ShiftModifier; // the "?" needs it
@@ -55,22 +75,22 @@ bool QtMenuBar::Open(const QString& letter) {
     for (QAction* const title : actions())
         if (title->isEnabled() && title->text().startsWith(letter, Qt::CaseInsensitive)) {
             setActiveAction(title);
-            QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier); // to the first entry
-            if (title->menu()->isVisible()) QApplication::sendEvent(title->menu(), &down);
+            QMenu* const menu = title->menu(); // none if it has no entries
+            QKeyEvent toFirstEntry(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+            if (menu != nullptr && menu->isVisible()) QApplication::sendEvent(menu, &toFirstEntry);
             return true;
         }
     return false;
 }
 
-// Makes QMenuBar believe in a tap on Alt. It would start from the title under the pointer.
+// Makes QMenuBar believe in a tap on Alt, without a title under the pointer: it would start there.
 void QtMenuBar::Toggle() {
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(this, &leave);
-    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier); // before it is down
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
+    QEvent pointerLeaves(QEvent::Leave);
+    QApplication::sendEvent(this, &pointerLeaves);
+    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
     QMenuBar::eventFilter(this, &press);
-    QMenuBar::eventFilter(this, &release); // takes this filter away
-    qApp->installEventFilter(this);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
+    QMenuBar::eventFilter(this, &release);
 }
 
 // The style highlights only titles whose menu is open.

@@ -18,15 +18,20 @@ public:
     QtMenuBar(QWidget& window, KeyboardFocus& focus);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* receiver, QEvent* event) override;
     void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
 
 private:
+    // Returns whether the press is used up.
     bool Pressed(const QKeyEvent& key);
-    // Returns whether there is an enabled title that begins with `letter`.
+    void Released(const QKeyEvent& key);
+    // Opens the menu of the enabled title that begins with `letter`; returns whether there is one.
     bool Open(const QString& letter);
-    // Goes to the first title, or back.
+    // Goes to the first title, or back to where the focus was before.
     void Toggle();
+    // Goes back, if the focus is here.
+    void Leave();
 
     KeyboardFocus& mFocus;
     bool mbAltAlone = false; // Alt is down, and nothing else has been pressed since
