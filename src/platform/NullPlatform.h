@@ -11,10 +11,7 @@ public:
     void PumpEvents(Pump /*pump*/) override {}
     void Sleep(int /*milliseconds*/) override {}
     bool EscPressed() override { return false; }
-    Message::Answer ShowMessage(const Message& message) override {
-        return message.ButtonSet == Message::Buttons::Ok ? Message::Answer::Ok
-                                                         : Message::Answer::No;
-    }
+    Message::Answer ShowMessage(const Message& message) override { return message.Refusal(); }
     void Beep() override {}
     void SetMousePointer(MousePointer /*pointer*/) override {}
     std::string ProgramName() override { return "Tessarin"; }

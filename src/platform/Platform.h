@@ -36,11 +36,15 @@ struct Message {
     std::string Title = {};
     Buttons ButtonSet = Buttons::Ok;
     bool QuestionIcon = false;
+
+    /// The answer of a box that is closed without a button, or not shown at all.
+    Answer Refusal() const { return ButtonSet == Buttons::YesNo ? Answer::No : Answer::Ok; }
 };
 
 enum class MousePointer { Default, Hourglass };
 
-/// Whether PumpEvents must handle events now or may skip them: see Platform::PumpEvents.
+/// How a pump of window events is meant. WhenDue is for computations that pump thousands of times a
+/// second.
 enum class Pump { Now, WhenDue };
 
 /// The machine that the program runs on. One instance is current; by default a NullPlatform.
@@ -53,10 +57,10 @@ public:
     /// ownership.
     static void SetCurrent(Platform* platform);
 
-    /// Handles the waiting window events once. Any handler of the window may run inside. With
-    /// Pump::WhenDue, for computations that call it thousands of times a second, a platform may
-    /// skip the call if nothing that has changed in the window waits to be seen and the last pump
-    /// was less than a millisecond ago; then it may skip up to seven more in a row.
+    /// Handles the waiting window events once. Any handler of the window may run inside. Of calls
+    /// with Pump::WhenDue a platform may skip those that come within a millisecond of the last pump
+    /// that it has made, and up to seven more in a row; but none while something that has changed
+    /// in the window waits to be seen.
     virtual void PumpEvents(Pump pump) = 0;
     /// Sleeps for `milliseconds` (above 0); ends early when a handler closes the window. The window
     /// may be painted and activated meanwhile. User input and timers wait, unless the activation
@@ -64,8 +68,7 @@ public:
     virtual void Sleep(int milliseconds) = 0;
     /// Whether ESC has been pressed since the last call. Holding it is one press.
     virtual bool EscPressed() = 0;
-    /// Shows the box and returns the button that closed it. Closing it without a button counts as
-    /// No, or as OK if that is the only button.
+    /// Shows the box and returns the button that closed it, or Message::Refusal.
     virtual Message::Answer ShowMessage(const Message& message) = 0;
     virtual void Beep() = 0;
     /// Sets the pointer of the whole application. Calls do not nest.

@@ -10,7 +10,7 @@ QPoint PlaceBeside(const QRect& area, QSize box, const QRect& screen) {
     centered.moveCenter(area.center());
     const int rightmost = std::max(screen.left(), screen.right() + 1 - box.width());
     const int lowest = std::max(screen.top(), screen.bottom() + 1 - box.height());
-    // In the order in which they are preferred.
+    // Of places that cover equally little of the area the first is chosen.
     std::vector<QRect> places;
     for (const int y : {centered.y(), area.y() - box.height(), area.y() + area.height()})
         for (const int x : {centered.x(), area.x() + area.width(), area.x() - box.width()}) {

@@ -17,14 +17,14 @@ class QtMessageBox : public QMessageBox {
 public:
     QtMessageBox(const Message& message, QWidget& window, const QRect& area)
         : QMessageBox(&window), mWindow(window), mArea(area) {
-        const bool question = message.ButtonSet == Message::Buttons::YesNo;
+        const bool isQuestion = message.ButtonSet == Message::Buttons::YesNo;
         setWindowTitle(message.Title.empty() ? window.windowTitle() : ToQt(message.Title));
         setTextFormat(Qt::PlainText);
         setText(ToQt(message.Prompt));
         setIcon(message.QuestionIcon ? Question : NoIcon);
-        setStandardButtons(question ? Yes | No : Ok);
+        setStandardButtons(isQuestion ? Yes | No : Ok);
         // Unless it is set, the default button depends on the desktop.
-        setDefaultButton(question ? Yes : Ok);
+        setDefaultButton(isQuestion ? Yes : Ok);
         // Wide enough for its title, however short its text.
         const int least = 19 * fontMetrics().height();
         if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
@@ -41,6 +41,8 @@ protected:
     }
 
     void showEvent(QShowEvent* event) override {
+        // QDialog would first centre the box, and some window managers show it there.
+        if (!mArea.isEmpty()) setAttribute(Qt::WA_Moved);
         QMessageBox::showEvent(event);
         if (mArea.isEmpty()) return;
         // With a margin: some window managers put the box there, and its frame around it.
@@ -57,11 +59,10 @@ private:
 } // namespace
 
 Message::Answer QtPlatform::ShowMessage(const Message& message) {
-    const bool question = message.ButtonSet == Message::Buttons::YesNo;
-    const auto refusal = question ? Message::Answer::No : Message::Answer::Ok;
-    if (mbClosed || !mWindow) return refusal;
+    if (mbClosed || !mWindow) return message.Refusal();
     QtMessageBox box(message, *mWindow, mArea());
-    return RunModal(box) == QMessageBox::Yes ? Message::Answer::Yes : refusal;
+    const bool isConfirmed = RunModal(box) == QMessageBox::Yes;
+    return isConfirmed ? Message::Answer::Yes : message.Refusal();
 }
 
 } // namespace tessarin::qt

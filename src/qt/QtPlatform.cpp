@@ -1,5 +1,6 @@
 #include "qt/QtPlatform.h"
 
+#include "platform/AtScopeEnd.h"
 #include "platform/ScopedValue.h"
 
 #include <QAbstractEventDispatcher>
@@ -30,14 +31,11 @@ void QtPlatform::PumpEvents(Pump pump) {
     if (mbClosed || (pump == Pump::WhenDue && !IsPumpDue())) return;
     const ScopedValue<bool> ticking(mbTicksHeld, false);
     QApplication::processEvents();
-    if (pump == Pump::Now)
-        mSincePump.invalidate();
-    else
-        mSincePump.start();
+    mSincePump.start();
 }
 
 // Even if nothing is waiting, Qt's pump asks the kernel, which takes fifty times as long as the
-// puzzle logic works between two pumps. So real pumps are at least half a millisecond apart, unless
+// puzzle logic works between two pumps. So pumps are made at least half a millisecond apart, unless
 // the window has changed. Reading the clock is slow, too: only every eighth call does.
 bool QtPlatform::IsPumpDue() {
     constexpr qint64 Nanoseconds = 500'000;
@@ -84,13 +82,14 @@ void QtPlatform::Close() {
 }
 
 int QtPlatform::RunModal(QDialog& dialog) {
+    const AtScopeEnd closed([this] {
+        --mlOpenDialogs;
+        ApplyPointer();
+        mSincePump.invalidate();
+    });
     ++mlOpenDialogs;
     ApplyPointer();
-    const int result = dialog.exec();
-    --mlOpenDialogs;
-    ApplyPointer();
-    mSincePump.invalidate();
-    return result;
+    return dialog.exec();
 }
 
 // Qt keeps a stack of pointers: one that is set twice would have to be restored twice. While a

@@ -19,8 +19,8 @@ namespace tessarin::qt {
 /// lose its place and focus: the window-style calls do nothing.
 class QtPlatform : public Platform {
 public:
-    /// Gives the application the same style of controls on every desktop, and keeps Qt from writing
-    /// into the user's settings. `version` is the program's record.
+    /// `version` is the program's record. Gives the application the same style of controls on every
+    /// desktop, and keeps Qt from writing into the user's settings.
     explicit QtPlatform(VersionRecord version = {});
     ~QtPlatform() override;
 
@@ -41,15 +41,15 @@ public:
     /// There must be one.
     QWidget& Window() { return *mWindow; }
 
-    /// The form has closed. From now on nothing is pumped, slept or asked, so that handlers that
-    /// are still running end at once; a box or dialog that is open is cancelled.
+    /// To be called when the form has closed. Cancels a box or dialog that is open. From now on
+    /// nothing is pumped, slept or asked, so that handlers that are still running end at once.
     void Close();
     bool Closed() const { return mbClosed; }
 
     /// Whether timers must not tick now. A tick that is due waits.
     bool TicksHeld() const { return mbTicksHeld; }
 
-    /// Something in the window has changed: the next pump is real and shows it.
+    /// To be called when something in the window has changed: the next pump is made and shows it.
     void ShowAtNextPump() { mSincePump.invalidate(); }
 
     /// Runs a modal dialog with the normal mouse pointer. Returns the dialog's result.
@@ -65,7 +65,7 @@ private:
     std::function<QRect()> mArea;
     bool mbClosed = false;
     bool mbTicksHeld = false;
-    QElapsedTimer mSincePump; // since the last real pump; invalid: the next one must be real
+    QElapsedTimer mSincePump; // since the last pump that was made; invalid if the next one must be
     unsigned mlPumpsAsked = 0;
     bool mbHourglass = false; // the pointer that SetMousePointer has asked for
     int mlOpenDialogs = 0;
