@@ -35,7 +35,8 @@ public:
     }
     std::unique_ptr<ControlPeer> Create(Picture& picture) override { return Add(picture); }
     std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
-    std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool /*saving*/) override {
+    std::optional<std::string> RunFileDialog(const CommonDialog& dialog,
+                                             FileDialogKind /*kind*/) override {
         mPlatform.Tell(dialog.DialogTitle);
         const std::string path = mPlatform.TakeAnswer();
         return path.empty() ? std::nullopt : std::optional(path);

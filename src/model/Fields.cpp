@@ -153,21 +153,21 @@ Fields::Counts Fields::CountAndPump() {
 void Fields::UpdateStatus() {
     if (mlCountedChanges == mlChanges) return;
     const auto changes = mlChanges;
-    CountedFields counted = CountFields();
+    CountResult result = CountFields();
     Platform& platform = Platform::Current(); // looked up once, not for each field
     for (int i = Items.Count(); i > 0; --i)
         platform.PumpEvents(Pump::WhenDue);
     if (mlCountedChanges == mlChanges) return; // a command in the pumps has read the status
-    if (mlChanges != changes) counted = CountFields();
-    Publish(std::move(counted));
+    if (mlChanges != changes) result = CountFields();
+    Publish(std::move(result));
 }
 
-Fields::CountedFields Fields::CountFields() const {
+Fields::CountResult Fields::CountFields() const {
     const int numbers = Numbers();
     const std::vector<BitsByNumber> bitsInGroups = BitsInGroups(Items, numbers);
     int smallestFreedom = numbers + 1;
-    CountedFields counted;
-    Counts& counts = counted.Counts;
+    CountResult result;
+    Counts& counts = result.Counts;
     for (const auto& field : Items) {
         if (field->Locked()) ++counts.Locked;
         if (field->Value() != 0) {
@@ -179,21 +179,21 @@ Fields::CountedFields Fields::CountFields() const {
         for (const BitsByNumber& bitsIn : bitsInGroups)
             freedom -= std::popcount(TakenBits(*field, bitsIn));
         if (freedom == 0) {
-            counted.DeadFields.Add(field->Index);
+            result.DeadFields.Add(field->Index);
         } else if (freedom < smallestFreedom) {
             smallestFreedom = freedom;
             counts.NextFreeField = field->Index;
         }
     }
     counts.IsWinner = counts.Free == 0;
-    if (counted.DeadFields.Count() > 0) counts.DeadField = counted.DeadFields.Item(1);
-    return counted;
+    if (result.DeadFields.Count() > 0) counts.DeadField = result.DeadFields.Item(1);
+    return result;
 }
 
-void Fields::Publish(CountedFields counted) {
-    counted.Counts.Status = StatusOf(counted.Counts, mCounts);
-    mCounts = counted.Counts;
-    DeadFields = std::move(counted.DeadFields);
+void Fields::Publish(CountResult result) {
+    result.Counts.Status = StatusOf(result.Counts, mCounts);
+    mCounts = result.Counts;
+    DeadFields = std::move(result.DeadFields);
     mlCountedChanges = mlChanges;
 }
 

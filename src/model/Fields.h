@@ -136,13 +136,13 @@ private:
     // Raises StatusChanged and then the event that the status names, unless the change is silent.
     void FieldChanged(int ThisIndex);
 
-    struct CountedFields {
+    struct CountResult {
         Fields::Counts Counts;
         UniqueNumbers DeadFields;
     };
     void UpdateStatus();
-    CountedFields CountFields() const;
-    void Publish(CountedFields counted);
+    CountResult CountFields() const;
+    void Publish(CountResult result);
 
     Counts mCounts;
     bool mbNotify = true;

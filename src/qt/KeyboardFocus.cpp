@@ -10,18 +10,18 @@
 namespace tessarin::qt {
 
 void KeyboardFocus::AddToGrid(Label& label, QWidget& widget) {
-    mGrid.emplace(*label.Cell, GridLabel{label, widget});
+    mGrid.emplace(*label.Cell, GridLabel{label, &widget});
 }
 
 QRect KeyboardFocus::GridBounds() const {
     QRect bounds;
     for (const auto& [cell, label] : mGrid)
-        bounds |= label.Widget.geometry();
+        bounds |= label.Widget->geometry();
     return bounds;
 }
 
 QWidget* KeyboardFocus::Current() const {
-    return mCurrent == nullptr ? nullptr : &mCurrent->Widget;
+    return mCurrent == nullptr ? nullptr : mCurrent->Widget.data();
 }
 
 void KeyboardFocus::MakeCurrent(const Label& label) {
@@ -53,7 +53,7 @@ Label* KeyboardFocus::Target(const QKeyEvent& key) const {
 
 void KeyboardFocus::ToGrid() {
     mWaiting.clear();
-    if (mCurrent == nullptr) return;
+    if (Current() == nullptr) return;
     Current()->setFocus();
     Current()->update(); // its frame was not shown while a control waited
 }

@@ -31,7 +31,8 @@ public:
     /// The rectangle around all labels of the grid, in coordinates of their parent.
     QRect GridBounds() const;
 
-    /// The widget of the current label; nullptr before the first MakeCurrent.
+    /// The widget of the current label; nullptr before the first MakeCurrent, and while the window
+    /// ends.
     QWidget* Current() const;
     /// Makes a label of the grid the current one. The focus follows if it is in the grid.
     void MakeCurrent(const Label& label);
@@ -55,7 +56,7 @@ public:
 private:
     struct GridLabel {
         Label& Control;
-        QWidget& Widget;
+        QPointer<QWidget> Widget; // null when it has ended: a window that ends moves the focus on
     };
 
     bool IsIn(const QWidget& widget) const;

@@ -44,14 +44,14 @@ void ShowColumnsWhole(QFileDialog& dialog) {
 
 class QtFileDialog : public QFileDialog {
 public:
-    QtFileDialog(CommonDialog request, bool saving, QWidget* parent)
+    QtFileDialog(CommonDialog request, FileDialogKind kind, QWidget* parent)
         : QFileDialog(parent), mRequest(std::move(request)) {
-        setOption(QFileDialog::DontUseNativeDialog);
-        setOption(QFileDialog::HideNameFilterDetails); // the descriptions contain them already
+        setOption(DontUseNativeDialog);
+        setOption(HideNameFilterDetails); // the descriptions contain them already
         setWindowTitle(ToQt(mRequest.DialogTitle));
         setNameFilters(NameFilters(mRequest.Filter));
-        setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-        setFileMode(mRequest.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+        setAcceptMode(kind == FileDialogKind::Save ? AcceptSave : AcceptOpen);
+        setFileMode(mRequest.FileMustExist ? ExistingFile : AnyFile);
         ShowColumnsWhole(*this);
         const QFileInfo before(ToQt(mRequest.FileName));
         if (!mRequest.FileName.empty()) setDirectory(before.absolutePath());
@@ -61,20 +61,23 @@ public:
     QString Chosen() const { return msChosen; }
 
 protected:
+    void accept() override {
+        const QString quoted = QuotedPath();
+        const QString path = quoted.isEmpty() ? selectedFiles().value(0) : quoted;
+        const bool namesFile = !path.isEmpty() && !QFileInfo(path).isDir();
+        if (namesFile)
+            AcceptFile(path);
+        else if (quoted.isEmpty())
+            QFileDialog::accept(); // goes to the folder
+        else
+            setDirectory(quoted);
+    }
+
+private:
     // A file to open may have no extension: the default one is tried only if the name as typed does
     // not exist. A file to save always gets one.
-    void accept() override {
-        QString path = QuotedPath();
-        const bool isQuoted = !path.isEmpty();
-        if (!isQuoted) path = selectedFiles().value(0);
-        if (path.isEmpty() || QFileInfo(path).isDir()) {
-            if (isQuoted)
-                setDirectory(path);
-            else
-                QFileDialog::accept();
-            return;
-        }
-        const bool isComplete = acceptMode() == QFileDialog::AcceptOpen && QFileInfo::exists(path);
+    void AcceptFile(QString path) {
+        const bool isComplete = acceptMode() == AcceptOpen && QFileInfo::exists(path);
         if (!isComplete && !QFileInfo(path).fileName().contains('.'))
             path += ToQt(mRequest.DefaultExt);
         if (const QString reason = ReasonAgainst(QFileInfo(path)); !reason.isEmpty()) {
@@ -85,7 +88,6 @@ protected:
         done(Accepted);
     }
 
-private:
     // The path if its name as typed contains quotes. QFileDialog reads them as separators of
     // several names; here they belong to one name.
     QString QuotedPath() const {
@@ -112,9 +114,10 @@ private:
 
 } // namespace
 
-std::optional<std::string> QtToolkit::RunFileDialog(const CommonDialog& dialog, bool saving) {
+std::optional<std::string> QtToolkit::RunFileDialog(const CommonDialog& dialog,
+                                                    FileDialogKind kind) {
     if (mPlatform.Closed()) return std::nullopt;
-    QtFileDialog window(dialog, saving, mForm);
+    QtFileDialog window(dialog, kind, mForm);
     if (mPlatform.RunModal(window) != QDialog::Accepted) return std::nullopt;
     return QDir::toNativeSeparators(window.Chosen()).toStdString();
 }

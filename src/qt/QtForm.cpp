@@ -37,9 +37,9 @@ void QtForm::Changed(Property property) {
         mFrame.SetSize({Pixels(mForm.Width()), Pixels(mForm.Height())}, least);
         Arrange();
     }
-    if (property == Property::Visible) {
+    if (property == Property::Visible) { // changes once, by Form::Show
         ArrangeTabOrder();
-        setVisible(mForm.Visible());
+        show();
         // Without a window manager the first activation is never reported.
         QTimer::singleShot(100, this, [this] {
             if (!mbActivated) Activate();
@@ -63,7 +63,8 @@ QRect QtForm::GridOnScreen() const {
 bool QtForm::event(QEvent* event) {
     const bool handled = QWidget::event(event);
     if (mFrame.Follow(*event) || event->type() == QEvent::Resize) Arrange();
-    // A box of our own has not hidden much, and its end would repaint inside the running command.
+    // The end of a box of our own does not count: it has not hidden much of the window, and the
+    // repaint would run inside the command that has shown it.
     if (event->type() == QEvent::WindowActivate && !std::exchange(mbLeftForOwnBox, false))
         Activate();
     if (event->type() == QEvent::WindowDeactivate)
@@ -87,12 +88,13 @@ void QtForm::keyPressEvent(QKeyEvent* event) {
     event->ignore();
     if (mMenuBar.hasFocus()) return;
     const auto buttons = mClient.findChildren<QPushButton*>();
-    for (QPushButton* const button : buttons)
-        if (button->isVisible() && dynamic_cast<QtCommandButton&>(*button).IsClickedBy(*event)) {
-            event->accept();
-            button->click();
-            return;
-        }
+    for (QPushButton* const button : buttons) {
+        const auto* const command = dynamic_cast<const QtCommandButton*>(button);
+        if (command == nullptr || !button->isVisible() || !command->IsClickedBy(*event)) continue;
+        event->accept();
+        button->click();
+        return;
+    }
 }
 
 // Tab visits the containers from left to right, and the controls in each of them row by row.

@@ -11,8 +11,8 @@
 
 namespace tessarin::qt {
 
-/// A form's window: a fixed border, a menu bar, and below it the client area that holds all
-/// controls. The outer size is the form's Width and Height; the client is what the frame leaves.
+/// A form's window: a menu bar, and below it the client area that holds all controls. The form's
+/// Width and Height are the outer size; the client is what the frame and the menu bar leave.
 class QtForm : public QWidget, public FormPeer {
 public:
     /// `closed` is called when the window has closed.
@@ -20,7 +20,7 @@ public:
 
     void Changed(Property property) override;
     void Close() override { close(); }
-    int Handle() override { return static_cast<int>(winId()); }
+    int Handle() override { return static_cast<int>(winId()); } // an id of X11 has 29 bits
 
     QtMenuBar& MenuBar() { return mMenuBar; }
     /// The parent of all controls, below the menu bar.
@@ -33,7 +33,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    // A character that is the whole caption of a button clicks it, and so does its shortcut.
+    // Clicks the button to which the key belongs.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -50,7 +50,7 @@ private:
 
     bool mbClosed = false;
     bool mbActivated = false;     // the window has been active
-    bool mbLeftForOwnBox = false; // it is inactive because of a box of its own
+    bool mbLeftForOwnBox = false; // the window is inactive because of a box of its own
 };
 
 } // namespace tessarin::qt

@@ -29,14 +29,16 @@ void QtLabel::MakeCurrent() {
 void QtLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     QRect inside = rect();
-    // Fills one inside the other, because drawn rectangles lose lines at fractional scales.
+    // A ring is what remains of a filled rectangle when its inside is filled, too: the lines of
+    // drawn rectangles get lost at fractional scales.
     const auto ring = [&](const QColor& color, int width) {
         painter.fillRect(inside, color);
         inside.adjust(width, width, -width, -width);
     };
     if (mLabel.Border == BorderStyle::FixedSingle) ring(LineColor(), 1);
-    const QRect space = inside;               // for the text
-    if (hasFocus() && !Focus().IsAwaited()) { // one of the two shows on any background
+    const QRect space = inside; // for the text, which the rings of the focus do not move
+    const bool showsFocus = hasFocus() && !Focus().IsAwaited();
+    if (showsFocus) { // on any background one of the two is seen
         ring(Qt::white, 2);
         ring(Qt::black, 2);
     }

@@ -10,18 +10,19 @@ int Pixels(float twips) {
 }
 
 QColor ToQt(Color color) {
-    if (color < SystemColor(0))
+    if (!IsSystemColor(color))
         return QColor::fromRgb(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
                                static_cast<int>(color >> 16 & 0xFF));
     const QPalette palette = QApplication::palette();
-    if (color == SystemColor(5)) return palette.color(QPalette::Base);
-    if (color == SystemColor(18)) return palette.color(QPalette::ButtonText);
+    if (color == WindowBackground) return palette.color(QPalette::Base);
+    if (color == ButtonText) return palette.color(QPalette::ButtonText);
     return palette.color(QPalette::Window);
 }
 
 QColor TextColor(Color fore, Color back) {
-    if (fore != SystemColor(18) || back >= SystemColor(0)) return ToQt(fore);
-    return qGray(ToQt(back).rgb()) > 110 ? Qt::black : Qt::white;
+    if (fore != ButtonText || IsSystemColor(back)) return ToQt(fore);
+    constexpr int DarkestForBlack = 110; // of 255
+    return qGray(ToQt(back).rgb()) > DarkestForBlack ? Qt::black : Qt::white;
 }
 
 QColor LineColor() {

@@ -65,7 +65,7 @@ protected:
         painter.fillRect(line.adjusted(1, 1, -1, -1), ToQt(background));
         const QRect text(8, 0, painter.fontMetrics().horizontalAdvance(caption) + 6, textHeight);
         painter.fillRect(text, ToQt(background));
-        painter.setPen(TextColor(SystemColor(18), background));
+        painter.setPen(TextColor(ButtonText, background));
         painter.drawText(text, Qt::AlignCenter, caption);
     }
 

@@ -9,9 +9,9 @@ class QtPlatform;
 
 /// Makes the controls of one form out of Qt's widgets.
 ///
-/// A control owns its widget, and so does the widget's parent in Qt. Only the control deletes it:
-/// controls are members of what contains them, so they end before their container and its widget,
-/// and a widget that is deleted leaves its parent's list.
+/// Each widget has two owners, its control and, in Qt, its parent widget. The control is always the
+/// one that deletes it: controls are members of what contains them, so they end before the parent
+/// widget, and a widget that is deleted leaves its parent's list.
 class QtToolkit : public Toolkit {
 public:
     explicit QtToolkit(QtPlatform& platform) : mPlatform(platform) {}
@@ -24,7 +24,8 @@ public:
     std::unique_ptr<OptionPeer> Create(OptionButton& option) override;
     std::unique_ptr<ControlPeer> Create(Picture& picture) override;
     std::unique_ptr<ControlPeer> Create(Timer& timer) override;
-    std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool saving) override;
+    std::optional<std::string> RunFileDialog(const CommonDialog& dialog,
+                                             FileDialogKind kind) override;
 
 private:
     // The widget for a placed control.

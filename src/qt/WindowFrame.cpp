@@ -47,22 +47,31 @@ bool WindowFrame::Follow(const QEvent& event) {
 // Wayland desktops maximise windows or put them into tiles. There the window must take the size
 // that it is given: another one may hide its menus, or break the protocol, which ends the program.
 void WindowFrame::ApplySize() {
-    const QWindow* const native = mWindow.windowHandle();
-    const auto states =
-        mWindow.windowState() | (native ? native->windowStates() : mWindow.windowState());
+    Qt::WindowStates states = mWindow.windowState();
+    if (const QWindow* const native = mWindow.windowHandle()) states |= native->windowStates();
     if (states.testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen)) return;
-    if (!IsOnWayland()) {
+    if (IsOnWayland())
+        ApplySizeOnWayland();
+    else
         mWindow.setFixedSize(InnerSize());
-        return;
-    }
-    // Unless it has its own size, a tile or the user has given it another one.
-    const QSize least = mWindow.minimumSize();
-    const bool hasOwnSize =
-        !mWindow.isVisible() || mWindow.size().expandedTo(least) == mOwnSize.expandedTo(least);
-    if (hasOwnSize) mOwnSize = InnerSize();
+}
+
+void WindowFrame::ApplySizeOnWayland() {
+    const bool hasOwnSize = HasOwnSize();
     // A least size holds for maximised windows, too: on a small screen it leaves room for panels.
     mWindow.setMinimumSize(InnerSize().boundedTo(mWindow.screen()->size() * 0.75));
-    mWindow.resize(hasOwnSize ? mOwnSize : mWindow.size().expandedTo(InnerSize()));
+    if (hasOwnSize) {
+        mOwnSize = InnerSize();
+        mWindow.resize(mOwnSize);
+    } else {
+        mWindow.resize(mWindow.size().expandedTo(InnerSize()));
+    }
+}
+
+bool WindowFrame::HasOwnSize() const {
+    if (!mWindow.isVisible()) return true;
+    const QSize least = mWindow.minimumSize();
+    return mWindow.size().expandedTo(least) == mOwnSize.expandedTo(least);
 }
 
 } // namespace tessarin::qt

@@ -27,12 +27,15 @@ public:
 
 private:
     void ApplySize();
+    void ApplySizeOnWayland();
+    // Whether the window has the size that was asked for last, not that of a tile or the user's.
+    bool HasOwnSize() const;
 
     QWidget& mWindow;
     QMargins mMargins{1, 20, 1, 1};
     QSize mOuter;
     int mlLeastHeight = 0;
-    QSize mOwnSize; // on Wayland, asked for last
+    QSize mOwnSize; // on Wayland, the size that was asked for last
 };
 
 } // namespace tessarin::qt

@@ -6,16 +6,18 @@ namespace tessarin {
 
 class Control;
 
-/// Passes the user's clicks to their handlers. Handlers pump window events, so clicks arrive while
-/// handlers of other clicks are running. The gate limits how deep handlers nest and queues the
-/// other clicks: a flood of clicks neither exhausts the stack nor gets lost. A click whose control
-/// is disabled or hidden when its turn comes is dropped. Controls whose handlers pump nothing
-/// (Control::ClicksMayWait is false) skip the queue. Controls must live as long as the gate.
+/// Passes the user's clicks to their handlers, in the order in which they come. Handlers pump
+/// window events, so clicks arrive while handlers of other clicks are running. The gate limits how
+/// deep handlers nest, and lets the other clicks wait: a flood of clicks neither exhausts the stack
+/// nor gets lost.
 class ClickGate {
 public:
+    /// The number of handlers that may run inside one another.
     static constexpr int MaxDepth = 16;
 
-    /// Runs the Click of `control`, now or after a running handler has ended.
+    /// Runs the Click of `control`: at once, or after a running handler has ended. The control must
+    /// live until then. If it is disabled or hidden by then, the click is dropped. A control whose
+    /// Click pumps nothing (Control::ClicksMayWait is false) never waits.
     void Raise(Control& control);
     /// Drops all waiting and future clicks.
     void Close();

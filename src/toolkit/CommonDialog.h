@@ -24,13 +24,13 @@ public:
     std::string FileName;
 
     /// Both return whether a file was chosen; false means cancelled.
-    bool ShowOpen() { return Show(false); }
-    /// Does not ask before an existing file is chosen.
-    bool ShowSave() { return Show(true); }
+    bool ShowOpen() { return Show(FileDialogKind::Open); }
+    /// The file may exist: whether it is replaced is for the caller to ask.
+    bool ShowSave() { return Show(FileDialogKind::Save); }
 
 private:
-    bool Show(bool saving) {
-        const auto chosen = mToolkit.RunFileDialog(*this, saving);
+    bool Show(FileDialogKind kind) {
+        const auto chosen = mToolkit.RunFileDialog(*this, kind);
         FileName = chosen.value_or(FileName);
         return chosen.has_value();
     }

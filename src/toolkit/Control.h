@@ -43,7 +43,7 @@ public:
     static void RunAndReportErrors(const std::function<void()>& handler) noexcept;
 
 protected:
-    // These three are public in the kinds that have them.
+    // Click, SetEnabled and SetVisible are public in the kinds of control that have them.
 
     /// Runs when the user clicks, through the form's gate.
     std::function<void()> Click;

@@ -35,13 +35,13 @@ public:
 
     /// Creates member `index`, which must be a new one.
     T& Add(int index, const Properties& design) {
-        auto& member = mMembers[index];
-        member =
-            std::make_unique<T>(mContainer, msName + "(" + std::to_string(index) + ")", design);
-        member->Click = [this, index] {
+        const std::string name = msName + "(" + std::to_string(index) + ")";
+        const auto added = mMembers.emplace(index, std::make_unique<T>(mContainer, name, design));
+        T& member = *added.first->second;
+        member.Click = [this, index] {
             if (Click) Click(index);
         };
-        return *member;
+        return member;
     }
 
 private:

@@ -24,7 +24,7 @@ Label::Label(Control& container, std::string name, const Properties& design)
       Cell(design.Cell),
       mBackColor(design.BackColor),
       mForeColor(design.ForeColor),
-      mPeer(Own(Kit().Create(*this))) {}
+      mLabelPeer(Own(Kit().Create(*this))) {}
 
 CommandButton::CommandButton(Control& container, std::string name, const Properties& design)
     : TextControl(container, std::move(name), design), Shortcuts(design.Shortcuts) {
@@ -32,10 +32,10 @@ CommandButton::CommandButton(Control& container, std::string name, const Propert
 }
 
 OptionButton::OptionButton(Control& container, std::string name, const Properties& design)
-    : TextControl(container, std::move(name), design), mPeer(Own(Kit().Create(*this))) {}
+    : TextControl(container, std::move(name), design), mOptionPeer(Own(Kit().Create(*this))) {}
 
 void OptionButton::Select() {
-    mPeer.Select();
+    mOptionPeer.Select();
     if (Click) Click();
 }
 

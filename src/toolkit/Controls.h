@@ -87,12 +87,12 @@ public:
 
     /// Of a label of the grid: lets the arrow keys move on from it. If the focus is in the grid, it
     /// moves here.
-    void MakeCurrent() { mPeer.MakeCurrent(); }
+    void MakeCurrent() { mLabelPeer.MakeCurrent(); }
 
 private:
     Color mBackColor;
     Color mForeColor;
-    LabelPeer& mPeer;
+    LabelPeer& mLabelPeer;
 };
 
 /// A button with its caption on it.
@@ -124,7 +124,7 @@ public:
     bool ClicksMayWait() const override { return false; }
 
 private:
-    OptionPeer& mPeer;
+    OptionPeer& mOptionPeer;
 };
 
 /// Holds other controls; disabling it disables all of them.
@@ -142,6 +142,7 @@ public:
 private:
     Color mBackColor;
 };
+
 /// A frame that is made of other controls. It may correct its size in BoundsChanged.
 using UserControl = Frame;
 

@@ -11,7 +11,7 @@ Form::Form(Toolkit& toolkit, std::string name, const FormProperties& design)
       Caption(design.Caption),
       Icon(design.Icon),
       MinClientHeight(design.MinClientHeight),
-      mPeer(Own(Kit().Create(*this))) {}
+      mFormPeer(Own(Kit().Create(*this))) {}
 
 void Form::RaiseActivate() {
     if (mbActivating || !Activate) return;

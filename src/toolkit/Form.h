@@ -9,7 +9,8 @@
 
 namespace tessarin {
 
-/// A window with a fixed border, hidden until Show.
+/// A window, hidden until Show. The program sets its size; where the desktop allows that, the user
+/// cannot change it.
 class Form : public Control {
 public:
     Form(Toolkit& toolkit, std::string name, const FormProperties& design);
@@ -36,9 +37,9 @@ public:
 
     void Show() { SetVisible(true); }
     /// Asks the window to close, as its close box does; Unload may refuse.
-    void Close() { mPeer.Close(); }
+    void Close() { mFormPeer.Close(); }
     /// The native handle for the window-style calls of Platform.
-    int Handle() { return mPeer.Handle(); }
+    int Handle() { return mFormPeer.Handle(); }
 
     /// For the toolkit: the window has become active. Ignores re-entrant activations: Activate
     /// pumps events.
@@ -50,7 +51,7 @@ public:
 private:
     float mWidth = 0;
     float mHeight = 0;
-    FormPeer& mPeer;
+    FormPeer& mFormPeer;
     bool mbActivating = false;
 };
 

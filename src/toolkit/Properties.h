@@ -16,13 +16,16 @@ struct Bounds {
     float Height = 0;
 };
 
-/// A colour 0x00BBGGRR, or a system colour made by SystemColor.
+/// A fixed colour 0x00BBGGRR, or a system colour: 0x80000000 with its number. A system colour is
+/// looked up when it is painted.
 using Color = std::uint32_t;
 
-/// The system colour `index` (5 window background, 18 button text), looked up when it is painted.
-/// All of them are above the fixed colours.
-constexpr Color SystemColor(std::uint32_t index) {
-    return 0x80000000U | index;
+constexpr Color WindowBackground = 0x80000005;
+constexpr Color ButtonFace = 0x8000000F;
+constexpr Color ButtonText = 0x80000012;
+
+constexpr bool IsSystemColor(Color color) {
+    return (color & 0x80000000) != 0;
 }
 
 /// A typeface by name with its size in points. Without a name it is the toolkit's own.
@@ -57,8 +60,8 @@ struct LabelProperties {
     FontStyle Font = {};
     TextFlow Flow = TextFlow::Line;
     BorderStyle Border = BorderStyle::None;
-    Color BackColor = SystemColor(15);
-    Color ForeColor = SystemColor(18);
+    Color BackColor = ButtonFace;
+    Color ForeColor = ButtonText;
     /// Whether the Tab key stops at the label; then Space and Enter click it.
     bool TabStop = false;
     /// The label's cell in the form's grid. The Tab key stops at the current label of the grid, and
@@ -93,7 +96,7 @@ struct FrameProperties {
     std::string ToolTipText = {};
     FontStyle Font = {};
     BorderStyle Border = BorderStyle::None;
-    Color BackColor = SystemColor(15);
+    Color BackColor = ButtonFace;
     bool Visible = true;
 };
 

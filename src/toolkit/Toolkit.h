@@ -28,6 +28,8 @@ enum class Property {
     Interval,
 };
 
+enum class FileDialogKind { Open, Save };
+
 /// The toolkit's side of one control. It reads the properties from the control and tells it what
 /// the user does (Control::RaiseClick and the like).
 class ControlPeer {
@@ -72,7 +74,8 @@ public:
     virtual std::unique_ptr<ControlPeer> Create(Timer& timer) = 0;
 
     /// Runs the dialog until it is closed. Returns the full path chosen, or nothing when cancelled.
-    virtual std::optional<std::string> RunFileDialog(const CommonDialog& dialog, bool saving) = 0;
+    virtual std::optional<std::string> RunFileDialog(const CommonDialog& dialog,
+                                                     FileDialogKind kind) = 0;
 };
 
 } // namespace tessarin

@@ -1,12 +1,10 @@
-// The colours of the window.
+// The fixed colours of the window.
 #pragma once
 
 #include "toolkit/Properties.h"
 
 namespace tessarin {
 
-constexpr Color WindowBackground = SystemColor(5);
-constexpr Color ButtonText = SystemColor(18);
 constexpr Color Green = 0xFF00;
 constexpr Color Red = 0xFF;
 constexpr Color Yellow = 0xFFFF;

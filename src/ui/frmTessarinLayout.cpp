@@ -11,11 +11,11 @@ namespace tessarin {
 
 namespace {
 
+constexpr int Margin = FieldSide / 2; // around the grid
 constexpr int BoxGap = FieldSide / 4;
 
 // The start of the row or column `position` (from 1), with gaps between the boxes.
 float GridOffset(int position, int dimension) {
-    constexpr int Margin = FieldSide / 2;
     const int fieldsBefore = position - 1;
     const int gapsBefore = fieldsBefore / dimension;
     return static_cast<float>(Margin + fieldsBefore * FieldSide + gapsBefore * BoxGap);
@@ -29,6 +29,7 @@ float PadOffset(int position) {
 
 } // namespace
 
+// Pumps between its steps, so that the window answers while it is laid out.
 void frmTessarin::LayoutWindow() {
     CreateFieldLabels();
     PumpEvents(Pump::Now);
@@ -38,9 +39,10 @@ void frmTessarin::LayoutWindow() {
     PumpEvents(Pump::Now);
     ArrangeSideColumn();
     PumpEvents(Pump::Now);
-    SetWidth(btnNumPad(3).Left() + fraNumPad.Left() + 1050);
-    const Label& last = lblField(moGame->Fields->Count());
-    SetHeight(last.Top() + 1650);
+    constexpr int FromLastKeyToEdge = FieldSide + BoxGap + Margin;
+    SetWidth(fraNumPad.Left() + btnNumPad(3).Left() + FromLastKeyToEdge);
+    constexpr int LastRowAndBars = 1650; // the row, a margin, title bar and menu bar
+    SetHeight(lblField(moGame->Fields->Count()).Top() + LastRowAndBars);
 }
 
 void frmTessarin::CreateFieldLabels() {
@@ -62,7 +64,7 @@ void frmTessarin::CreateFieldLabels() {
 // Three rows of three digits and a fourth row, whatever the dimension.
 void frmTessarin::CreateNumPad() {
     const Label& lastOfRow = lblField(moGame->Fields->Numbers());
-    fraNumPad.SetLeft(lastOfRow.Left() + 750);
+    fraNumPad.SetLeft(lastOfRow.Left() + FieldSide + BoxGap);
     fraNumPad.SetTop(lastOfRow.Top());
 
     const auto create = [&](int key, const std::string& caption, const std::string& toolTip,
