@@ -6,7 +6,6 @@
 #include "model/TakenValues.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace tessarin {
 
@@ -67,7 +66,7 @@ int Field::Freedom() const {
     const int numbers = Grid().Numbers();
     int freedom = numbers;
     for (int first = 1; first <= numbers; first += Slice::MaxSize)
-        freedom -= std::popcount(TakenNow(*this, Slice(first, numbers)));
+        freedom -= CountOf(TakenNow(*this, Slice(first, numbers)));
     return freedom;
 }
 

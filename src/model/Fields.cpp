@@ -5,7 +5,6 @@
 #include "model/TakenValues.h"
 #include "platform/Platform.h"
 
-#include <bit>
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
@@ -177,7 +176,7 @@ Fields::CountResult Fields::CountFields() const {
         ++counts.Free;
         int freedom = numbers;
         for (const BitsByNumber& bitsIn : bitsInGroups)
-            freedom -= std::popcount(TakenBits(*field, bitsIn));
+            freedom -= CountOf(TakenBits(*field, bitsIn));
         if (freedom == 0) {
             result.DeadFields.Add(field->Index);
         } else if (freedom < smallestFreedom) {
