@@ -59,8 +59,8 @@ public:
 
     /// Handles the waiting window events once. Any handler of the window may run inside. Of calls
     /// with Pump::WhenDue a platform may skip those that come within a millisecond of the last pump
-    /// that it has made, and up to seven more in a row; but none while something that has changed
-    /// in the window waits to be seen.
+    /// that it has made, and up to seven more in a row; but none while a field of the grid that has
+    /// changed waits to be seen.
     virtual void PumpEvents(Pump pump) = 0;
     /// Sleeps for `milliseconds` (above 0); ends early when a handler closes the window. The window
     /// may be painted and activated meanwhile. User input and timers wait, unless the activation

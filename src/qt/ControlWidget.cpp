@@ -25,7 +25,6 @@ void ControlWidget::Place() {
 }
 
 void ControlWidget::Apply(Property property) {
-    mPlatform.ShowAtNextPump();
     if (property == Property::Bounds || property == Property::Visible) Place();
     if (property == Property::Enabled) mFocus.SetEnabled(mWidget, mControl.Enabled());
 }

@@ -32,11 +32,12 @@ protected:
     /// `widget` is this object.
     ControlWidget(PlacedControl& control, QWidget& widget, const Site& site);
 
-    /// Shows the property as it is now, with the next pump.
+    /// Shows the property as it is now.
     virtual void Apply(Property property);
 
     QWidget& Widget() { return mWidget; }
     KeyboardFocus& Focus() { return mFocus; }
+    QtPlatform& Platform() { return mPlatform; }
 
 private:
     const PlacedControl& mControl;

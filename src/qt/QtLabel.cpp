@@ -2,6 +2,7 @@
 
 #include "qt/KeyboardFocus.h"
 #include "qt/QtLook.h"
+#include "qt/QtPlatform.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -20,6 +21,13 @@ QtLabel::QtLabel(Label& label, const Site& site)
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (IsInGrid()) Focus().AddToGrid(label, *this);
     if (label.TabStop) setFocusPolicy(Qt::TabFocus);
+}
+
+void QtLabel::Changed(Property property) {
+    Apply(property);
+    // Each move of a solve is to be seen before the next. Other labels may wait for a pump: a light
+    // that is on for half a millisecond need not be seen.
+    if (IsInGrid()) Platform().ShowAtNextPump();
 }
 
 void QtLabel::MakeCurrent() {

@@ -13,7 +13,7 @@ class QtLabel : public QLabel, public LabelPeer, public TextWidget {
 public:
     QtLabel(Label& label, const Site& site);
 
-    void Changed(Property property) override { Apply(property); }
+    void Changed(Property property) override;
     void MakeCurrent() override;
 
     void Press() { mLabel.RaiseClick(); }

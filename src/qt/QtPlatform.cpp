@@ -36,7 +36,7 @@ void QtPlatform::PumpEvents(Pump pump) {
 
 // Even if nothing is waiting, Qt's pump asks the kernel, which takes fifty times as long as the
 // puzzle logic works between two pumps. So pumps are made at least half a millisecond apart, unless
-// the window has changed. Reading the clock is slow, too: only every eighth call does.
+// a field has changed. Reading the clock is slow, too: only every eighth call does.
 bool QtPlatform::IsPumpDue() {
     constexpr qint64 Nanoseconds = 500'000;
     constexpr unsigned PumpsPerLook = 8;

@@ -49,7 +49,7 @@ public:
     /// Whether timers must not tick now. A tick that is due waits.
     bool TicksHeld() const { return mbTicksHeld; }
 
-    /// To be called when something in the window has changed: the next pump is made and shows it.
+    /// To be called when a field of the grid has changed: the next pump is made and shows it.
     void ShowAtNextPump() { mSincePump.invalidate(); }
 
     /// Runs a modal dialog with the normal mouse pointer. Returns the dialog's result.
