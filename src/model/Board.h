@@ -13,7 +13,7 @@ struct Board {
     std::unique_ptr<tessarin::Groups> Groups; ///< none until they are built
 };
 
-/// The board of the one game. Set and cleared with goGame, which the model may not include.
+/// The board of the one game. Set and cleared with goGame, whose header lies above the model.
 inline Board* goBoard = nullptr;
 
 /// The grid of goBoard. Fields, groups and player hold no reference to the grid: they find it here.

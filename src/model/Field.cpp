@@ -16,7 +16,8 @@ ValueBits TakenNow(const Field& field, const Slice& slice) {
         const auto* const listed = Grid().Items.Find(index);
         return listed != nullptr ? slice.BitOf((*listed)->Value()) : 0;
     };
-    // With the field's own value, because a group that was registered by hand need not list it.
+    // With the field's own value, because a group that was registered by hand need not list it. The
+    // count of all fields does not need that: it asks for empty fields alone.
     const auto bitsIn = [&](int index) -> ValueBits {
         const auto* const group = goBoard->Groups ? goBoard->Groups->Items.Find(index) : nullptr;
         return group != nullptr ? BitsIn(**group, bitOf) | slice.BitOf(field.Value()) : 0;

@@ -9,19 +9,20 @@ namespace tessarin {
 
 class Group;
 
-/// One cell of the grid: its value, its lock, and which values are still free for it. It refers to
-/// other fields and to groups by number and reports every change of value or lock to Grid(). It
-/// checks nothing: any value can be stored, a locked field can be changed.
+/// One cell of the grid: its value, its lock, which marks it as given, and which values are still
+/// free for it. It refers to other fields and to groups by number. It checks nothing: any value can
+/// be stored, a locked field can be changed.
 ///
-/// Reporting a change raises the grid's events and pumps window events, so any command can run
-/// before a setter returns, even one that replaces the grid: a caller needs its own shared_ptr.
+/// SetValue and SetLocked report each change to Grid(). That raises the grid's events and pumps
+/// window events, so any command can run before they return, even one that replaces the grid: a
+/// caller needs its own shared_ptr. The grid alone calls Clear and the setters of texts.
 class Field {
 public:
     int Index = 0;            ///< number in the grid, from 1 row by row; set once by the grid
     UniqueNumbers Neighbours; ///< fields that share a group with it, itself included
     UniqueNumbers InGroups;   ///< its groups: row, column, box
 
-    /// Empties and unlocks the field without telling the grid.
+    /// Empties and unlocks the field, without reporting it.
     void Clear();
 
     /// 0 when empty, otherwise the digit.
@@ -38,8 +39,9 @@ public:
     /// DuplicateKeyError, and changes nothing, for a group that is already registered.
     void GroupAdd(const Group& Grp);
 
-    /// The values 1 to Numbers, ascending, that no field of its groups holds, this field included.
-    /// Without groups these are all values. Groups and fields that do not exist are ignored.
+    /// The values 1 to Numbers, ascending, that no field in its groups holds; its own value is not
+    /// free either. Without groups these are all values. Groups and fields that do not exist are
+    /// ignored.
     UniqueNumbers FreeValues() const;
     /// The number of free values.
     int Freedom() const;
@@ -52,12 +54,12 @@ public:
 
     /// "index;value;lock" with lock 1 or 0; "" for an empty field unless WithEmpty.
     std::string TextCSV(bool WithEmpty = false) const;
-    /// Clears the field, then sets value and lock from a line with its index, through the setters
-    /// above; ignores WithEmpty. Throws TypeMismatchError, std::overflow_error or std::out_of_range
-    /// (too few items); what was set before stays.
+    /// Clears the field, without reporting it. If the line has the field's index, then sets value
+    /// and lock through the setters above. Ignores WithEmpty. Throws TypeMismatchError,
+    /// std::overflow_error or std::out_of_range (too few items); what was set before stays.
     void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
-    /// Clears the field, then stores the number as value and locks the field unless it is 0,
-    /// without telling the grid. Throws TypeMismatchError or std::overflow_error; the field is then
+    /// Clears the field, then stores the number as value and locks the field unless it is 0, all
+    /// without reporting it. Throws TypeMismatchError or std::overflow_error; the field is then
     /// clear.
     void SetTextSDK(std::string_view MyTextSDK);
 

@@ -34,11 +34,12 @@ int StatusOf(const Fields::Counts& now, const Fields::Counts& before) {
     return Fields::NothingToReport;
 }
 
-// Bits for each number from 1 to a count; none for other numbers.
+// Bits for each number from 1 to a count; none for other numbers. Set number by number, then called
+// as the bitOf or bitsIn of TakenValues.h.
 class BitsByNumber {
 public:
     explicit BitsByNumber(int count) : mBits(static_cast<std::size_t>(count) + 1) {}
-    ValueBits& operator[](int number) { return mBits[static_cast<std::size_t>(number)]; }
+    void Set(int number, ValueBits bits) { mBits[static_cast<std::size_t>(number)] = bits; }
     ValueBits operator()(int number) const {
         const auto place = static_cast<std::size_t>(number); // huge for a negative number
         return place < mBits.size() ? mBits[place] : 0;
@@ -58,10 +59,10 @@ std::vector<BitsByNumber> BitsInGroups(const Collection<std::shared_ptr<Field>>&
         const Slice slice(first, numbers);
         BitsByNumber bitOf(fields.Count());
         for (int i = 0; const auto& field : fields)
-            bitOf[++i] = slice.BitOf(field->Value());
+            bitOf.Set(++i, slice.BitOf(field->Value()));
         BitsByNumber& bitsIn = slices.emplace_back(groups);
         for (int group = 1; group <= groups; ++group)
-            bitsIn[group] = BitsIn(*goBoard->Groups->Items.Item(group), bitOf);
+            bitsIn.Set(group, BitsIn(*goBoard->Groups->Items.Item(group), bitOf));
     }
     return slices;
 }
@@ -165,8 +166,8 @@ Fields::CountResult Fields::CountFields() const {
     const int numbers = Numbers();
     const std::vector<BitsByNumber> bitsInGroups = BitsInGroups(Items, numbers);
     int smallestFreedom = numbers + 1;
-    CountResult result;
-    Counts& counts = result.Counts;
+    Counts counts;
+    UniqueNumbers deadFields;
     for (const auto& field : Items) {
         if (field->Locked()) ++counts.Locked;
         if (field->Value() != 0) {
@@ -178,15 +179,15 @@ Fields::CountResult Fields::CountFields() const {
         for (const BitsByNumber& bitsIn : bitsInGroups)
             freedom -= CountOf(TakenBits(*field, bitsIn));
         if (freedom == 0) {
-            result.DeadFields.Add(field->Index);
+            deadFields.Add(field->Index);
         } else if (freedom < smallestFreedom) {
             smallestFreedom = freedom;
             counts.NextFreeField = field->Index;
         }
     }
     counts.IsWinner = counts.Free == 0;
-    if (result.DeadFields.Count() > 0) counts.DeadField = result.DeadFields.Item(1);
-    return result;
+    if (deadFields.Count() > 0) counts.DeadField = deadFields.Item(1);
+    return {counts, std::move(deadFields)};
 }
 
 void Fields::Publish(CountResult result) {

@@ -17,12 +17,12 @@ namespace tessarin {
 /// tell of every change. With dimension D it has boxes of D by D fields, Numbers() = D*D rows and
 /// columns and Count() = Numbers()*Numbers() fields, numbered from 1 row by row.
 ///
-/// The status is lazy: a change only puts it out of date, and the next read of it counts all fields
-/// anew and pumps window events once for each. Commands that run meanwhile may change the grid or
-/// read the status themselves; every read returns the counts of the grid at its end.
+/// The counts are lazy: a change only puts them out of date, and the next read of one counts all
+/// fields anew and pumps window events once for each. Commands that run meanwhile may change the
+/// grid or read counts themselves; every read returns the counts of the grid as it then is.
 class Fields {
 public:
-    /// What a change has to report, besides itself (Counts::Status).
+    /// Which event follows StatusChanged (Counts::Status).
     enum : int {
         WinnerToReport = 0,  ///< the grid is full, or was so at the count before and is no longer
         NothingToReport = 1, ///< neither
@@ -47,8 +47,8 @@ public:
         Event<int> BeforeIndexChanged; ///< index of the field that the cursor is about to leave
         Event<int> IndexChanged;       ///< the new cursor index, 0 when there is no cursor now
         Event<int> StatusChanged;      ///< the changed field; for a lock the cursor's index
-        Event<int> IsWinner;           ///< as StatusChanged; 0: the grid is no longer full
-        Event<int> IsDeadEnd;          ///< the lowest dead field; 0: the dead end is gone
+        Event<int> IsWinner;           ///< as StatusChanged; 0: this change has ended a full grid
+        Event<int> IsDeadEnd;          ///< the lowest dead field; 0: this change has ended it
         Event<> Init;                  ///< the grid has new fields, which have no groups yet
     };
 
@@ -79,8 +79,9 @@ public:
     void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
     /// The grid as text: "\"Sudoku\"" and a line of values for each row.
     std::string TextSDK() const;
-    /// Rebuilds the grid from such a text and locks all values. A text with another first line, or
-    /// with other than 9 or 25 rows, leaves the grid unchanged. Throws what Field::SetTextSDK
+    /// Rebuilds the grid from such a text and locks all values but 0. Values past the end of a row
+    /// belong to the next one. A text with another first line, or with other than 9 or 25 rows,
+    /// leaves the grid unchanged. Throws what Field::SetTextSDK
     /// throws, and std::out_of_range for items past the last field; what was loaded before stays.
     /// Raises Init only.
     void SetTextSDK(std::string_view MyTextCSV);
@@ -114,9 +115,9 @@ public:
     /// any other number outside 0 to Count().
     void SetIndex(int MyIndex);
 
-    // The sizes. They throw std::overflow_error if the result exceeds 32 bits.
-    int Count() const;
-    int Numbers() const;
+    // The sizes.
+    int Count() const;   ///< fields: Numbers() * Numbers()
+    int Numbers() const; ///< values, rows, columns and boxes: Dimension() * Dimension()
     int Dimension() const { return mlDimension; }
 
 private:
@@ -147,7 +148,7 @@ private:
     Counts mCounts;
     bool mbNotify = true;
     int mlDimension = 0;
-    unsigned mlChanges = 0;        // grows with every change of a field
+    unsigned mlChanges = 0;        // grows when the counts get out of date
     unsigned mlCountedChanges = 0; // mlChanges at the last count; if it differs, mCounts is old
 };
 

@@ -7,7 +7,6 @@ namespace tessarin {
 
 void Groups::Init() {
     Items = {};
-    mlGroupCount = 0;
     AddRowGroups();
     AddColumnGroups();
     AddBoxGroups();
@@ -40,7 +39,7 @@ void Groups::AddBoxGroup(int RowOffset, int ColumnOffset) {
 void Groups::AddGroup(int Flavor, int RowOffset, int ColumnOffset, int Rows, int Columns) {
     const int n = Grid().Numbers();
     const auto group = std::make_shared<Group>();
-    group->Index = ++mlGroupCount;
+    group->Index = Items.Count() + 1;
     group->Flavor = Flavor;
     group->Fields.Reserve(n);
     for (int r = RowOffset; r < RowOffset + Rows; ++r)

@@ -26,11 +26,10 @@ private:
     void AddColumnGroups();
     void AddBoxGroups();
     void AddBoxGroup(int RowOffset, int ColumnOffset);
-    // Builds the group of a rectangle of fields. The offsets are those of its first row and column.
+    // Builds the group of a rectangle of fields. The offsets of its first row and column count from
+    // 0.
     void AddGroup(int Flavor, int RowOffset, int ColumnOffset, int Rows, int Columns);
     void RegisterGroup(const std::shared_ptr<Group>& Grp);
-
-    int mlGroupCount = 0; // groups built so far; the newest has this Index
 };
 
 } // namespace tessarin

@@ -39,6 +39,7 @@ struct Slice {
     int First;
     int Size;
 
+    /// The slice that begins at `first`, of the values 1 to `numbers`.
     Slice(int first, int numbers) : First(first), Size(std::min(MaxSize, numbers - first + 1)) {}
 
     /// The bit of a value; none for a value outside the slice.

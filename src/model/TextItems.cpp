@@ -47,7 +47,7 @@ int ToNumber(std::string_view item) {
         text.remove_prefix(1);
     while (text.ends_with(' '))
         text.remove_suffix(1);
-    // from_chars refuses a plus sign; without this one it would take "+-5" for -5.
+    // from_chars refuses a plus sign. That of "+-5" stays: without it the rest would be a number.
     if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
     int number = 0;
     const char* const end = text.data() + text.size();

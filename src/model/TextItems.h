@@ -23,7 +23,7 @@ private:
     bool mbAtEnd;
 };
 
-/// The number of items. Allocates nothing, however long the text is.
+/// The number of items that are left.
 std::size_t CountItems(TextItems items);
 
 /// The whole number written in `item`: blanks (code 32), an optional sign, digits, blanks. Throws

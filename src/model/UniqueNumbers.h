@@ -6,7 +6,7 @@ namespace tessarin {
 
 /// Whole numbers in the order in which they were added, each at most once. Adding in ascending
 /// order, the usual case, takes constant time; finding and removing search one by one.
-class UniqueNumbers : Collection<int> {
+class UniqueNumbers : private Collection<int> {
 public:
     using Collection::begin;
     using Collection::Count;

@@ -4,7 +4,8 @@
 
 namespace tessarin {
 
-/// Calls a function at the end of its own life, also when an error ends it.
+/// Calls a function when it goes out of scope, also because of an error. The function must not
+/// throw.
 template <class Function>
 class [[nodiscard]] AtScopeEnd {
 public:

@@ -27,7 +27,7 @@ struct VersionRecord {
     std::int16_t Revision = 0;
 };
 
-/// A modal message box. Prompt and title are UTF-8; an empty title means the application's title.
+/// A modal message box. Prompt and title are UTF-8; an empty title means the window's title.
 struct Message {
     enum class Buttons { Ok, YesNo };
     enum class Answer { Ok, Yes, No };
@@ -43,8 +43,8 @@ struct Message {
 
 enum class MousePointer { Default, Hourglass };
 
-/// How a pump of window events is meant. WhenDue is for computations that pump thousands of times a
-/// second.
+/// Which pumps of window events are made: each one, or, for computations that request thousands of
+/// them a second, those that Platform::PumpEvents must not skip.
 enum class Pump { Now, WhenDue };
 
 /// The machine that the program runs on. One instance is current; by default a NullPlatform.
@@ -62,9 +62,9 @@ public:
     /// that it has made, and up to seven more in a row; but none while a field of the grid that has
     /// changed waits to be seen.
     virtual void PumpEvents(Pump pump) = 0;
-    /// Sleeps for `milliseconds` (above 0); ends early when a handler closes the window. The window
-    /// may be painted and activated meanwhile. User input and timers wait, unless the activation
-    /// pumps events.
+    /// Sleeps for `milliseconds` (above 0). The window may be painted and activated meanwhile. User
+    /// input and timers wait, unless the activation pumps events; if that closes the window, the
+    /// sleep ends.
     virtual void Sleep(int milliseconds) = 0;
     /// Whether ESC has been pressed since the last call. Holding it is one press.
     virtual bool EscPressed() = 0;

@@ -9,7 +9,7 @@ namespace tessarin {
 
 namespace {
 
-// Raises `to` whenever `from` is raised.
+// Raises `to` whenever `from` is raised, then pumps. The grid pumps once more after its own event.
 Connection Relay(Event<int>& from, const Event<int>& to) {
     return from.Connect([&to](int Index) {
         to.Raise(Index);

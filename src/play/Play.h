@@ -13,9 +13,9 @@ class Field;
 /// cursor field, keeps a history of the fields it filled, goes back along it, and solves by itself.
 ///
 /// It ignores locks. What cannot be done (a value that is not free, no next free field, an empty
-/// history, no cursor) changes nothing and reports nothing. Every change raises the grid's events,
-/// in which any other command may run and move the cursor: each step reads the cursor again, but
-/// SetValue keeps the field that it began with.
+/// history, no cursor) changes nothing; only GoBackToFreedom then beeps. Every change raises the
+/// grid's events, in which any other command may run and move the cursor: each step reads the
+/// cursor again, but SetValue keeps the field that it began with.
 class Play {
 public:
     /// A player without history, for Grid().
@@ -47,7 +47,7 @@ public:
 
     /// Goes back until the cursor field has another free value or the history is used up. Returns
     /// whether the cursor is on another field than before; if not, its value is restored and the
-    /// system beeps. With AutoValue the field with freedom takes its next free value.
+    /// system beeps. With AutoValue another field takes its next free value.
     bool GoBackToFreedom(bool AutoValue = false);
 
     /// The cursor field's value, 0 without a cursor. AutoValue is ignored.
@@ -69,7 +69,8 @@ public:
     /// Fills the grid by itself. In each cycle the next free field takes its smallest free value;
     /// if that leads to a dead end, one retreat goes back along the history to a field with a
     /// larger free value. Ends when the grid is full, when a dead end remains after the retreat or
-    /// when a cancel is requested, which is checked once a cycle.
+    /// when a cancel is requested, which is checked once a cycle. An ESC that was pressed before
+    /// the start counts.
     void Solve();
 
 private:

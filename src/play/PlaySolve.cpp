@@ -27,7 +27,7 @@ void Play::Solve() {
 void Play::Retreat() {
     do {
         if (!GoBackToFreedom()) return;
-    } while (NextFreeValue() < 1);
+    } while (NextFreeValue() == 0);
     // Not through Play::SetValue: a field that has left the history does not come back into it.
     NextFreeValue(true);
 }

@@ -7,8 +7,8 @@ namespace tessarin {
 
 class Game;
 
-/// The one game: set first of all in its constructor, cleared last in its destructor. What needs
-/// the grid alone takes Grid() of model/Board.h.
+/// The game: set first of all in its constructor, cleared last in its destructor. A program has
+/// one; of several the newest counts. What needs the grid alone takes Grid() of model/Board.h.
 extern Game* goGame;
 
 /// The text that ShowAbout builds.

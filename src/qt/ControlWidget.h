@@ -50,8 +50,8 @@ private:
 /// The same of controls with a text.
 class TextWidget : public ControlWidget {
 protected:
-    /// The texts follow with the first Apply: a screen reader may ask for the whole object as soon
-    /// as it has a name.
+    /// Sets no texts: its maker does, by Changed(Property::Texts), when the object is complete. A
+    /// screen reader may ask for all of it as soon as it has a name.
     TextWidget(TextControl& control, QWidget& widget, const Site& site);
 
     void Apply(Property property) override;

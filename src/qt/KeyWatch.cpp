@@ -45,8 +45,8 @@ void KeyWatch::Release(const QKeyEvent& key) {
 }
 
 // X11 sends a repeat as a release and a press with the same time. Qt marks it only if both have
-// arrived when it looks. That the release before a press is missing tells nothing: it is lost if a
-// box opens or closes while the key is down.
+// arrived when it looks. A press without a release before it need not be a repeat: the release is
+// lost if a box opens or closes while the key is down.
 bool KeyWatch::Press(const QObject& window, const QKeyEvent& key) {
     const bool isPair = key.key() == mlReleased && key.timestamp() == mlReleaseTime;
     if (key.isAutoRepeat() || isPair) return mPressedIn != &window || !MayRepeat(key.key());

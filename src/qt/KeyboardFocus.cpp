@@ -59,12 +59,12 @@ void KeyboardFocus::ToGrid() {
 }
 
 void KeyboardFocus::SetVisible(QWidget& widget, bool visible) {
-    if (!visible && IsIn(widget)) ToGrid();
+    if (!visible && FocusIsIn(widget)) ToGrid();
     widget.setVisible(visible);
 }
 
 void KeyboardFocus::SetEnabled(QWidget& widget, bool enabled) {
-    if (!enabled && IsIn(widget)) {
+    if (!enabled && FocusIsIn(widget)) {
         QWidget* const loser = mWindow.focusWidget();
         ToGrid();
         if (loser != &widget) mWaiting = loser;
@@ -78,11 +78,11 @@ void KeyboardFocus::GiveBack() {
     mWaiting.clear();
     const bool userHasMovedIt = mWindow.focusWidget() != Current();
     if (userHasMovedIt) return;
-    ToGrid();
+    ToGrid(); // shows the frame there, if the control cannot take the focus
     if (waiting->isEnabled() && waiting->isVisible()) waiting->setFocus();
 }
 
-bool KeyboardFocus::IsIn(const QWidget& widget) const {
+bool KeyboardFocus::FocusIsIn(const QWidget& widget) const {
     const QWidget* const focus = mWindow.focusWidget();
     return focus != nullptr && (focus == &widget || widget.isAncestorOf(focus));
 }

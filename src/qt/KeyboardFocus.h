@@ -56,10 +56,11 @@ public:
 private:
     struct GridLabel {
         Label& Control;
-        QPointer<QWidget> Widget; // null when it has ended: a window that ends moves the focus on
+        QPointer<QWidget> Widget; // null once deleted: Qt moves the focus while a window ends
     };
 
-    bool IsIn(const QWidget& widget) const;
+    // Whether the focus is on the widget or on a control inside it.
+    bool FocusIsIn(const QWidget& widget) const;
     void GiveBack();
 
     QWidget& mWindow;

@@ -41,7 +41,8 @@ void QtForm::Changed(Property property) {
         ArrangeTabOrder();
         show();
         // Without a window manager the first activation is never reported.
-        QTimer::singleShot(100, this, [this] {
+        constexpr int PatienceMilliseconds = 100;
+        QTimer::singleShot(PatienceMilliseconds, this, [this] {
             if (!mbActivated) Activate();
         });
     }
@@ -50,6 +51,7 @@ void QtForm::Changed(Property property) {
 void QtForm::Arrange() {
     const QSize size = mFrame.InnerSize();
     const int menuHeight = mMenuBar.sizeHint().height();
+    // On Wayland the window may be larger than it should be; the menu bar fills its width.
     mMenuBar.setGeometry(0, 0, width(), menuHeight);
     mClient.setGeometry(0, menuHeight, size.width(), size.height() - menuHeight);
     for (QObject* const child : mClient.children())
@@ -79,7 +81,7 @@ void QtForm::Activate() {
 }
 
 void QtForm::closeEvent(QCloseEvent* event) {
-    mbClosed = mbClosed || mForm.RaiseUnload();
+    if (!mbClosed) mbClosed = mForm.RaiseUnload();
     event->setAccepted(mbClosed);
     if (mbClosed) mTellClosed();
 }

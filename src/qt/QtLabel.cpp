@@ -82,7 +82,9 @@ void QtLabel::DrawLines(QPainter& painter, const QRect& space) const {
     }
     layout.endLayout();
     const int count = layout.lineCount();
-    const qreal distance = std::min(1.2 * font().pixelSize(), 1.0 * space.height() / count);
+    constexpr qreal DistanceBySize = 1.2;
+    const qreal distance =
+        std::min(DistanceBySize * font().pixelSize(), 1.0 * space.height() / count);
     for (int i = 0; i < count; ++i) {
         const QTextLine line = layout.lineAt(i);
         const qreal middle = space.top() + (i + 0.5) * distance;

@@ -21,7 +21,7 @@ public:
     bool IsClickable() const { return mLabel.TabStop || IsInGrid(); }
 
 protected:
-    // Shows a caption that is shortened whole in a tool tip.
+    // Shows a shortened caption in full in a tool tip.
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     // A click is a left press and a left release inside. The second press of a double click counts

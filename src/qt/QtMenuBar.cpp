@@ -83,7 +83,8 @@ bool QtMenuBar::Open(const QString& letter) {
     return false;
 }
 
-// Makes QMenuBar believe in a tap on Alt, without a title under the pointer: it would start there.
+// Sends QMenuBar the events of a tap on Alt. Before that the pointer seems to leave it, because it
+// would start at the title under the pointer.
 void QtMenuBar::Toggle() {
     QEvent pointerLeaves(QEvent::Leave);
     QApplication::sendEvent(this, &pointerLeaves);
@@ -117,10 +118,13 @@ public:
             bar.addAction(this);
     }
 
-    // Only a menu is ever disabled. Qt disables its title with it; if the title alone were
-    // disabled, the entries of an open menu would still answer.
+    // Only Enabled can change. A menu disables its title with it; if the title alone were disabled,
+    // the entries of an open menu would still answer.
     void Changed(Property /*property*/) override {
-        if (mMenu) mMenu->setEnabled(mItem.Enabled());
+        if (mMenu)
+            mMenu->setEnabled(mItem.Enabled());
+        else
+            setEnabled(mItem.Enabled());
     }
 
 private:

@@ -12,7 +12,7 @@ namespace tessarin::qt {
 
 namespace {
 
-// Opens beside the part `area` of its window, which its text is about.
+// Opens beside `area`, the part of its window that its text is about.
 class QtMessageBox : public QMessageBox {
 public:
     QtMessageBox(const Message& message, QWidget& window, const QRect& area)
@@ -45,7 +45,8 @@ protected:
         if (!mArea.isEmpty()) setAttribute(Qt::WA_Moved);
         QMessageBox::showEvent(event);
         if (mArea.isEmpty()) return;
-        // With a margin: some window managers put the box there, and its frame around it.
+        // With room for a frame: some window managers take the place for that of the box without
+        // it.
         const QMargins frame = mWindow.windowHandle()->frameMargins();
         const QRect screen = mWindow.screen()->availableGeometry();
         move(PlaceBeside(mArea.marginsAdded(frame), size().grownBy(frame), screen));

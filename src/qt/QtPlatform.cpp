@@ -30,28 +30,29 @@ QtPlatform::~QtPlatform() {
 void QtPlatform::PumpEvents(Pump pump) {
     if (mbClosed || (pump == Pump::WhenDue && !IsPumpDue())) return;
     const ScopedValue<bool> ticking(mbTicksHeld, false);
+    mSincePump.start(); // first: what changes inside makes the next pump due again
     QApplication::processEvents();
-    mSincePump.start();
 }
 
 // Even if nothing is waiting, Qt's pump asks the kernel, which takes fifty times as long as the
 // puzzle logic works between two pumps. So pumps are made at least half a millisecond apart, unless
 // a field has changed. Reading the clock is slow, too: only every eighth call does.
 bool QtPlatform::IsPumpDue() {
-    constexpr qint64 Nanoseconds = 500'000;
+    constexpr qint64 NanosecondsBetween = 500'000;
     constexpr unsigned PumpsPerLook = 8;
     if (!mSincePump.isValid()) return true;
-    return ++mlPumpsAsked % PumpsPerLook == 0 && mSincePump.nsecsElapsed() >= Nanoseconds;
+    return ++mlPumpsAsked % PumpsPerLook == 0 && mSincePump.nsecsElapsed() >= NanosecondsBetween;
 }
 
 // Sleeps in slices, so that the window is painted and activated meanwhile. What the user does,
 // closing the window included, waits for the next pump; so do the timers.
 void QtPlatform::Sleep(int milliseconds) {
-    constexpr qint64 Slice = 20;
+    constexpr qint64 SliceMilliseconds = 20;
     const QDeadlineTimer end(milliseconds);
     mSincePump.invalidate();
     while (!mbClosed && !end.hasExpired()) {
-        QThread::msleep(static_cast<unsigned long>(std::min(Slice, end.remainingTime())));
+        QThread::msleep(
+            static_cast<unsigned long>(std::min(SliceMilliseconds, end.remainingTime())));
         const ScopedValue<bool> held(mbTicksHeld, true);
         QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }

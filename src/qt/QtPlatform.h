@@ -14,7 +14,7 @@ class QDialog;
 
 namespace tessarin::qt {
 
-/// The platform on Qt 6 Widgets, with one form at a time. Needs a QApplication and is the current
+/// The platform on Qt 6 Widgets, for one form. Needs a QApplication and is the current
 /// Platform while it lives. Qt's windows have a taskbar entry from the start, and hiding one would
 /// lose its place and focus: the window-style calls do nothing.
 class QtPlatform : public Platform {
@@ -65,7 +65,8 @@ private:
     std::function<QRect()> mArea;
     bool mbClosed = false;
     bool mbTicksHeld = false;
-    QElapsedTimer mSincePump; // since the last pump that was made; invalid if the next one must be
+    QElapsedTimer
+        mSincePump; // since the last pump that was made began; invalid if the next one must be
     unsigned mlPumpsAsked = 0;
     bool mbHourglass = false; // the pointer that SetMousePointer has asked for
     int mlOpenDialogs = 0;

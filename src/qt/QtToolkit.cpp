@@ -73,7 +73,7 @@ private:
     const Frame& mFrame;
 };
 
-// Reads the picture's file when it paints, because twelve of them would slow down the start. Qt's
+// Reads the picture's file when it paints, because many of them would slow down the start. Qt's
 // cache keeps what is read.
 class QtPicture : public QWidget, public ControlPeer, public ControlWidget {
 public:
@@ -126,7 +126,7 @@ std::unique_ptr<Widget> QtToolkit::Make(KindOfControl& control) {
     QWidget& parent = &container == mForm ? mForm->Client() : container;
     auto widget =
         std::make_unique<Widget>(control, Site{parent, mForm->Client(), mForm->Focus(), mPlatform});
-    widget->Changed(Property::Texts);
+    widget->Changed(Property::Texts); // only now: see TextWidget
     return widget;
 }
 

@@ -70,7 +70,7 @@ void WindowFrame::ApplySizeOnWayland() {
 
 bool WindowFrame::HasOwnSize() const {
     if (!mWindow.isVisible()) return true;
-    const QSize least = mWindow.minimumSize();
+    const QSize least = mWindow.minimumSize(); // Qt makes the window at least as large
     return mWindow.size().expandedTo(least) == mOwnSize.expandedTo(least);
 }
 

@@ -22,7 +22,8 @@ public:
     QSize InnerSize() const;
     const QMargins& Margins() const { return mMargins; }
 
-    /// To be called after each event of the window. Returns whether InnerSize has changed.
+    /// To be called after each event of the window: corrects its size. Returns whether the margins
+    /// have changed, and InnerSize with them.
     bool Follow(const QEvent& event);
 
 private:

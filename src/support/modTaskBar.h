@@ -3,8 +3,8 @@
 
 namespace tessarin {
 
-/// Adds the taskbar entry of the window with that native handle, or removes it, without flicker.
-/// Afterwards the window is shown and active.
+/// Adds the taskbar entry of the window with that native handle, or removes it, without flicker,
+/// and shows and activates the window. On a platform without window styles it does nothing.
 void ShowInTaskBar(int windowHandle, bool show);
 
 } // namespace tessarin

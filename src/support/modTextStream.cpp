@@ -24,11 +24,10 @@ std::string TwoBytesEach(const std::string& text) {
 int Write(const std::string& FileName, const std::string& bytes, bool replaceExisting) {
     std::FILE* const file = std::fopen(FileName.c_str(), replaceExisting ? "wb" : "wbx");
     if (file == nullptr) return errno;
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
-    const int writeError = errno; // fclose may change errno
-    const bool closed = std::fclose(file) == 0;
-    if (written && closed) return 0;
-    return written ? errno : writeError;
+    const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+    const int writeError = isWritten ? 0 : errno;
+    const int closeError = std::fclose(file) == 0 ? 0 : errno;
+    return isWritten ? closeError : writeError;
 }
 
 // Opens a regular file alone: a pipe or device could block for ever or never end.
@@ -44,7 +43,7 @@ std::ifstream Open(const std::string& FileName) {
 std::string ReadTextFile(const std::string& FileName) {
     try {
         std::ifstream file = Open(FileName);
-        return {std::istreambuf_iterator<char>(file), {}};
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     } catch (const std::exception&) { // a read error, or more than fits into the memory
         return "";
     }

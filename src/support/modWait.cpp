@@ -10,9 +10,9 @@ void Wait(int milliseconds) {
 
 void Wait(const std::function<int()>& milliseconds) {
     PumpEvents(Pump::Now);
-    const int left = milliseconds();
-    if (left <= 0) return;
-    Platform::Current().Sleep(left);
+    const int pause = milliseconds();
+    if (pause <= 0) return;
+    Platform::Current().Sleep(pause);
     PumpEvents(Pump::Now);
 }
 

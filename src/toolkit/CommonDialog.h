@@ -15,7 +15,8 @@ public:
     std::string DialogTitle;
     /// Pairs of description and pattern, separated by "|".
     std::string Filter;
-    /// Appended to a name that is typed without extension.
+    /// Appended to a name that is typed without extension; to open a file, only if there is none
+    /// with the name as typed.
     std::string DefaultExt;
     bool FileMustExist = false;
     bool PathMustExist = false;
@@ -31,7 +32,7 @@ public:
 private:
     bool Show(FileDialogKind kind) {
         const auto chosen = mToolkit.RunFileDialog(*this, kind);
-        FileName = chosen.value_or(FileName);
+        if (chosen) FileName = *chosen;
         return chosen.has_value();
     }
 

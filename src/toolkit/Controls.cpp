@@ -4,9 +4,9 @@
 
 namespace tessarin {
 
-void PlacedControl::Move(float& edge, float value) {
-    if (edge == value) return;
-    edge = value;
+void PlacedControl::SetPart(float& part, float value) {
+    if (part == value) return;
+    part = value;
     Peer().Changed(Property::Bounds);
     BoundsChanged();
 }

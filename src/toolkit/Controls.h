@@ -18,10 +18,10 @@ public:
     float Top() const { return mPlace.Top; }
     float Width() const { return mPlace.Width; }
     float Height() const { return mPlace.Height; }
-    void SetLeft(float left) { Move(mPlace.Left, left); }
-    void SetTop(float top) { Move(mPlace.Top, top); }
-    void SetWidth(float width) { Move(mPlace.Width, width); }
-    void SetHeight(float height) { Move(mPlace.Height, height); }
+    void SetLeft(float left) { SetPart(mPlace.Left, left); }
+    void SetTop(float top) { SetPart(mPlace.Top, top); }
+    void SetWidth(float width) { SetPart(mPlace.Width, width); }
+    void SetHeight(float height) { SetPart(mPlace.Height, height); }
 
     using Control::SetVisible;
 
@@ -33,7 +33,7 @@ protected:
     virtual void BoundsChanged() {}
 
 private:
-    void Move(float& edge, float value);
+    void SetPart(float& part, float value);
 
     Bounds mPlace;
 };
@@ -85,8 +85,8 @@ public:
     Color ForeColor() const { return mForeColor; }
     void SetForeColor(Color color) { Assign(mForeColor, color, Property::Colors); }
 
-    /// Of a label of the grid: lets the arrow keys move on from it. If the focus is in the grid, it
-    /// moves here.
+    /// Only for a label with a Cell: the arrow keys then move on from it. If the focus is in the
+    /// grid, it moves here.
     void MakeCurrent() { mLabelPeer.MakeCurrent(); }
 
 private:

@@ -7,9 +7,9 @@ namespace tessarin {
 
 /// One option of the side column, with its place there in twips.
 struct Pace {
-    /// The delays that are not pauses: only the result is shown; each click makes one move.
-    static constexpr int Quiet = -1;
-    static constexpr int Step = -2;
+    // Delays that are no pauses.
+    static constexpr int Quiet = -1; ///< only the result is shown
+    static constexpr int Step = -2;  ///< a solve ends after each move
 
     const char* Caption;
     const char* ToolTip;

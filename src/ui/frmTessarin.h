@@ -28,7 +28,7 @@ inline const FontStyle PlainFont{.Size = 7.5F};
 ///
 /// Commands pump window events while they work, so any of them may run inside another one. Two
 /// guards limit that: during a solve the panels are disabled, and the window stays open;
-/// while a view is shown, ViewRunning disables the menus and the clicks on fields.
+/// while a view is shown, ViewRunning disables all menus but the last and the clicks on fields.
 ///
 /// Sizes and positions are in twips; field indices count from 1.
 class frmTessarin : public Form {
@@ -36,17 +36,19 @@ public:
     explicit frmTessarin(Toolkit& toolkit);
     ~frmTessarin() override;
 
-    /// Paints a field (0 or less: the current one) in its present state and shows its data in the
-    /// information panel. A mark makes it yellow. During a solve, waits for the pause that is
-    /// chosen. Ignores a field that has no label.
+    /// Counts the grid, which pumps, then paints a field (0 or less: the current one) in the state
+    /// that it has then, and shows its data in the information panel. Either mark makes it yellow.
+    /// During a solve, waits for the pause that is chosen, whoever paints. Ignores a field that has
+    /// no label.
     void PaintField(int index, bool neighbourMark = false, bool groupMark = false);
     /// Shows the number of free values in every empty field.
     void PaintFreedoms();
     /// Updates the number pad for the current field; without one it stays unchanged.
     void RefreshNumPad();
-    /// Paints everything, after putting the cursor on field 1 if there is none.
+    /// Paints all fields and the number pad, after putting the cursor on field 1 if there is none.
     void RefreshAll();
-    /// While a view is shown, all menus but the last are disabled.
+    /// While a view is shown, all menus but the last are disabled, and a click on a field does
+    /// nothing.
     void SetViewRunning(bool MyViewRunning);
     bool ViewRunning() const { return mbViewRunning; }
     /// The option of the pace with that caption. Throws std::out_of_range for another caption.
@@ -174,8 +176,8 @@ private:
     // IsDead is set for one field alone: the lowest dead field of the last count.
     FieldState StateOf(const Field& field) const;
     void ShowState(int index, const FieldState& state);
-    // The cursor has left the field that is painted as the current one: arrow keys, focus and
-    // screen reader move to the cursor's label.
+    // To be called when the cursor has left PaintedCurrent: makes the cursor's label the current
+    // one for arrow keys, focus and screen reader.
     void MakeCursorCurrent();
     void RepaintFormerCurrent(int index);
     std::string InfoText(const Field& field, const FieldState& state) const;

@@ -25,7 +25,8 @@ void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
     ShowState(shown, state);
     if (state.IsCursor) {
         lblField(shown).MakeCurrent();
-        RepaintFormerCurrent(std::exchange(PaintedCurrent, shown));
+        const int former = std::exchange(PaintedCurrent, shown);
+        if (former != shown) RepaintFormerCurrent(former);
     }
     // Commands that run in the wait may change the pace or end the solve.
     const auto pause = [this] { return Solving ? ChillDelay : 0; };
@@ -70,12 +71,11 @@ void frmTessarin::MakeCursorCurrent() {
 // one. The outer move then ends on its own field and would leave the field of the click green.
 void frmTessarin::RepaintFormerCurrent(int index) {
     const auto& fields = moGame->Fields->Items;
-    if (index != PaintedCurrent && fields.Has(index))
-        ShowState(index, StateOf(*fields.Item(index)));
+    if (fields.Has(index)) ShowState(index, StateOf(*fields.Item(index)));
 }
 
 std::string frmTessarin::InfoText(const Field& field, const FieldState& state) const {
-    const auto yesNo = [](bool flag) { return std::string(flag ? "True" : "False"); };
+    const auto trueFalse = [](bool flag) { return std::string(flag ? "True" : "False"); };
     const std::string lines[] = {
         "Index=" + std::to_string(field.Index),
         "Value=" + std::to_string(field.Value()),
@@ -83,10 +83,10 @@ std::string frmTessarin::InfoText(const Field& field, const FieldState& state) c
         "Freedom=" + std::to_string(field.Freedom()),
         "FreeValuesList=" + field.FreeValuesList(),
         "",
-        "IsCursor=" + yesNo(state.IsCursor),
-        "IsLocked=" + yesNo(field.Locked()),
-        "IsEmpty=" + yesNo(field.Value() == 0),
-        "IsDeadCell=" + yesNo(state.IsDead),
+        "IsCursor=" + trueFalse(state.IsCursor),
+        "IsLocked=" + trueFalse(field.Locked()),
+        "IsEmpty=" + trueFalse(field.Value() == 0),
+        "IsDeadCell=" + trueFalse(state.IsDead),
         "",
         "Retries=" + std::to_string(moGame->Play->Retries),
         "DeadCount=" + std::to_string(moGame->Fields->DeadCount()),

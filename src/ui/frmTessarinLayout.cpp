@@ -13,6 +13,7 @@ namespace {
 
 constexpr int Margin = FieldSide / 2; // around the grid
 constexpr int BoxGap = FieldSide / 4;
+constexpr int SideColumnGap = 240; // left of it
 
 // The start of the row or column `position` (from 1), with gaps between the boxes.
 float GridOffset(int position, int dimension) {
@@ -29,7 +30,7 @@ float PadOffset(int position) {
 
 } // namespace
 
-// Pumps between its steps, so that the window answers while it is laid out.
+// Pumps after each step, as every long operation of the window does; it is not yet shown.
 void frmTessarin::LayoutWindow() {
     CreateFieldLabels();
     PumpEvents(Pump::Now);
@@ -109,7 +110,7 @@ void frmTessarin::ArrangeActionPanel() {
 
 void frmTessarin::ArrangeSideColumn() {
     fraInfo.SetTop(fraNumPad.Top());
-    fraInfo.SetLeft(fraNumPad.Left() + fraNumPad.Width() + 240);
+    fraInfo.SetLeft(fraNumPad.Left() + fraNumPad.Width() + SideColumnGap);
     fraChill.SetTop(fraInfo.Top() + fraInfo.Height() + 105);
     fraChill.SetLeft(fraInfo.Left());
     fraChill.SetWidth(fraInfo.Width());
@@ -124,12 +125,13 @@ void frmTessarin::ArrangeSideColumn() {
 
 OptionButton& frmTessarin::PaceOption(std::string_view caption) {
     const auto pace = std::ranges::find(Paces, caption, &Pace::Caption);
+    // For another caption an index past the last, which throws.
     return optChill(static_cast<int>(pace - Paces.begin()));
 }
 
 void frmTessarin::SetInfoVisible(bool MyInfoVisible) {
     if (MyInfoVisible == mbInfoVisible) return;
-    const float column = fraInfo.Width() + 240;
+    const float column = fraInfo.Width() + SideColumnGap;
     SetWidth(Width() + (MyInfoVisible ? column : -column));
     mbInfoVisible = MyInfoVisible;
 }

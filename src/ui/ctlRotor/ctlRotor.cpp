@@ -69,15 +69,15 @@ void ctlRotor::Stop() {
     Timer1.SetEnabled(false);
     SetPointer(MousePointer::Default);
     FrameIndex = -1;
-    ShowFrame();
+    ShowFrameAndPump();
 }
 
 void ctlRotor::Timer1_Timer() {
     FrameIndex = (FrameIndex + 1) % Pictures;
-    ShowFrame();
+    ShowFrameAndPump();
 }
 
-void ctlRotor::ShowFrame() {
+void ctlRotor::ShowFrameAndPump() {
     for (int i = 0; i < Pictures; ++i)
         Image1[static_cast<std::size_t>(i)].SetVisible(i == FrameIndex);
     PumpEvents(Pump::Now);

@@ -17,7 +17,7 @@ public:
     ctlRotor(Control& container, std::string name, const Bounds& place);
 
     /// True starts or restarts the rotor, which shows a picture from the next tick on. False stops
-    /// it and hides all pictures.
+    /// it, hides all pictures and pumps window events.
     void SetRunning(bool SetRunning);
     bool Running() const { return FrameIndex >= 0; }
 
@@ -27,7 +27,7 @@ private:
     void Start();
     void Stop();
     void Timer1_Timer();
-    void ShowFrame();
+    void ShowFrameAndPump();
     void SetPointer(MousePointer pointer) const;
 
     void BoundsChanged() override { UserControl_Resize(); }
@@ -35,7 +35,7 @@ private:
     std::deque<Picture> Image1; // counts from 0
     Timer Timer1{*this, "Timer1"};
     bool UseHourglass = true; // the pointer is an hourglass while the rotor turns
-    int FrameIndex = -1;      // the visible picture; -1 while stopped
+    int FrameIndex = -1;      // the picture shown last, 0 at the start; -1 while stopped
 };
 
 } // namespace tessarin
