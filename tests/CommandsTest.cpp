@@ -35,10 +35,10 @@ TEST_F(CommandsTest, ThePadFollowsTheCurrentField) {
 }
 
 TEST_F(CommandsTest, AllValuesAreLockedAndUnlocked) {
-    Load("1;5;0|2;3;0");
+    Load("1;5;0|2;3;0|4;-1;0");
     grid.SetIndex(1);
     Click("mnuEditLockAllSet");
-    EXPECT_EQ(Seen({1, 2, 3}), "5:green/red 3/red .");
+    EXPECT_EQ(Seen({1, 2, 3, 4}), "5:green/red 3/red . -1");
     Click("mnuEditLockClear");
     EXPECT_EQ(Seen({1, 2}), "5:green 3");
     // A grid that comes meanwhile is left alone.

@@ -19,6 +19,7 @@ TEST_F(FilesTest, ALineOfCSVHasIndexValueAndLock) {
     Fill("123");
     Load("5;3;1|7;4;2|8;1;1;x|| 9 ;  +9 ; 0");
     EXPECT_EQ(Grid(), "5;3;1|7;4;0|8;1;1|9;9;0");
+    EXPECT_EQ(At(1).TextCSV(true), "1;0;0");
     Load("5;2147483647;-1|1;-3;1||");
     EXPECT_EQ(Grid(), "1;-3;1|5;2147483647;0");
 }

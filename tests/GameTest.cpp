@@ -41,7 +41,8 @@ TEST_F(GridTest, GroupsAreRowsColumnsAndBoxes) {
 }
 
 TEST_F(GridTest, LargeGridsHaveMoreValuesThanFitIntoAWord) {
-    grid.Init(9);
+    EXPECT_EQ(grid.Init(9), "");
+    EXPECT_EQ(grid.Init(4), "Dimension darf nicht gerade sein (4)");
     const std::pair<int, int> values[] = {{2, 1}, {3, 64}, {4, 65}, {5, 81}, {6, 82}, {91, 80}};
     for (const auto& [field, value] : values)
         At(field).SetValue(value);
@@ -84,6 +85,7 @@ TEST_F(GridTest, AMoveArrivesWhateverHappensOnItsWay) {
 TEST_F(GridTest, WinnerComesAndGoes) {
     FullBut({81});
     grid.SetIndex(3);
+    TELLS(At(9).SetValue(8), "9=8 dead 81");
     TELLS(At(81).SetValue(8), "81=8 winner 81");
     TELLS(At(1).SetLocked(true), "3=3 winner 3");
     TELLS(At(80).SetValue(0), "80=0 winner 0");
@@ -115,6 +117,7 @@ TEST_F(GridTest, AStatusPassSeesTheChangesInItsPumps) {
         AtPump(pump, [&] { Load("1;6;1|2;7;1"); });
         EXPECT_EQ(grid.FreeCount(), 79);
         EXPECT_EQ(grid.LockedCount(), 2);
+        EXPECT_EQ(grid.SetCount(), 0);
     }
 }
 
@@ -169,8 +172,7 @@ TEST_F(PlayTest, ClearingGoesBackAlongTheHistory) {
     TELLS(play.SetValue(0), "5=0 -5 from 5 to 2");
     grid.SetIndex(20);
     TELLS(play.GoBack(), "20=0 from 20 to 2");
-    TELLS(play.GoBack(), "2=0 -2");
-    TELLS(play.GoBack(), "");
+    TELLS(play.GoBack(AutoValue), "2=0 -2 2=2 +2");
 }
 
 TEST_F(PlayTest, TheNextFreeFieldIsTheMostConstrained) {
@@ -200,6 +202,12 @@ TEST_F(PlayTest, ARetreatStopsAtTheFirstFieldWithFreedom) {
     grid.SetIndex(80);
     TELLS(play.GoBackToFreedom(AutoValue), "from 80 to 1 1=8");
     EXPECT_EQ(play.Retries, 2);
+}
+
+TEST_F(PlayTest, WithoutACursorNothingHappens) {
+    Trace({3});
+    TELLS(play.SetValue(5), "");
+    TELLS(play.GoBackToFreedom(AutoValue), "Beep");
 }
 
 // The newest entry is empty and has no free value: no step would change anything.

@@ -48,23 +48,35 @@ TEST_F(ToolkitTest, AFloodOfClicksIsAnsweredInOrder) {
     EXPECT_EQ(clicks, 20'000);
 }
 
-// The click on an option does not wait.
-TEST_F(ToolkitTest, AWaitingClickIsDroppedIfItsPanelIsDisabledByThen) {
+TEST_F(ToolkitTest, AWaitingClickIsDroppedIfItsControlCannotBeClickedByThen) {
     CommandButton outer{form, "outer", {}};
+    const std::function<void()> reasons[] = {[&] { frame.SetEnabled(false); },
+                                             [&] { button.SetVisible(false); },
+                                             [&] { form.RaiseUnload(); }};
+    for (const auto& reason : reasons) {
+        int depth = 0;
+        outer.Click = [&] {
+            if (++depth < ClickGate::MaxDepth) return outer.RaiseClick();
+            button.RaiseClick();
+            reason();
+        };
+        outer.RaiseClick();
+        frame.SetEnabled(true);
+        button.SetVisible(true);
+    }
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(ToolkitTest, AClickOnAnOptionDoesNotWait) {
     OptionButton option{form, "option", {}};
-    int depth = 0, chosen = 0;
-    option.Click = [&] { ++chosen; };
-    outer.Click = [&] {
-        if (++depth < ClickGate::MaxDepth) return outer.RaiseClick();
-        button.RaiseClick();
-        frame.SetEnabled(false);
+    option.Click = [&] { ++clicks; };
+    button.Click = [&] {
+        if (++clicks < ClickGate::MaxDepth) return button.RaiseClick();
         option.RaiseClick();
-        EXPECT_EQ(chosen, 1);
+        option.Select();
+        EXPECT_EQ(clicks, ClickGate::MaxDepth + 2);
     };
-    outer.RaiseClick();
-    frame.SetEnabled(true);
     button.RaiseClick();
-    EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(ToolkitTest, ACancelledDialogKeepsTheFileChosenBefore) {

@@ -95,6 +95,9 @@ TEST_F(ViewsTest, ScreenReadersHearWhatTheColoursTell) {
     EXPECT_EQ(heard(2), "row 1, column 2: 1, locked");
     EXPECT_EQ(heard(1), "row 1, column 1: empty, current, dead");
     EXPECT_EQ(window.lblDeadEnd.AccessibleName(), "dead end: lit");
+    EXPECT_EQ(window.lblWinner.AccessibleName(), "winner: not lit");
+    EXPECT_EQ(window.btnSolve.AccessibleName(), "solve the sudoku");
+    EXPECT_EQ(window.PaceOption("100").AccessibleName(), "pause 100 milliseconds");
     Meanwhile([&] { EXPECT_EQ(heard(1), "row 1, column 1: empty, current, freedom 0"); });
     Click("mnuViewFreedom");
 }

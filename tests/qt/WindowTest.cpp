@@ -108,6 +108,8 @@ TEST_F(WindowTest, OnlyNewFilesInFoldersThatExistAreSaved) {
     EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|1;5;0");
     EXPECT_EQ(Read("plain"), "mine");
     EXPECT_EQ(Read("plain.csv"), "Index;Value;Locked|1;5;0");
+    TELLS(Click("mnuFileExportCSV", folder + std::string(300, 'x')),
+          "Export File Box(Export File|This file name is too long.|-) Export File");
 }
 
 TEST_F(WindowTest, FileNamesOfAllKinds) {
@@ -141,6 +143,22 @@ TEST_F(WindowTest, ADialogOpensInTheFolderOfTheFileBeforeAndLeavesNoSettings) {
     EXPECT_TRUE(QDir(qEnvironmentVariable("XDG_CONFIG_HOME")).isEmpty());
 }
 
+TEST_F(WindowTest, AKeyMayBeHeldInADialogAndAFolderIsEntered) {
+    Meanwhile([&] {
+        auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+        auto& name = *dialog.findChild<QLineEdit*>("fileNameEdit");
+        dialog.setDirectory(QString::fromStdString(folder));
+        Down(1000, "7");
+        Repeat(1600, "7");
+        EXPECT_EQ(name.text(), "77");
+        name.setText("..");
+        Key("Return");
+        EXPECT_EQ(dialog.directory().path().toStdString() + "/", testing::TempDir());
+        dialog.reject(); // ESC might only close a list of names
+    });
+    Click("mnuFileExportCSV");
+}
+
 TEST_F(WindowTest, TheWindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
     const QSize narrow = form->frameSize();
     // Twips, 15 to a pixel. The size with the frame is fixed: a thin frame leaves an empty strip
@@ -166,9 +184,15 @@ TEST_F(WindowTest, AReturnFromAnotherWindowRepaintsButNotOneFromAnOwnBox) {
 }
 
 TEST_F(WindowTest, AFieldIsCurrentBeforeItGetsTheFocusAndReadersMayPressIt) {
-    QObject::connect(qApp, &QApplication::focusChanged, form, [](auto* /*old*/, auto* field) {
+    const auto look = [](auto* /*old*/, auto* field) {
         EXPECT_TRUE(!field || field->accessibleName().endsWith(", current"));
-    });
+    };
+    QObject::connect(qApp, &QApplication::focusChanged, form, look);
+    platform.EachPump = [=, this] { look(form, form->focusWidget()); };
+    FullBut({1, 11, 21});
+    Click("btnInfo");
+    Pace("100");
+    Click("btnSolve");
     Key("Right");
     Click(40);
     auto* const spoken = QAccessible::queryAccessibleInterface(&Widget("lblField(2)"));
@@ -216,6 +240,10 @@ TEST_F(WindowTest, EachMoveOfASolveIsSeenBeforeTheNext) {
     const auto values = game.Events.StatusChanged.Connect(look);
     TELLS(Click("btnSolve"), "+1 +11 +21 +31 +41 +51");
     EXPECT_TRUE(eye.Painted.contains(changed));
+    eye.Painted.clear();
+    window.RefreshAll();
+    platform.PumpEvents(Pump::Now);
+    EXPECT_TRUE(eye.Painted.isEmpty()) << "nothing has changed";
 }
 
 // User and timers wait: a tick of the rotor would pump.
@@ -224,6 +252,8 @@ TEST_F(WindowTest, ASleepOnlyPaints) {
     platform.TellsPumps = true;
     window.ctlRotor1.SetRunning(true);
     QWidget& field = Widget("lblField(40)");
+    QCursor::setPos(0, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !field.underMouse(); }));
     Eye eye;
     field.installEventFilter(&eye);
     field.update();
