@@ -44,9 +44,8 @@ struct Slice {
 
     /// The bit of a value; none for a value outside the slice.
     ValueBits BitOf(int value) const {
-        const auto place = static_cast<unsigned>(value) - static_cast<unsigned>(First);
-        const bool isInside = place < static_cast<unsigned>(Size);
-        return ValueBits{isInside ? 1U : 0U} << (place % MaxSize);
+        if (value < First || value >= First + Size) return 0;
+        return ValueBits{1} << (value - First);
     }
 };
 
