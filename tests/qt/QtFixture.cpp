@@ -1,5 +1,7 @@
 #include "QtFixture.h"
 
+#include <algorithm>
+
 namespace tessarin {
 
 static QKeyCombination Combination(const QString& keys) {
@@ -78,7 +80,10 @@ void QtFixture::LookForBox() {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || dialog == mSeen) return;
     // Only an active box can be answered. A window manager would activate it.
-    if (!dialog->isActiveWindow()) return dialog->activateWindow();
+    if (!dialog->isActiveWindow()) {
+        dialog->activateWindow();
+        return;
+    }
     mSeen = dialog;
     mEyes.start(); // fires again although this handler has not ended
     if (const auto* const box = qobject_cast<const QMessageBox*>(dialog))
@@ -92,16 +97,24 @@ void QtFixture::LookForBox() {
 
 void QtFixture::AnswerBox(QDialog& dialog) {
     const auto buttons = dialog.findChildren<QPushButton*>();
-    if (buttons.size() == 1) return ClickAt(*buttons[0], {5, 5});
+    if (buttons.size() == 1) {
+        ClickAt(*buttons[0], {5, 5});
+        return;
+    }
     std::string answer = platform.TakeAnswer();
     EXPECT_TRUE(dialog.inherits("QFileDialog") || !answer.empty()) << "box without an answer";
     if (answer.empty()) answer = "Esc";
     const QString wanted = QString::fromStdString(answer);
-    for (auto* const button : buttons)
-        if (button->text().remove('&') == wanted) return ClickAt(*button, {5, 5});
-    if (answer == "Esc" || answer == "Return") return Key(wanted);
-    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(wanted);
-    QMetaObject::invokeMethod(&dialog, "accept");
+    const auto button = std::ranges::find(
+        buttons, wanted, [](const QPushButton* each) { return each->text().remove('&'); });
+    if (button != buttons.end()) {
+        ClickAt(**button, {5, 5});
+    } else if (answer == "Esc" || answer == "Return") {
+        Key(wanted);
+    } else {
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(wanted);
+        QMetaObject::invokeMethod(&dialog, "accept");
+    }
 }
 
 } // namespace tessarin

@@ -182,6 +182,8 @@ TEST_F(WindowTest, AReturnFromAnotherWindowRepaintsButNotOneFromAnOwnBox) {
     EXPECT_EQ(Seen({81}), "3");
 }
 
+// A screen reader tells the name of the control that gets the focus, and a new name only where the
+// focus is: during the pauses of a solve, too, that is the current field.
 TEST_F(WindowTest, AFieldIsCurrentBeforeItGetsTheFocusAndReadersMayPressIt) {
     const auto look = [](auto* /*old*/, auto* field) {
         EXPECT_TRUE(!field || field->accessibleName().endsWith(", current"));
@@ -245,7 +247,7 @@ TEST_F(WindowTest, EachMoveOfASolveIsSeenBeforeTheNext) {
     EXPECT_TRUE(eye.Painted.isEmpty());
 }
 
-// User and timers wait: a tick of the rotor would pump.
+// The user and the timers wait until it has ended: a tick of the rotor would pump.
 TEST_F(WindowTest, ASleepOnlyPaints) {
     platform.ReallySleeps = true;
     platform.TellsPumps = true;
