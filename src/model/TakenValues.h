@@ -19,7 +19,7 @@ using ValueBits = std::uint64_t;
 inline constexpr auto CountsOfBytes = [] {
     std::array<std::uint8_t, 256> counts{};
     for (unsigned byte = 0; byte < counts.size(); ++byte)
-        counts[byte] = static_cast<std::uint8_t>(std::popcount(byte));
+        counts.at(byte) = static_cast<std::uint8_t>(std::popcount(byte));
     return counts;
 }();
 
@@ -28,7 +28,7 @@ inline constexpr auto CountsOfBytes = [] {
 inline int CountOf(ValueBits bits) {
     int count = 0;
     for (ValueBits rest = bits; rest != 0; rest >>= 8)
-        count += CountsOfBytes[rest & 0xFF];
+        count += CountsOfBytes.at(rest & 0xFF);
     return count;
 }
 
