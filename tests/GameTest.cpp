@@ -42,6 +42,7 @@ TEST_F(GridTest, GroupsAreRowsColumnsAndBoxes) {
 TEST_F(GridTest, LargeGridsHaveMoreValuesThanFitIntoAWord) {
     EXPECT_EQ(grid.Init(9), "");
     EXPECT_EQ(grid.Init(4), "Dimension darf nicht gerade sein (4)");
+    TELLS(grid.Init(217), "! the square of 47089 is above 32 bits");
     const std::pair<int, int> values[] = {{2, 1}, {3, 64}, {4, 65}, {5, 81}, {6, 82}, {91, 80}};
     for (const auto& [field, value] : values)
         At(field).SetValue(value);
@@ -182,6 +183,7 @@ TEST_F(PlayTest, TheNextFreeFieldIsTheMostConstrained) {
     TELLS(play.GotoNextFreeField(), "to 41");
     TELLS(play.GotoNextFreeField(AutoValue), "41=9 +41");
     TELLS(play.GotoNextFreeField(), "from 41 to 76");
+    TELLS(play.SetTracing(false), "-41");
 }
 
 TEST_F(PlayTest, ARetreatPassesFieldsWithoutFreedom) {

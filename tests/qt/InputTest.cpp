@@ -139,6 +139,10 @@ TEST_F(InputTest, AClickElsewhereLeavesTheMenuBar) {
     At(1).SetLocked(true); // now that key cannot have the keyboard any more
     Key("Alt");
     EXPECT_EQ(Focused(), "lblField(1)");
+    Key("Alt");
+    grid.SetIndex(5); // as a solve does meanwhile
+    Key("Alt");
+    EXPECT_EQ(Focused(), "lblField(5)");
 }
 
 TEST_F(InputTest, AltWithAClickIsNoTapOnAlt) {
