@@ -23,4 +23,4 @@ TEST(BoxPlaceTest, ABoxOpensWhereTheScreenHasRoom) {
     EXPECT_EQ(place({100, 790, 400, 400}), QPoint(500, 750));
 }
 
-} // Namespace tessarin.
+} // namespace tessarin
