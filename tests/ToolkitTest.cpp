@@ -45,7 +45,7 @@ TEST_F(ToolkitTest, AClosedFormTakesNoClicks) {
     EXPECT_EQ(clicks, 1);
 }
 
-// Every click brings another one, far more than the stack could hold if they nested.
+// Each click brings two more, in the end far more than the stack could hold if they nested.
 TEST_F(ToolkitTest, AFloodOfClicksIsAnsweredInOrder) {
     ControlArray<CommandButton> keys{form, "keys", {}};
     keys.Add(1, {});

@@ -283,7 +283,7 @@ TEST_F(InputTest, TheRotorTurnsInThePausesOfASolveThatBeginsInATick) {
     window.ctlRotor1.SetRunning(true);
     AtPump(1, [&] { Click("btnSolve"); });
     QTest::qWait(20); // in which it ticks
-    // Seven fields are painted, each with a pause.
+    // Seven fields are painted, each with a pause; at the end no picture is left.
     EXPECT_GE(turns, 7);
     EXPECT_EQ(shown, -1);
     EXPECT_GE(time.elapsed(), 600);

@@ -141,6 +141,7 @@ TEST_F(WindowTest, ADialogOpensInTheFolderOfTheFileBeforeAndLeavesNoSettings) {
     EXPECT_TRUE(QDir(qEnvironmentVariable("XDG_CONFIG_HOME")).isEmpty());
 }
 
+// A typed key repeats there, and the name of a folder leads into it.
 TEST_F(WindowTest, AKeyMayBeHeldInADialogAndAFolderIsEntered) {
     Meanwhile([&] {
         auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
