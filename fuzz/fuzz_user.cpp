@@ -22,7 +22,8 @@ public:
         command = ReplaceAll(command, "(5)", "(" + std::to_string(choose(9)) + ")");
         SCOPED_TRACE(command);
         if (++mlDepth < 3) platform.AtPump(choose(420), [this] { Step(); });
-        platform.EscPresses.assign(9, false); // a solve that takes long is cancelled
+        // A solve that takes long is cancelled.
+        platform.EscPresses.assign(9, false);
         platform.EscPresses.back() = true;
         platform.SaysYes = true;
         Do(command);

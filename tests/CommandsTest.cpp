@@ -6,7 +6,8 @@ namespace tessarin {
 using CommandsTest = WindowFixture;
 
 TEST_F(CommandsTest, APuzzleIsWorkedByHand) {
-    Import("2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1"); // 7, 8 and 9 are left for the row
+    // 7, 8 and 9 are left for the row.
+    Import("2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1");
     Click("btnNextFree");
     TELLS(Click("btnNextFreeAuto"), "+1");
     TELLS(Click("btnNextFreeAuto"), "+8");
@@ -53,7 +54,8 @@ TEST_F(CommandsTest, ClearingAsksFirst) {
     Click("mnuEditClearFree", "No");
     Click("mnuEditClearAll", "No");
     EXPECT_EQ(Seen({1, 2}), "5/red 3");
-    TELLS(Click("mnuEditClearFree", "Yes"), "Box(|Clear Free?|? Yes No)"); // keeps the history
+    // Keeps the history.
+    TELLS(Click("mnuEditClearFree", "Yes"), "Box(|Clear Free?|? Yes No)");
     EXPECT_EQ(Grid(), "1;5;1");
     EXPECT_EQ(window.lblFile.Caption(), file);
     Click("mnuEditClearAll", "Yes");
@@ -130,7 +132,8 @@ TEST_F(CommandsTest, APaceIsThePauseAfterEachPaintedField) {
 TEST_F(CommandsTest, APaceThatIsChosenInFrontOfAPauseCounts) {
     FullBut({1});
     Pace("800");
-    AtPump(82, [&] { Pace("100"); }); // one pump for each field, then that of the pause
+    // One pump for each field, then that of the pause.
+    AtPump(82, [&] { Pace("100"); });
     TELLS(Click("btnSolve"), "+1 Sleep(100)");
 }
 
@@ -138,7 +141,8 @@ TEST_F(CommandsTest, QuietPaintsNothingUntilTheEnd) {
     FullBut({1, 11, 21});
     Meanwhile([&] {
         Pace("Quiet");
-        Click("mnuEditLockAllSet"); // a command still paints
+        // A command still paints.
+        Click("mnuEditLockAllSet");
         EXPECT_EQ(Seen({2, 81}), "2/red 8/red");
         Meanwhile([&] { EXPECT_EQ(Seen({11}), "."); });
     });

@@ -54,7 +54,8 @@ TEST_F(FilesTest, ARowOfSDKMayBeShortOrLong) {
 
 TEST_F(FilesTest, RowsOfSDKTellTheDimension) {
     At(1).SetValue(5);
-    LoadSDK("1|0|0|0|0|0|0|0|0"); // no line break behind the last row
+    // No line break behind the last row.
+    LoadSDK("1|0|0|0|0|0|0|0|0");
     grid.SetTextSDK("\"sudoku\"\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n");
     EXPECT_EQ(Grid(), "1;5;0");
     LoadSDK("0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0,25|");

@@ -8,8 +8,9 @@
 
 namespace tessarin {
 
-constexpr bool AutoValue = true; // of the player's commands
-constexpr bool Store = true;     // of NextFreeValue
+// Arguments of the player's commands and of NextFreeValue.
+constexpr bool AutoValue = true;
+constexpr bool Store = true;
 
 using GridTest = GameFixture;
 
@@ -94,7 +95,8 @@ TEST_F(GridTest, WinnerComesAndGoes) {
 
 TEST_F(GridTest, DeadEndComesAndGoes) {
     Fill("......... 12.345678 ......... 34.781256");
-    TELLS(At(75).SetValue(9), "75=9 dead 12"); // the lowest dead field
+    // The lowest dead field.
+    TELLS(At(75).SetValue(9), "75=9 dead 12");
     TELLS(At(2).SetValue(9), "2=9 dead 12");
     TELLS(At(75).SetValue(0), "75=0 dead 12");
     TELLS(At(2).SetValue(0), "2=0 dead 0");
@@ -141,7 +143,8 @@ TEST_F(GridTest, AGameThatEndsLeavesANewerOneInItsPlace) {
 using PlayTest = GameFixture;
 
 TEST_F(PlayTest, OnlyFreeValuesAreEntered) {
-    Fill("..125.... 67....... 9"); // field 1 may have 3, 4 and 8
+    // Field 1 may have 3, 4 and 8.
+    Fill("..125.... 67....... 9");
     grid.SetIndex(1);
     At(1).SetLocked(true); // has no effect
     Trace({12});
@@ -150,7 +153,8 @@ TEST_F(PlayTest, OnlyFreeValuesAreEntered) {
     TELLS(play.SetValue(3), "1=3 +1");
     TELLS(play.SetValue(3), "");
     TELLS(play.SetValue(8), "1=8");
-    TELLS(play.SetValue(4, AutoValue), ""); // the next value after 8, whatever is given
+    // The next value after 8, whatever is given.
+    TELLS(play.SetValue(4, AutoValue), "");
 }
 
 TEST_F(PlayTest, TheNextFreeValueIsTakenWithoutHistory) {
@@ -166,7 +170,8 @@ TEST_F(PlayTest, TheNextFreeValueIsTakenWithoutHistory) {
 
 TEST_F(PlayTest, ClearingGoesBackAlongTheHistory) {
     FullBut({81});
-    Trace({82, 12, 2, 5}); // 82 comes from a larger grid and leads nowhere
+    // 82 comes from a larger grid and leads nowhere.
+    Trace({82, 12, 2, 5});
     grid.SetIndex(12);
     TELLS(play.SetValue(0), "12=0 -12 from 12 to 5");
     TELLS(play.SetValue(0), "5=0 -5 from 5 to 2");
@@ -187,7 +192,8 @@ TEST_F(PlayTest, TheNextFreeFieldIsTheMostConstrained) {
 }
 
 TEST_F(PlayTest, ARetreatPassesFieldsWithoutFreedom) {
-    FullBut({81, 80}); // once field 3 is empty, its value is free again
+    // Once field 3 is empty, its value is free again.
+    FullBut({81, 80});
     Trace({3, 12, 5});
     grid.SetIndex(5);
     TELLS(EXPECT_TRUE(play.GoBackToFreedom()), "5=0 -5 from 5 to 12 12=0 -12 from 12 to 3 3=0 -3");

@@ -79,7 +79,8 @@ std::string User::Told(const std::function<void()>& step) {
     } catch (const std::exception& error) {
         mRecorder.Tell("! ", error.what());
     }
-    mRecorder.Tell(""); // what has changed without being told
+    // What has changed without being told.
+    mRecorder.Tell("");
     const std::string told = std::exchange(mRecorder.Record, outer);
     return ReplaceAll(WithBars(told.substr(0, told.find_last_of(' '))), folder, "");
 }

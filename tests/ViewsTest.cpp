@@ -10,7 +10,8 @@ using ViewsTest = WindowFixture;
 
 TEST_F(ViewsTest, AMarkWinsOverDeadAndDeadOverCurrent) {
     Fill(".12345678");
-    At(10).SetValue(9); // nothing is free for field 1 now
+    // Nothing is free for field 1 now.
+    At(10).SetValue(9);
     Click(2);
     EXPECT_EQ(Seen({1, 2}), ".:red 1:green");
     At(2).SetLocked(true);
@@ -30,12 +31,14 @@ TEST_F(ViewsTest, DeadCellsAreRedWhileTheirNumberIsShown) {
 
 TEST_F(ViewsTest, NeighboursAreYellowWhileTheirNumberIsShown) {
     Click(81);
-    Pace("800"); // a view does not pause after each field
+    // A view does not pause after each field.
+    Pace("800");
     Meanwhile([&] {
         EXPECT_EQ(Marked().size(), 21U);
         Click("btnNextFree");
     });
-    TELLS(Click("mnuViewNeighbours"), "Box(|Neigbours = 21|- OK)"); // spelled like that
+    // Spelled like that.
+    TELLS(Click("mnuViewNeighbours"), "Box(|Neigbours = 21|- OK)");
     // Those that were marked are unmarked, wherever the cursor is by then.
     EXPECT_EQ(Marked(), std::vector<int>());
 }
@@ -64,7 +67,8 @@ TEST_F(ViewsTest, GroupsAreShownForASecondEach) {
 TEST_F(ViewsTest, TheGroupsViewGoesOnWithItsGroupsAfterAnImport) {
     const std::weak_ptr<Group> last = game.Groups->Items.Item(27);
     Meanwhile([&] {
-        Click("lblDeadEnd"); // enables the menus when it ends
+        // Enables the menus when it ends.
+        Click("lblDeadEnd");
         Import("1;5;0");
         EXPECT_FALSE(last.expired());
     });

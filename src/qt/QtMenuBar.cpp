@@ -118,13 +118,11 @@ public:
             bar.addAction(this);
     }
 
-    // Only Enabled can change. A menu disables its title with it; if the title alone were disabled,
-    // the entries of an open menu would still answer.
+    // Only Enabled can change. If the title of an open menu alone were disabled, the entries would
+    // still answer.
     void Changed(Property /*property*/) override {
-        if (mMenu)
-            mMenu->setEnabled(mItem.Enabled());
-        else
-            setEnabled(mItem.Enabled());
+        setEnabled(mItem.Enabled());
+        if (mMenu) mMenu->setEnabled(mItem.Enabled());
     }
 
 private:

@@ -42,12 +42,14 @@ TEST_F(InputTest, ACharacterClicksTheButtonWithThisCaption) {
     EXPECT_EQ(Grid(), "1;7;0");
     Key("F");
     Key("X");
-    Key("C"); // is disabled for a locked field
+    // Is disabled for a locked field.
+    Key("C");
     EXPECT_EQ(Grid(), "1;8;1");
     Key("X");
     Key("C");
     At(2).SetValue(6);
-    Key("6"); // is hidden, because 6 stands in the row
+    // Is hidden, because 6 stands in the row.
+    Key("6");
     EXPECT_EQ(Grid(), "2;6;0");
     grid.SetIndex(81);
     Key("Shift+>");
@@ -100,7 +102,8 @@ TEST_F(InputTest, AClickBesideTheGridLeavesTheKeyboardThere) {
     Click("lblDeadEnd");
     EXPECT_EQ(Focused(), "lblField(1)");
     Focus("btnNumPad(6)");
-    Key("Space"); // hides the key that has it
+    // Hides the key that has it.
+    Key("Space");
     EXPECT_EQ(Focused(), "lblField(1)");
 }
 
@@ -113,7 +116,8 @@ TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {
     Focus("btnSolve");
     Meanwhile([&] { Click(5); });
     Key("Space");
-    EXPECT_EQ(Focused(), "lblField(21)"); // in the grid, where the last move has led
+    // In the grid, where the last move has led.
+    EXPECT_EQ(Focused(), "lblField(21)");
     FullBut({1, 11, 21});
     Click("btnInfo");
     Focus("btnSolve");
@@ -136,11 +140,13 @@ TEST_F(InputTest, AClickElsewhereLeavesTheMenuBar) {
     Click("btnInfo");
     EXPECT_EQ(Focused(), "btnNumPad(5)");
     Key("Alt");
-    At(1).SetLocked(true); // now that key cannot have the keyboard any more
+    // Now that key cannot have the keyboard any more.
+    At(1).SetLocked(true);
     Key("Alt");
     EXPECT_EQ(Focused(), "lblField(1)");
     Key("Alt");
-    grid.SetIndex(5); // as a solve does meanwhile
+    // As a solve does meanwhile.
+    grid.SetIndex(5);
     Key("Alt");
     EXPECT_EQ(Focused(), "lblField(5)");
 }
@@ -233,7 +239,8 @@ TEST_F(InputTest, ABoxInASolveHasTheUsualPointer) {
 TEST_F(InputTest, AnEscThatClosesSomethingDoesNotAsk) {
     Key("Alt+E");
     Key("Right");
-    Key("Esc"); // closes the submenu alone: the next keys go to its menu
+    // Closes the submenu alone: the next keys go to its menu.
+    Key("Esc");
     Key("Right");
     platform.Answers = {"Esc"};
     Key("Return");
@@ -282,7 +289,8 @@ TEST_F(InputTest, TheRotorTurnsInThePausesOfASolveThatBeginsInATick) {
     time.start();
     window.ctlRotor1.SetRunning(true);
     AtPump(1, [&] { Click("btnSolve"); });
-    QTest::qWait(20); // in which it ticks
+    // In which it ticks.
+    QTest::qWait(20);
     // Seven fields are painted, each with a pause; at the end no picture is left.
     EXPECT_GE(turns, 7);
     EXPECT_EQ(shown, -1);

@@ -18,7 +18,8 @@ QtFixture::QtFixture() : WindowUser(platform, OwnWindow) {
 
 void QtFixture::Key(const QString& keys) {
     const QKeyCombination key = Combination(keys);
-    QTest::qWait(2); // a press in the same millisecond as the release before would be a repeat
+    // A press in the same millisecond as the release before would be a repeat.
+    QTest::qWait(2);
     QTest::keyClick(Top().windowHandle(), key.key(), key.keyboardModifiers());
     Activate();
 }
@@ -85,7 +86,8 @@ void QtFixture::LookForBox() {
         return;
     }
     mSeen = dialog;
-    mEyes.start(); // fires again although this handler has not ended
+    // Fires again although this handler has not ended.
+    mEyes.start();
     if (const auto* const box = qobject_cast<const QMessageBox*>(dialog))
         platform.Tell("Box(", box->windowTitle().toStdString(), "|", box->text().toStdString(),
                       box->icon() == QMessageBox::Question ? "|?)" : "|-)");

@@ -313,7 +313,8 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     QTimer::singleShot(1, form, [this] { Click(GetParam()); });
     QApplication::exec();
     EXPECT_LT(sinceClose.elapsed(), 900);
-    EXPECT_EQ(Grid(), "1;5;0"); // the question was not answered
+    // The question was not answered.
+    EXPECT_EQ(Grid(), "1;5;0");
 }
 
 } // namespace tessarin
