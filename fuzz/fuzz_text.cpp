@@ -1,5 +1,6 @@
 // Loads any text into a grid in both formats. It may throw only the errors of a bad text.
 // Afterwards the status can be read, and the text that the grid writes loads into the same grid.
+#include "model/Errors.h"
 #include "model/Fields.h"
 #include "play/Game.h"
 
@@ -18,7 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         std::string written;
         try {
             written = load({data, data + size});
-        } catch (const std::logic_error&) {
+        } catch (const tessarin::TypeMismatchError&) {
+        } catch (const std::out_of_range&) {
         } catch (const std::overflow_error&) {
         }
         const int free = grid.FreeCount();

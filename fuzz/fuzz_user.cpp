@@ -19,8 +19,9 @@ public:
         const auto commands = toolkit.Commands();
         std::string command = commands.at(choose(commands.size() - 1));
         command = ReplaceAll(command, "50)", std::to_string(choose(80) + 1) + ")");
-        command = ReplaceAll(command, "(5)", "(" + std::to_string(choose(9)) + ")");
+        command = ReplaceAll(command, "Pad(5)", "Pad(" + std::to_string(choose(9)) + ")");
         SCOPED_TRACE(command);
+        // Another command in one of the next pumps (0: in none), at most three deep.
         if (++mlDepth < 3) platform.AtPump(choose(420), [this] { Step(); });
         // A solve that takes long is cancelled.
         platform.EscPresses.assign(9, false);
@@ -31,6 +32,7 @@ public:
         if (--mlDepth > 0 || platform.Closed) return;
         // What a quiet solve has changed is not painted if another pace is chosen in it.
         if (std::exchange(mbStale, false)) window.RefreshAll();
+        // The checks may pump: no command is to run there.
         platform.AtPump(0, nullptr);
         EXPECT_EQ(Faults(), "");
     }

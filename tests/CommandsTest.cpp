@@ -8,7 +8,9 @@ using CommandsTest = WindowFixture;
 TEST_F(CommandsTest, APuzzleIsWorkedByHand) {
     // 7, 8 and 9 are left for the row.
     Import("2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1");
+    Click(50);
     Click("btnNextFree");
+    EXPECT_EQ(grid.Index(), 1);
     TELLS(Click("btnNextFreeAuto"), "+1");
     TELLS(Click("btnNextFreeAuto"), "+8");
     Click("btnNextFreeValue");
@@ -36,6 +38,7 @@ TEST_F(CommandsTest, ThePadFollowsTheCurrentField) {
 }
 
 TEST_F(CommandsTest, AllValuesAreLockedAndUnlocked) {
+    // Only values above 0 are locked.
     Load("1;5;0|2;3;0|4;-1;0");
     grid.SetIndex(1);
     Click("mnuEditLockAllSet");
@@ -71,12 +74,13 @@ TEST_F(CommandsTest, TheLightsStayUntilTheNextEventOrImport) {
     Fill(".12345678");
     At(10).SetValue(9);
     EXPECT_EQ(Lights(), "red green");
-    TELLS(Click("mnuFileImportCSV"), "Import File"); // and cancelled
+    // Cancelled, and yet:
+    TELLS(Click("mnuFileImportCSV"), "Import File");
     EXPECT_EQ(Lights(), "normal normal");
     EXPECT_EQ(Seen({2}), "1");
 }
 
-TEST_F(CommandsTest, AboutIsShownAgain) {
+TEST_F(CommandsTest, AboutBeginsItsTextAnew) {
     Click("mnuAbout");
     TELLS(Click("mnuAbout"), "Box(About Tessarin|FileDescription: Solves|Copyright: by X|Internet: "
                              "https://x|Version: 01.06.048|Release: 29.04.2022 - 06:49:52|- OK)");
@@ -98,7 +102,8 @@ TEST_F(CommandsTest, AnExportWritesANewFileAndStartsTheHistory) {
     EXPECT_EQ(window.lblFile.Caption(), "");
     EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|1;5;0");
     TELLS(Click("btnNumPad(9)"), "+1");
-    TELLS(Click("mnuFileExportCSV", folder + "again.csv"), "Export File"); // and keeps it
+    // Keeps it.
+    TELLS(Click("mnuFileExportCSV", folder + "again.csv"), "Export File");
 }
 
 TEST_F(CommandsTest, AnImportKeepsItsNameInSpiteOfANestedDialog) {
@@ -109,7 +114,7 @@ TEST_F(CommandsTest, AnImportKeepsItsNameInSpiteOfANestedDialog) {
     EXPECT_EQ(Grid(), "1;5;1");
 }
 
-TEST_F(CommandsTest, AnImportShowsNeitherTheOldNameNorTheOldGridMeanwhile) {
+TEST_F(CommandsTest, AnImportShowsNoOldNameOrGridMeanwhile) {
     Import("1;5;1|81;7;0");
     const auto loading = grid.Events.Init.Connect([this] {
         EXPECT_EQ(window.lblFile.Caption(), "");

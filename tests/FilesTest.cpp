@@ -5,7 +5,8 @@
 
 namespace tessarin {
 
-constexpr bool Replace = true; // of WriteTextFile
+// An argument of WriteTextFile.
+constexpr bool Replace = true;
 
 class FilesTest : public GameFixture {
 protected:
@@ -19,7 +20,7 @@ TEST_F(FilesTest, ALineOfCSVHasIndexValueAndLock) {
     Fill("123");
     Load("5;3;1|7;4;2|8;1;1;x|| 9 ;  +9 ; 0");
     EXPECT_EQ(Grid(), "5;3;1|7;4;0|8;1;1|9;9;0");
-    EXPECT_EQ(At(1).TextCSV(true), "1;0;0");
+    EXPECT_EQ(At(1).TextCSV(/*WithEmpty=*/true), "1;0;0");
     Load("5;2147483647;-1|1;-3;1||");
     EXPECT_EQ(Grid(), "1;-3;1|5;2147483647;0");
 }
@@ -29,7 +30,8 @@ TEST_F(FilesTest, ABadLineOfCSVEndsTheLoad) {
     EXPECT_EQ(Grid(), "5;3;1|7;4;0");
     TELLS(Load("5;3;1|82;x;1|9;9;0"), "! no item at position 82 of 81");
     EXPECT_EQ(Grid(), "5;3;1");
-    EXPECT_EQ(grid.FreeCount(), 80);
+    // Changes are told again.
+    TELLS(At(9).SetValue(4), "9=4");
     TELLS(Load("7;4;0x4|9;9;0"), "! \"0x4\" is not a whole number");
     EXPECT_EQ(Grid(), "7;4;0");
     TELLS(Load("7;4;-2147483649"), "! \"-2147483649\" is outside the 32-bit range");
@@ -39,14 +41,14 @@ TEST_F(FilesTest, OtherTextsOfCSVEmptyTheGrid) {
     Load("1;5;1");
     grid.SetTextCSV("index;value;locked\r\n5;3;1");
     EXPECT_EQ(Grid(), "");
-    // A line ends with two characters.
+    // "\n" alone ends no line.
     grid.SetTextCSV("Index;Value;Locked\n1;5;1\r\n2;6;1");
     EXPECT_EQ(Grid(), "");
 }
 
 TEST_F(FilesTest, ARowOfSDKMayBeShortOrLong) {
-    LoadSDK("1, -2 ,12||3|0|0|0|0|0|0|");
-    EXPECT_EQ(Grid(), "1;1;1|2;-2;1|3;12;1|19;3;1");
+    LoadSDK("1, -2 ,12,0,0,0,0,0,0,7||3|0|0|0|0|0|0|");
+    EXPECT_EQ(Grid(), "1;1;1|2;-2;1|3;12;1|10;7;1|19;3;1");
     TELLS(LoadSDK("1,,3|0|0|0|0|0|0|0|0|"), "! \"\" is not a whole number");
     TELLS(LoadSDK("7|0|0|0|0|0|0|0|0,0,0,0,0,0,0,0,5,x|"), "! no item at position 82 of 81");
     EXPECT_EQ(Grid(), "1;7;1|81;5;1");
@@ -54,7 +56,7 @@ TEST_F(FilesTest, ARowOfSDKMayBeShortOrLong) {
 
 TEST_F(FilesTest, RowsOfSDKTellTheDimension) {
     At(1).SetValue(5);
-    // No line break behind the last row.
+    // Refused: no line break behind the last row; another first line.
     LoadSDK("1|0|0|0|0|0|0|0|0");
     grid.SetTextSDK("\"sudoku\"\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n");
     EXPECT_EQ(Grid(), "1;5;0");
@@ -68,16 +70,17 @@ TEST_F(FilesTest, AnExportNeverReplacesAFile) {
     game.FileExportCSV(Write("mine", "my text"));
     game.FileExportSDK(folder + "mine");
     EXPECT_EQ(Read("mine"), "my text");
+    // Nor does it report that it cannot write.
     TELLS(game.FileExportCSV(folder + "no folder/grid"), "");
 }
 
 TEST_F(FilesTest, AnExportWithoutNameLiesBesideTheProgram) {
     At(1).SetValue(5);
     game.FileExportCSV();
-    EXPECT_EQ(Read("Tessarin-20220429-064952.csv"), "Index;Value;Locked|1;5;0");
+    EXPECT_EQ(Read("Tessarin-20230102-030405.csv"), "Index;Value;Locked|1;5;0");
     game.FileExportSDK();
     At(1).SetValue(0);
-    game.FileImportSDK(folder + "Tessarin-20220429-064952.sdk");
+    game.FileImportSDK(folder + "Tessarin-20230102-030405.sdk");
     EXPECT_EQ(Grid(), "1;5;1");
 }
 
@@ -96,6 +99,7 @@ TEST_F(FilesTest, TheFirstBytesTellTheCharset) {
         {BomUnicode(), "unicode"}, {BomUtf8(), "utf-8"}, {"text", "x-ansi"}, {"", ""}};
     for (const auto& [text, charset] : texts)
         EXPECT_EQ(DetectCharset(Write("text", text)), charset);
+    // Two bytes for each character, without a mark.
     WriteTextFile(folder + "text", "AB", "unicode", Replace);
     EXPECT_EQ(ReadTextFile(folder + "text"), std::string("A\0B\0", 4));
 }
@@ -104,6 +108,7 @@ TEST_F(FilesTest, FilesKeepEveryByteAndAreReadWhole) {
     const std::string bytes = BomUtf8() + "a\r\nb\n\xFF\r" + std::string(200'000, '\0');
     EXPECT_EQ(WriteTextFile(folder + "all", bytes, "utf-8", Replace), "");
     EXPECT_EQ(ReadTextFile(folder + "all"), bytes);
+    // A device is not read, because it may never end. A full one is an error.
     EXPECT_EQ(ReadTextFile("/dev/zero"), "");
     EXPECT_NE(WriteTextFile("/dev/full", "x", "", Replace), "");
 }

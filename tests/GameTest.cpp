@@ -26,7 +26,7 @@ TEST_F(GridTest, AFailureNamesTheLineOfItsStep) {
 TEST_F(GridTest, FreeIsWhatNoNeighbourHolds) {
     Fill("5.......1 .2....... ......... 9");
     At(41).SetValue(4);
-    // Values that the grid does not have take nothing.
+    // Nor is a field's own value free. Values that the grid does not have take nothing.
     At(2).SetValue(12);
     At(3).SetValue(-1);
     EXPECT_EQ(At(1).FreeValuesList(), "3;4;6;7;8;");
@@ -37,13 +37,16 @@ TEST_F(GridTest, GroupsAreRowsColumnsAndBoxes) {
     std::string flavors;
     for (const int group : {1, 9, 10, 18, 19, 27})
         flavors += game.Groups->Items.Item(group)->FlavorText() + " ";
+    // Spelled like that.
     EXPECT_EQ(flavors, "horizontal horizontal vertikal vertikal box box ");
 }
 
 TEST_F(GridTest, LargeGridsHaveMoreValuesThanFitIntoAWord) {
     EXPECT_EQ(grid.Init(9), "");
+    // Refused: the grid stays.
     EXPECT_EQ(grid.Init(4), "Dimension darf nicht gerade sein (4)");
     TELLS(grid.Init(217), "! the square of 47089 is above 32 bits");
+    // 82 is no value of this grid.
     const std::pair<int, int> values[] = {{2, 1}, {3, 64}, {4, 65}, {5, 81}, {6, 82}, {91, 80}};
     for (const auto& [field, value] : values)
         At(field).SetValue(value);
@@ -60,12 +63,14 @@ TEST_F(GridTest, LargeGridsHaveMoreValuesThanFitIntoAWord) {
 TEST_F(GridTest, OnlyChangesAreTold) {
     TELLS(At(7).SetValue(99), "7=99");
     TELLS(At(7).SetValue(99), "");
+    // A lock is told with the cursor's field: none.
     TELLS(At(7).SetLocked(true), "0=0");
     TELLS(At(7).SetLocked(true), "");
 }
 
 TEST_F(GridTest, TheCursorIsOnAFieldOrNowhere) {
-    TELLS(grid.SetIndex(-1), ""); // nowhere, as before
+    // Nowhere, as before.
+    TELLS(grid.SetIndex(-1), "");
     TELLS(grid.SetIndex(82), "! no field 82");
     TELLS(grid.SetIndex(5), "to 5");
     TELLS(grid.SetIndex(-1), "! no field -1");
@@ -80,13 +85,15 @@ TEST_F(GridTest, AMoveArrivesWhateverHappensOnItsWay) {
     AtPump(1, [&] { grid.Init(); });
     TELLS(grid.SetIndex(4), "from 3 to 4");
     AtPump(1, [&] { grid.SetIndex(5); });
-    TELLS(grid.SetIndex(5), "from 4 from 4 to 5"); // told once
+    // Told once.
+    TELLS(grid.SetIndex(5), "from 4 from 4 to 5");
 }
 
 TEST_F(GridTest, WinnerComesAndGoes) {
     FullBut({81});
     grid.SetIndex(3);
     TELLS(At(9).SetValue(8), "9=8 dead 81");
+    // Full is enough, right or wrong.
     TELLS(At(81).SetValue(8), "81=8 winner 81");
     TELLS(At(1).SetLocked(true), "3=3 winner 3");
     TELLS(At(80).SetValue(0), "80=0 winner 0");
@@ -95,7 +102,7 @@ TEST_F(GridTest, WinnerComesAndGoes) {
 
 TEST_F(GridTest, DeadEndComesAndGoes) {
     Fill("......... 12.345678 ......... 34.781256");
-    // The lowest dead field.
+    // Field 30 is dead, too; the lowest is told.
     TELLS(At(75).SetValue(9), "75=9 dead 12");
     TELLS(At(2).SetValue(9), "2=9 dead 12");
     TELLS(At(75).SetValue(0), "75=0 dead 12");
@@ -112,7 +119,7 @@ TEST_F(GridTest, EventsAndPumpsHaveAnOrder) {
     TELLS(At(81).SetValue(8), "81=8 (83) winner 81 (3)");
 }
 
-// Neither the change nor the new grid raises an event that would read the status.
+// A load raises no event in which somebody would read the status.
 TEST_F(GridTest, AStatusPassSeesTheChangesInItsPumps) {
     for (const int pump : {1, 81}) {
         Load("1;5;0");
@@ -146,14 +153,15 @@ TEST_F(PlayTest, OnlyFreeValuesAreEntered) {
     // Field 1 may have 3, 4 and 8.
     Fill("..125.... 67....... 9");
     grid.SetIndex(1);
-    At(1).SetLocked(true); // has no effect
-    Trace({12});
+    // Has no effect.
+    At(1).SetLocked(true);
+    Trace({81});
     TELLS(play.SetValue(5), "");
     TELLS(play.SetValue(12), "");
     TELLS(play.SetValue(3), "1=3 +1");
     TELLS(play.SetValue(3), "");
     TELLS(play.SetValue(8), "1=8");
-    // The next value after 8, whatever is given.
+    // The 4 is ignored, and no value follows the 8.
     TELLS(play.SetValue(4, AutoValue), "");
 }
 
@@ -188,12 +196,13 @@ TEST_F(PlayTest, TheNextFreeFieldIsTheMostConstrained) {
     TELLS(play.GotoNextFreeField(), "to 41");
     TELLS(play.GotoNextFreeField(AutoValue), "41=9 +41");
     TELLS(play.GotoNextFreeField(), "from 41 to 76");
+    // Drops the history.
     TELLS(play.SetTracing(false), "-41");
 }
 
 TEST_F(PlayTest, ARetreatPassesFieldsWithoutFreedom) {
-    // Once field 3 is empty, its value is free again.
-    FullBut({81, 80});
+    // No other value is free for any of them: it ends with the history.
+    FullBut({81});
     Trace({3, 12, 5});
     grid.SetIndex(5);
     TELLS(EXPECT_TRUE(play.GoBackToFreedom()), "5=0 -5 from 5 to 12 12=0 -12 from 12 to 3 3=0 -3");
@@ -211,7 +220,7 @@ TEST_F(PlayTest, ARetreatStopsAtTheFirstFieldWithFreedom) {
     EXPECT_EQ(play.Retries, 2);
 }
 
-TEST_F(PlayTest, WithoutACursorNothingHappens) {
+TEST_F(PlayTest, WithoutACursorNothingChanges) {
     Trace({3});
     TELLS(play.SetValue(5), "");
     TELLS(play.GoBackToFreedom(AutoValue), "Beep");
@@ -237,13 +246,14 @@ TEST_F(PlayTest, AnEntryKeepsItsFieldWhenAClickMovesTheCursor) {
 
 TEST_F(PlayTest, TheFillGoesWhereAClickHasMovedTheCursor) {
     grid.SetIndex(80);
-    grid.Status();                        // counted now: then only the move pumps
-    AtPump(3, [&] { grid.SetIndex(9); }); // after "to 1"
+    // Counted now: then only the move pumps. The third pump is after "to 1".
+    grid.Status();
+    AtPump(3, [&] { grid.SetIndex(9); });
     TELLS(play.GotoNextFreeField(AutoValue), "from 80 to 1 from 1 to 9 9=1");
 }
 
-// Field 2 leads to a dead end, and the retreat raises field 28.
-TEST_F(PlayTest, ASolveGoesOnWhereTheFewestValuesAreFree) {
+// Field 32 is dead because 28 holds 3: the retreat raises that. Each change cancels its solve.
+TEST_F(PlayTest, ASolveRetreatsToALargerValueAndGoesOn) {
     Fill("4..815.29 92734685. .58.9..64 3152.9648 .92...517 846571293 6394..1.2 271963485 "
          "584127936");
     grid.SetIndex(28);
@@ -255,7 +265,7 @@ TEST_F(PlayTest, ASolveGoesOnWhereTheFewestValuesAreFree) {
 }
 
 // Field 46 has no larger value than its 8. It goes back once more, where the history ends.
-TEST_F(PlayTest, ADeadEndThatTheRetreatDoesNotResolveEndsTheSolve) {
+TEST_F(PlayTest, ADeadEndThatStaysEndsTheSolve) {
     Fill("58961.23. 723.956.. .6123789. .4278..6. .7.56.4.3 85.92.7.. 2143..956 .37.5.1.2 "
          "..51423.8");
     grid.SetIndex(46);

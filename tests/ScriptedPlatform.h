@@ -10,7 +10,10 @@ namespace tessarin {
 class ScriptedPlatform : public NullPlatform, public Recorder {
 public:
     ScriptedPlatform() { Platform::SetCurrent(this); }
-    ~ScriptedPlatform() override { Platform::SetCurrent(nullptr); }
+    ~ScriptedPlatform() override {
+        Platform::SetCurrent(nullptr);
+        EXPECT_EQ(ExpectedError, "");
+    }
 
     std::deque<bool> EscPresses; ///< before the next cycles of a solve; none after them
     bool SaysYes = false;        ///< to all questions without an answer in Answers
@@ -34,7 +37,7 @@ public:
     }
     Message::Answer ShowMessage(const Message& box) override {
         const bool yesNo = box.ButtonSet == Message::Buttons::YesNo;
-        if (Closed) return yesNo ? Message::Answer::No : Message::Answer::Ok;
+        if (Closed) return box.Refusal();
         Tell("Box(", box.Title, "|", box.Prompt, box.QuestionIcon ? "|?" : "|-",
              yesNo ? " Yes No)" : " OK)");
         Paused();
@@ -45,10 +48,12 @@ public:
         return yes ? Message::Answer::Yes : Message::Answer::No;
     }
     void Beep() override { Tell("Beep"); }
-    void ReportError(const std::string& what) override { EXPECT_EQ(what, ExpectedError); }
+    void ReportError(const std::string& what) override {
+        EXPECT_EQ(what, std::exchange(ExpectedError, ""));
+    }
     std::string ProgramFolder() override { return Folder; }
     VersionRecord Version() override { return {"Solves", "by X", "https://x", 1, 6, 48}; }
-    DateTime Now() override { return {2022, 4, 29, 6, 49, 52}; }
+    DateTime Now() override { return {2023, 1, 2, 3, 4, 5}; }
     int GetDesktopWindow() override { return 77; }
     void LockWindowUpdate(int handle) override { Tell("Lock(", handle, ")"); }
     void ShowWindow(int handle, int command) override {

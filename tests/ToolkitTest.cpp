@@ -74,7 +74,7 @@ TEST_F(ToolkitTest, AWaitingClickIsDroppedIfItsControlCannotBeClickedByThen) {
     EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(ToolkitTest, AClickOnAnOptionDoesNotWait) {
+TEST_F(ToolkitTest, AnOptionAnswersAtOnce) {
     OptionButton option{form, "option", {}};
     option.Click = [&] { ++clicks; };
     AtGreatestDepth([&] {

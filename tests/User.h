@@ -6,9 +6,12 @@
 //     from 3      the cursor is about to leave field 3
 //     to 4        the cursor is on field 4 (0: nowhere)
 //     winner 81   an event of the game with its index; also: dead 12
+//                 (these four by GameFixture alone, for tests without a window)
 //     +3          field 3 has joined the history; -3: it has left it
-//     Beep        a call of the machine; also: Sleep(100)
-//     Box(title|text|? Yes No)  a box with its buttons; ?: with a question icon, -: with none
+//     Beep        a call of the machine; also: Sleep(100); with Qt no calls are told
+//     Box(title|text|? Yes No)  a box with its buttons (with Qt without them); ?: with a question
+//                 icon, -: with none
+//     Import File the title of a file dialog
 //     (83)        so many pumps of window events, if TellsPumps is set
 //     ! text      the step has ended with this error
 // Line breaks are told as "|", paths of files without the test's folder.

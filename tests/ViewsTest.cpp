@@ -36,6 +36,7 @@ TEST_F(ViewsTest, NeighboursAreYellowWhileTheirNumberIsShown) {
     Meanwhile([&] {
         EXPECT_EQ(Marked().size(), 21U);
         Click("btnNextFree");
+        EXPECT_EQ(grid.Index(), 1);
     });
     // Spelled like that.
     TELLS(Click("mnuViewNeighbours"), "Box(|Neigbours = 21|- OK)");
@@ -46,6 +47,7 @@ TEST_F(ViewsTest, NeighboursAreYellowWhileTheirNumberIsShown) {
 TEST_F(ViewsTest, FreedomsShowHowManyValuesAreFree) {
     Fill(".12345678 91234567. .1234567. ......... ......... ......... ......... ......... 1234567");
     grid.SetIndex(9);
+    // Locked and dead, and yet it looks normal at the end.
     At(1).SetLocked(true);
     Meanwhile([&] {
         EXPECT_EQ(Seen({1, 19}), "0:red/normal:Arial 12 1:green/red:Arial 12");
@@ -80,6 +82,7 @@ TEST_F(ViewsTest, ThePanelDescribesTheFieldPaintedLast) {
     Fill(".12345678");
     At(10).SetValue(9);
     Click(2);
+    // For Retries=1.
     TELLS(Click("btnGoBackToFreedom"), "Beep");
     At(10).SetValue(0);
     EXPECT_EQ(ReplaceAll(window.lblInfo.Caption(), "\r\n", "|"),
@@ -112,6 +115,7 @@ TEST_F(ViewsTest, ARunningViewBlocksMenusAndFieldsButNoButtons) {
         for (const char* const blocked :
              {"lblField(50)", "mnuFileQuit", "mnuEditLockAllSet", "mnuViewFreedom"})
             TELLS(Click(blocked), "");
+        EXPECT_FALSE(platform.Closed);
         EXPECT_EQ(grid.Index(), 1);
         EXPECT_EQ(grid.LockedCount(), 0);
         Click("btnNumPad(11)");
@@ -121,10 +125,13 @@ TEST_F(ViewsTest, ARunningViewBlocksMenusAndFieldsButNoButtons) {
     EXPECT_EQ(Faults(), "");
 }
 
-// The desktop, 77, is locked while the style of the window, 5, changes.
+// The desktop, 77, is locked while the style of the window, 5, changes. The entry is 0x40000; the
+// last row takes it away.
 TEST_F(ViewsTest, EachActivationSetsTheTaskbarEntry) {
-    Load("81;3;0");                             // so that the activation counts, and pumps
-    AtPump(1, [&] { window.RaiseActivate(); }); // has no effect
+    // A change, so that the activation counts, and pumps.
+    Load("81;3;0");
+    // Has no effect in there.
+    AtPump(1, [&] { window.RaiseActivate(); });
     TELLS(window.RaiseActivate(), "Lock(77) Hide(5) Style(5|0x40010) Show(5) Lock(0)");
     TELLS(ShowInTaskBar(5, false), "Lock(77) Hide(5) Style(5|0x10) Show(5) Lock(0)");
 }

@@ -11,7 +11,8 @@ TEST_F(InputTest, EachLeftClickAnswersOnce) {
     TELLS(Mouse(QTest::MouseClick, field, Qt::RightButton), "");
     Focus("btnSolve");
     Mouse(QTest::MousePress, field);
-    TELLS(Mouse(QTest::MouseRelease, "lblField(41)"), ""); // beside it
+    // Beside it.
+    TELLS(Mouse(QTest::MouseRelease, "lblField(41)"), "");
     EXPECT_EQ(Focused(), "btnSolve");
     Mouse(QTest::MousePress, field);
     TELLS(Mouse(QTest::MouseClick, field, Qt::RightButton), "");
@@ -37,6 +38,7 @@ TEST_F(InputTest, ArrowsMoveFromTheCurrentField) {
 
 TEST_F(InputTest, ACharacterClicksTheButtonWithThisCaption) {
     Key("5");
+    EXPECT_EQ(Grid(), "1;5;0");
     Key("Num+7");
     Key("Ctrl+3");
     EXPECT_EQ(Grid(), "1;7;0");
@@ -73,7 +75,7 @@ TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
     Focus("btnInfo");
     Down(1000, "Space");
     TELLS(Repeat(1600, "Space"), "info");
-    Repeat(1640, "Space");
+    TELLS(Repeat(1640, "Space"), "");
     TELLS(Up(1650, "Space"), "");
     Focus("lblField(1)");
     TELLS(Down(4000, "Right"), "field 2");
@@ -81,7 +83,7 @@ TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
 }
 
 // The release of a key is lost if a box opens or closes while it is down.
-TEST_F(InputTest, EveryPressCountsWithoutTheReleaseBeforeIt) {
+TEST_F(InputTest, EveryPressCountsWithoutARelease) {
     Focus("lblDeadEnd");
     Meanwhile([&] {
         Down(1300, "Return");
@@ -102,7 +104,7 @@ TEST_F(InputTest, AClickBesideTheGridLeavesTheKeyboardThere) {
     Click("lblDeadEnd");
     EXPECT_EQ(Focused(), "lblField(1)");
     Focus("btnNumPad(6)");
-    // Hides the key that has it.
+    // The key hides itself, and gives the keyboard back.
     Key("Space");
     EXPECT_EQ(Focused(), "lblField(1)");
 }
@@ -134,18 +136,18 @@ TEST_F(InputTest, AKeyThatIsHiddenAfterASolveDoesNotGetTheFocusLater) {
     EXPECT_EQ(Focused(), "lblField(1)");
 }
 
-TEST_F(InputTest, AClickElsewhereLeavesTheMenuBar) {
+TEST_F(InputTest, LeavingTheMenuBarGivesTheFocusBack) {
     Focus("btnNumPad(5)");
     Key("Alt");
     Click("btnInfo");
     EXPECT_EQ(Focused(), "btnNumPad(5)");
     Key("Alt");
-    // Now that key cannot have the keyboard any more.
+    // Now that key is disabled: the grid gets it.
     At(1).SetLocked(true);
     Key("Alt");
     EXPECT_EQ(Focused(), "lblField(1)");
     Key("Alt");
-    // As a solve does meanwhile.
+    // Now another field is the current one.
     grid.SetIndex(5);
     Key("Alt");
     EXPECT_EQ(Focused(), "lblField(5)");
@@ -159,10 +161,10 @@ TEST_F(InputTest, AltWithAClickIsNoTapOnAlt) {
 }
 
 TEST_F(InputTest, CommandsHaveKeys) {
-    Key("5");
+    At(1).SetValue(5);
     Key("Delete");
     EXPECT_EQ(Grid(), "");
-    Key("5");
+    At(1).SetValue(5);
     Key("Backspace");
     EXPECT_EQ(Grid(), "");
     Key("PgDown");
@@ -181,6 +183,7 @@ TEST_F(InputTest, KeysOpenTheMenus) {
     Key("Down");
     TELLS(Key("Return"), "Import File");
     Key("Alt+E");
+    // "Lock All" is the last entry, "Set" its first one.
     Key("Up");
     Key("Right");
     Key("Return");
@@ -209,12 +212,13 @@ TEST_F(InputTest, TabStopsOnceInTheGrid) {
     EXPECT_EQ(Focused(), "lblDeadEnd");
 }
 
-TEST_F(InputTest, PanelsAreDisabledDuringASolveAndTheWindowStaysOpen) {
+TEST_F(InputTest, ASolveDisablesPanelsAndKeepsTheWindow) {
     FullBut({1, 11, 21, 31});
     Meanwhile([&] {
-        for (const char* const disabled :
+        for (const char* const refused :
              {"btnInfo", "btnGoBack", "lblDeadEnd", "btnNumPad(11)", "mnuFileQuit"})
-            TELLS(Click(disabled), "");
+            TELLS(Click(refused), "");
+        EXPECT_FALSE(window.InfoVisible());
         form->close();
         EXPECT_EQ(grid.FreeCount(), 3);
         Click(5);
@@ -288,8 +292,8 @@ TEST_F(InputTest, TheRotorTurnsInThePausesOfASolveThatBeginsInATick) {
     QElapsedTimer time;
     time.start();
     window.ctlRotor1.SetRunning(true);
+    // The first tick of the rotor pumps, and the solve begins in there.
     AtPump(1, [&] { Click("btnSolve"); });
-    // In which it ticks.
     QTest::qWait(20);
     // Seven fields are painted, each with a pause; at the end no picture is left.
     EXPECT_GE(turns, 7);

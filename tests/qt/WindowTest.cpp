@@ -56,7 +56,7 @@ static std::string Entries(const QWidget& menu) {
     return entries;
 }
 
-TEST_F(WindowTest, ButtonsAndMenusAreReadInTheirPlaces) {
+TEST_F(WindowTest, ButtonsAndMenusAreInTheirPlaces) {
     EXPECT_EQ(Buttons("fraNumPad"), "1 2 3 4 5 6 7 8 9 C 0 X");
     EXPECT_EQ(Buttons("fraAction"), "> >I S < << F I");
     EXPECT_EQ(Buttons("fraChill"), "0 Quiet 100 Step 200 400 800");
@@ -98,10 +98,12 @@ TEST_F(WindowTest, OnlyFilesThatExistAreOpened) {
     EXPECT_EQ(Grid(), "1;5;1");
 }
 
-TEST_F(WindowTest, OnlyNewFilesInFoldersThatExistAreSaved) {
+TEST_F(WindowTest, ASavedFileGetsAnExtensionAndNeedsAFolder) {
     At(1).SetValue(5);
     Write("plain", "mine");
-    for (const char* const name : {"no folder/new.csv", "new", "plain"})
+    TELLS(Click("mnuFileExportCSV", folder + "no/new.csv"),
+          "Export File Box(Export File|no\nThis folder does not exist.|-) Export File");
+    for (const char* const name : {"new", "plain"})
         Click("mnuFileExportCSV", folder + name);
     EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|1;5;0");
     EXPECT_EQ(Read("plain"), "mine");
@@ -129,7 +131,7 @@ TEST_F(WindowTest, ABoxLiesBesideTheGrid) {
     Click("mnuViewNeighbours");
 }
 
-TEST_F(WindowTest, ADialogOpensInTheFolderOfTheFileBeforeAndLeavesNoSettings) {
+TEST_F(WindowTest, ADialogOpensWhereTheFileIsAndLeavesNoSettings) {
     Import("1;5;1");
     Meanwhile([&] {
         const auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
@@ -159,10 +161,9 @@ TEST_F(WindowTest, AKeyMayBeHeldInADialogAndAFolderIsEntered) {
     Click("mnuFileExportCSV");
 }
 
-TEST_F(WindowTest, TheWindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
+TEST_F(WindowTest, TheWindowHasTheSizeOfItsColumns) {
     const QSize narrow = form->frameSize();
-    // Twips, 15 to a pixel. The size with the frame is fixed: a thin frame leaves an empty strip
-    // beside the columns.
+    // Twips, 15 to a pixel. First grid, number pad and margins, then the side column with its gap.
     EXPECT_NEAR(narrow.width(), 8850 / 15, 2);
     EXPECT_EQ(narrow.height(), 7170 / 15);
     Click("btnInfo");
@@ -171,7 +172,7 @@ TEST_F(WindowTest, TheWindowIsAsWideAsItsColumnsAndItsBorderIsFixed) {
     EXPECT_EQ(Widget("lblField(81)").geometry(), QRect(360, 368, 40, 40));
 }
 
-TEST_F(WindowTest, AReturnFromAnotherWindowRepaintsButNotOneFromAnOwnBox) {
+TEST_F(WindowTest, AReturnRepaintsUnlessFromAnOwnBox) {
     Meanwhile([&] { Load("81;3;0"); });
     Click("lblDeadEnd");
     EXPECT_EQ(Seen({81}), ".");
@@ -241,7 +242,7 @@ TEST_F(WindowTest, EachMoveOfASolveIsSeenBeforeTheNext) {
     const auto values = game.Events.StatusChanged.Connect(look);
     TELLS(Click("btnSolve"), "+1 +11 +21 +31 +41 +51");
     EXPECT_TRUE(eye.Painted.contains(changed));
-    // Nothing changes now.
+    // What looks the same is not painted again.
     eye.Painted.clear();
     window.RefreshAll();
     platform.PumpEvents(Pump::Now);
@@ -269,17 +270,18 @@ TEST_F(WindowTest, ASleepOnlyPaints) {
 
 TEST_F(WindowTest, AllLinesOfTheInformationAreWholeInAHighFont) {
     window.lblInfo.SetFont({.Size = 8.25F});
+    // Ten texts; the free values need two lines.
     EXPECT_EQ(Lines(Picture("lblInfo")), 11);
 }
 
-TEST_F(WindowTest, APathThatTheWindowDoesNotShowWholeIsShortenedAndHasATip) {
+TEST_F(WindowTest, APathThatIsTooLongIsShortenedAndHasATip) {
     QWidget& label = Widget("lblFile");
     const auto tip = [&] {
         QHelpEvent help(QEvent::ToolTip, {5, 5}, label.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&label, &help);
         return QToolTip::text().toStdString();
     };
-    // The frame may be so thick that the client ends before the label.
+    // Narrower, as with a thick frame: the client ends before the label.
     window.SetWidth(window.Width() - 300);
     const int seen = label.parentWidget()->width() - label.x();
     QString path = "/";
@@ -312,6 +314,7 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     Load("1;5;0");
     QTimer::singleShot(1, form, [this] { Click(GetParam()); });
     QApplication::exec();
+    // The view alone would sleep for 1000.
     EXPECT_LT(sinceClose.elapsed(), 900);
     // The question was not answered.
     EXPECT_EQ(Grid(), "1;5;0");
