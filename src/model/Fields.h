@@ -43,12 +43,13 @@ public:
     };
 
     /// SetIndex and FieldChanged pump window events after each event that they raise.
+    /// "Before" is the count before, however many silent changes lie between.
     struct GridEvents {
         Event<int> BeforeIndexChanged; ///< index of the field that the cursor is about to leave
         Event<int> IndexChanged;       ///< the new cursor index, 0 when there is no cursor now
         Event<int> StatusChanged;      ///< the changed field; for a lock the cursor's index
-        Event<int> IsWinner;           ///< as StatusChanged; 0: this change has ended a full grid
-        Event<int> IsDeadEnd;          ///< the lowest dead field; 0: this change has ended it
+        Event<int> IsWinner;           ///< as StatusChanged; 0: full before, but no longer
+        Event<int> IsDeadEnd;          ///< the lowest dead field; 0: dead before, but no longer
         Event<> Init;                  ///< the grid has new fields, which have no groups yet
     };
 
