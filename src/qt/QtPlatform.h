@@ -65,8 +65,8 @@ private:
     std::function<QRect()> mArea;
     bool mbClosed = false;
     bool mbTicksHeld = false;
-    QElapsedTimer
-        mSincePump; // since the last pump that was made began; invalid if the next one must be
+    // Since the beginning of the last pump that was made; invalid if the next one must be made.
+    QElapsedTimer mSincePump;
     unsigned mlPumpsAsked = 0;
     bool mbHourglass = false; // the pointer that SetMousePointer has asked for
     int mlOpenDialogs = 0;
