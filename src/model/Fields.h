@@ -42,8 +42,8 @@ public:
         bool IsDeadEnd() const { return DeadField > 0; }
     };
 
-    /// SetIndex and FieldChanged pump window events after each event that they raise. "Before" means
-    /// at the count before, however many silent changes lie between.
+    /// SetIndex and FieldChanged pump window events after each event that they raise. "Before"
+    /// means at the count before, however many silent changes lie between.
     struct GridEvents {
         Event<int> BeforeIndexChanged; ///< index of the field that the cursor is about to leave
         Event<int> IndexChanged;       ///< the new cursor index, 0 when there is no cursor now
