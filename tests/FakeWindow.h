@@ -13,13 +13,22 @@ class FakeToolkit : public Toolkit {
 public:
     explicit FakeToolkit(ScriptedPlatform& platform) : mPlatform(platform) {}
 
-    void Click(const std::string& name) { mControls.at(name).first->RaiseClick(); }
+    const Control* Current = nullptr; ///< the label that was made the current one last
+
+    Control& Named(const std::string& name) { return *mControls.at(name).first; }
+    void Click(const std::string& name) { Named(name).RaiseClick(); }
+    /// The interval of the rotor's timer has passed.
+    void Tick() {
+        auto& timer = dynamic_cast<Timer&>(Named("Timer1"));
+        if (timer.Enabled()) timer.RaiseTick();
+    }
     /// The names of all controls that can be clicked: one field and one digit stand for all.
     std::vector<std::string> Commands() const {
         std::vector<std::string> names{"lblField(50)", "btnNumPad(5)"};
         const std::regex alike("lblField.*|btnNumPad.[0-9].");
         for (const auto& [name, control] : mControls)
-            if (*control.second && !std::regex_match(name, alike)) names.push_back(name);
+            if (control.second && *control.second && !std::regex_match(name, alike))
+                names.push_back(name);
         return names;
     }
 
@@ -28,7 +37,10 @@ public:
     }
     std::unique_ptr<ControlPeer> Create(CommandButton& button) override { return Add(button); }
     std::unique_ptr<ControlPeer> Create(Frame& frame) override { return Add(frame); }
-    std::unique_ptr<LabelPeer> Create(Label& label) override { return Add<QuietLabel>(label); }
+    std::unique_ptr<LabelPeer> Create(Label& label) override {
+        Add(label);
+        return std::make_unique<QuietLabel>(*this, label);
+    }
     std::unique_ptr<ControlPeer> Create(MenuItem& item) override { return Add(item); }
     std::unique_ptr<OptionPeer> Create(OptionButton& option) override {
         return Add<QuietOption>(option);
@@ -48,7 +60,10 @@ private:
         void Changed(Property /*property*/) override {}
     };
     struct QuietLabel : Quiet<LabelPeer> {
-        void MakeCurrent() override {}
+        QuietLabel(FakeToolkit& kit, Label& label) : mKit(kit), mLabel(label) {}
+        void MakeCurrent() override { mKit.Current = &mLabel; }
+        FakeToolkit& mKit;
+        Label& mLabel;
     };
     struct QuietOption : Quiet<OptionPeer> {
         void Select() override {}
@@ -63,8 +78,9 @@ private:
 
     template <class Peer = Quiet<ControlPeer>, class KindOfControl>
     std::unique_ptr<Peer> Add(KindOfControl& control) {
-        if constexpr (requires { control.Click; })
-            mControls[control.Name()] = {&control, &control.Click};
+        std::function<void()>* click = nullptr;
+        if constexpr (requires { control.Click; }) click = &control.Click;
+        mControls[control.Name()] = {&control, click};
         return std::make_unique<Peer>();
     }
 

@@ -34,7 +34,6 @@ TEST_F(ToolkitTest, AClosedFormTakesNoClicks) {
     bool refuse = true;
     form.Unload = [&](bool& cancel) {
         cancel = refuse;
-        platform.ExpectedError = "failed";
         throw std::runtime_error("failed");
     };
     EXPECT_FALSE(form.RaiseUnload());

@@ -19,8 +19,8 @@ static std::string WithLineBreaks(const std::string& text) {
 }
 
 void Recorder::TellText(const std::string& text) {
-    if (Player == nullptr) return;
-    const UniqueNumbers history = Player->History.value_or(UniqueNumbers());
+    const UniqueNumbers history =
+        Player == nullptr ? UniqueNumbers() : Player->History.value_or(UniqueNumbers());
     std::ostringstream told;
     const auto tellMissing = [&](const auto& from, const auto& in, char sign) {
         for (const int index : from)
@@ -36,6 +36,7 @@ void Recorder::TellText(const std::string& text) {
 }
 
 void Recorder::Pumped() {
+    EachPump();
     if (++mPumps == mPumpOfAction && mAtPump) std::exchange(mAtPump, nullptr)();
 }
 

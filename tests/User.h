@@ -13,7 +13,7 @@
 //                 icon, -: with none
 //     Import File the title of a file dialog
 //     (83)        so many pumps of window events, if TellsPumps is set
-//     ! text      the step has ended with this error
+//     ! text      the step, or a handler of the window, has ended with this error
 // Line breaks are told as "|", paths of files without the test's folder.
 #pragma once
 
@@ -51,7 +51,8 @@ public:
     std::string Record;              ///< what has been told, each item with a blank behind it
     std::deque<std::string> Answers; ///< to the next boxes: a button; to the next dialogs: a path
     bool TellsPumps = false;
-    const Play* Player = nullptr; ///< whose history is told; without one nothing is
+    const Play* Player = nullptr; ///< whose history is told
+    std::function<void()> EachPump = [] {};
 
     /// Records a changed history, the pumps since the last call, and the text of all parts.
     void Tell(const auto&... parts) {

@@ -7,9 +7,10 @@
 
 namespace tessarin {
 
-static std::string NameOf(Color color) {
+std::string NameOf(Color color) {
     static const std::map<Color, std::string> names{{WindowBackground, "normal"},
                                                     {ButtonText, "text"},
+                                                    {ButtonFace, "face"},
                                                     {Red, "red"},
                                                     {Green, "green"},
                                                     {Yellow, "yellow"}};

@@ -5,6 +5,8 @@
 
 namespace tessarin {
 
+std::string NameOf(Color color);
+
 /// What has to exist before the user.
 template <class PlatformType, class ToolkitType>
 struct WindowParts {

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Script.h"
+
+namespace tessarin {
+
+constexpr bool WithWindow = true;
+
+/// Gives the commands to the program and to its model. If they do not do the same, returns the rows
+/// that show it, as code for a test, and the first line of what is told that differs; otherwise "".
+/// Told are events, pumps, calls of the machine, results and errors in their order; after each
+/// command values, locks, cursor, history and dead fields; with a window all that is seen and heard.
+///
+///     value 5 7, lock 5 1, next 5 1    field 5 gets a value, a lock, its next free value
+///     free 5                           its free values, groups and neighbours
+///     csv LINES, sdk ROWS, texts       loads the grid, writes it; lines are separated by "|"
+///     init 5, index 5, count, clear 1 (those that are not locked), lockall 1
+///     group 5 9, regroup 5, widen 9    a group of field 9 for field 5; once more; with field 9
+///     goto 1, back 1, freedom 1        the player, with AutoValue
+///     enter 7 1, playnext 1, playlock, solve, reset, trace 1
+///     importcsv LINES, importsdk ROWS  from a file
+///     esc                              ESC is pressed
+///     refuse, choose LINES             the next box is answered No, the next dialog by a file
+///     click CONTROL, activate, close, tick
+///     throw                            the handler of an event or pump fails
+std::string Disagreement(const Script& script, bool withWindow);
+
+/// The commands that need a window.
+std::vector<std::string> WindowCommands();
+
+} // namespace tessarin
