@@ -98,13 +98,15 @@ output * mode 1000x700
 output * bg #$background solid_color
 END_OF_FILE
     local user=()
+    cp "$XAUTHORITY" "$scratch/sway/cookie"
     if ((EUID == 0)); then
         user=(setpriv --reuid=65534 --regid=65534 --clear-groups)
-        chmod 755 "$scratch"
-        chown 65534 "$scratch/sway"
+        chmod 711 "$scratch"
+        chown --recursive 65534 "$scratch/sway"
     fi
     export SWAYSOCK=$scratch/sway/commands
-    start_process env XDG_RUNTIME_DIR="$scratch/sway" WLR_BACKENDS=x11 WLR_RENDERER=pixman \
+    start_process env XDG_RUNTIME_DIR="$scratch/sway" XAUTHORITY="$scratch/sway/cookie" \
+        WLR_BACKENDS=x11 WLR_RENDERER=pixman \
         "${user[@]}" sway --config "$scratch/sway.conf" 2>"$scratch/sway.err"
 }
 
