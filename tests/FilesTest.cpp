@@ -108,8 +108,10 @@ TEST_F(FilesTest, FilesKeepEveryByteAndAreReadWhole) {
     const std::string bytes = BomUtf8() + "a\r\nb\n\xFF\r" + std::string(200'000, '\0');
     EXPECT_EQ(WriteTextFile(folder + "all", bytes, "utf-8", Replace), "");
     EXPECT_EQ(ReadTextFile(folder + "all"), bytes);
-    // A device is not read, because it may never end. A full one is an error.
+    // A device is not read, because it may never end; a film that is chosen by mistake neither.
     EXPECT_EQ(ReadTextFile("/dev/zero"), "");
+    EXPECT_EQ(ReadTextFile(Write("film", std::string(17'000'000, 'x'))), "");
+    // A full device is an error.
     EXPECT_NE(WriteTextFile("/dev/full", "x", "", Replace), "");
 }
 

@@ -1,14 +1,13 @@
 // Reads and writes whole text files. A byte is a character; line ends and byte-order marks stay as
-// they are. No function shows anything, leaves a file open, or throws because of a
-// file.
+// they are. No function shows anything, leaves a file open, or throws because of a file.
 #pragma once
 
 #include <string>
 
 namespace tessarin {
 
-/// The whole content of the file, or "" when it is missing, empty, unreadable or not an ordinary
-/// file (a folder, a device, a pipe).
+/// The whole content of the file, or "" when it is missing, empty, unreadable, larger than 16 MB or
+/// not an ordinary file (a folder, a device, a pipe).
 std::string ReadTextFile(const std::string& FileName);
 
 /// Writes `text` to a new file; with `replaceExisting` also over an existing one. The character set
