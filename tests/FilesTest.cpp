@@ -3,6 +3,9 @@
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace tessarin {
 
 // An argument of WriteTextFile.
@@ -72,6 +75,20 @@ TEST_F(FilesTest, AnExportNeverReplacesAFile) {
     EXPECT_EQ(Read("mine"), "my text");
     // Nor does it report that it cannot write.
     TELLS(game.FileExportCSV(folder + "no folder/grid"), "");
+}
+
+TEST_F(FilesTest, AnExportThatFoundNoRoomCanBeRepeated) {
+    At(1).SetValue(5);
+    // Every write is an error, as on a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit room{};
+    getrlimit(RLIMIT_FSIZE, &room);
+    const rlimit none{0, room.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &none);
+    game.FileExportCSV(folder + "grid");
+    setrlimit(RLIMIT_FSIZE, &room);
+    game.FileExportCSV(folder + "grid");
+    EXPECT_EQ(Read("grid"), "Index;Value;Locked|1;5;0");
 }
 
 TEST_F(FilesTest, AnExportWithoutNameLiesBesideTheProgram) {

@@ -27,7 +27,10 @@ int Write(const std::string& FileName, const std::string& bytes, bool replaceExi
     const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
     const int writeError = isWritten ? 0 : errno;
     const int closeError = std::fclose(file) == 0 ? 0 : errno;
-    return isWritten ? closeError : writeError;
+    const int error = isWritten ? closeError : writeError;
+    // The file is new. Left behind, it would refuse the next export to its name.
+    if (error != 0 && !replaceExisting) std::remove(FileName.c_str());
+    return error;
 }
 
 constexpr std::uintmax_t LargestSize = 16 * 1024 * 1024;

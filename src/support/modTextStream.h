@@ -12,9 +12,10 @@ std::string ReadTextFile(const std::string& FileName);
 
 /// Writes `text` to a new file; with `replaceExisting` also over an existing one. The character set
 /// "unicode" writes each character as two bytes, the low one first; any other set writes the text
-/// unchanged. Returns "" or, on failure, "File=" + name + ", Err=" + the system's description. An
-/// existing file that is not to be replaced stays untouched; after a write error the file may be
-/// empty or incomplete.
+/// unchanged. Returns "" or, on failure, "File=" + name + ", Err=" + the system's description.
+/// Without `replaceExisting` a failure leaves nothing behind: an existing file stays untouched, and
+/// a new one that cannot be filled is removed again. With it the file may then be empty or
+/// incomplete.
 std::string WriteTextFile(const std::string& FileName, const std::string& text,
                           const std::string& charset, bool replaceExisting);
 
