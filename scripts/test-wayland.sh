@@ -203,7 +203,7 @@ work() {
     wait "$compositor" || true
 }
 
-(($# > 1)) || set -- "${1:-release}" weston sway
+(($# > 1)) || set -- "${1:-test}" weston sway
 folder=$1
 need "${wayland_packages[@]}"
 start_display ${screen_width}x800
