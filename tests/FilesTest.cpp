@@ -113,7 +113,7 @@ TEST_F(FilesTest, OnlyAWholeImportOfCSVResetsThePlayer) {
 
 TEST_F(FilesTest, TheFirstBytesTellTheCharset) {
     const std::pair<std::string, const char*> texts[] = {
-        {BomUnicode(), "unicode"}, {BomUtf8(), "utf-8"}, {"text", "x-ansi"}, {"", ""}};
+        {"\xFF\xFE", "unicode"}, {"\xEF\xBB\xBF", "utf-8"}, {"text", "x-ansi"}, {"", ""}};
     for (const auto& [text, charset] : texts)
         EXPECT_EQ(DetectCharset(Write("text", text)), charset);
     // Two bytes for each character, without a mark.
