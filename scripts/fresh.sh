@@ -14,7 +14,6 @@ need "${fresh_packages[@]}"
 
 scratch=$(mktemp -d "${TMPDIR:-/tmp}/tessarin.XXXXXX")
 system=$scratch/system
-title='Velmora Sudoku Solver'
 running=
 clean_up() {
     [[ -z $running ]] || { kill -KILL "$running" && wait "$running"; } 2>/dev/null || true

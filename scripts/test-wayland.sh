@@ -17,7 +17,6 @@ highlight=308cc6 # of a menu title or entry
 # Places in the window, from the upper left corner of the first field.
 key_5=(456 66)
 winner=(520 348)
-pace_400=(590 328)
 first_entry=(78 -17) # of the first menu
 side_column=(734 100) # its right border
 
@@ -183,8 +182,7 @@ work() {
     sleep 1
     xdotool type --delay 30 "$PWD/puzzles/nearly-complete.csv"
     press_return
-    press i
-    click "${pace_400[@]}"
+    press i shift+Tab Down Down Down # a pace with a pause
     click 100 -20 # so that the pointer rests on no control
     press s
     sees $white "${winner[@]}" || fail 'the solve did not pause'
