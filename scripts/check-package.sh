@@ -115,8 +115,8 @@ for package in "$deb" build/package/tessarin_*.tar.xz; do
 done
 
 echo 'Installed without a package, by a user with another umask'
-(umask 077 && cmake --install "$scratch/again/tessarin-$version"/obj-* --prefix "$scratch/installed") \
-    >/dev/null
+(umask 077 && cmake --install "$scratch/again/tessarin-$version"/obj-* \
+    --prefix "$scratch/installed" >/dev/null)
 hidden=$(find "$scratch/installed" ! -perm -444)
 [[ -z $hidden ]] || fail "not everybody can read: $hidden"
 dpkg-deb --info "$deb"

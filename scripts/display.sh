@@ -22,9 +22,10 @@ trap end_started EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM HUP
 
-# make_cookie: makes the file without which nobody gets onto the display, no other user of the machine
-# either. It has one entry in the format of xauth, which serves for every host and display, since the
-# number of the display is not known yet: address family 65535, empty address and number, name, cookie.
+# make_cookie: makes the file without which nobody gets onto the display, no other user of the
+# machine either. It has one entry in the format of xauth, which serves for every host and display,
+# since the number of the display is not known yet: address family 65535, empty address, empty
+# number, name, cookie.
 make_cookie() {
     export XAUTHORITY=$scratch/cookie
     (

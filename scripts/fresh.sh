@@ -63,7 +63,7 @@ window_open() {
     [[ $DISPLAY ]] && xdotool search --onlyvisible --name "^$title\$" >/dev/null 2>&1
 }
 
-# Others are refused: the display wants its cookie, and of all ways in VNC offers the password alone.
+# Others are refused: the display wants its cookie, and VNC offers nothing but the password.
 others_stay_out() {
     local port vnc
     ! XAUTHORITY=/dev/null xdotool getmouselocation >/dev/null 2>&1 ||

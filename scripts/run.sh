@@ -1,6 +1,6 @@
 #!/bin/bash
 # Builds the program and opens its window. Without a display the window opens on a virtual one, which
-# a VNC viewer can show, with a password made anew each time; closing the window ends everything.
+# a VNC viewer can show with a password of this start; closing the window ends everything.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"
@@ -29,7 +29,7 @@ echo "There is no display here (neither DISPLAY nor WAYLAND_DISPLAY is set): sta
 source scripts/display.sh
 need x11vnc
 start_display 1024x640
-# VNC takes 8 characters. They are in a file, because everybody can read the arguments of a process.
+# VNC takes 8 characters. They are in a file, since everybody can read the arguments of a process.
 password=$(head -c 5 /dev/urandom | base32 | tr '[:upper:]' '[:lower:]')
 (umask 077 && echo "$password" >"$scratch/password")
 start_process x11vnc -norc -display "$DISPLAY" -localhost -noipv6 -no6 -autoport 5900 \
