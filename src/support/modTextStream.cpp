@@ -33,7 +33,7 @@ int Write(const std::string& FileName, const std::string& bytes, bool replaceExi
     return error;
 }
 
-constexpr std::uintmax_t LargestSize = 16 * 1024 * 1024;
+constexpr std::uintmax_t LargestSize = std::uintmax_t{16} * 1024 * 1024;
 
 // The first `count` bytes of the file, fewer if it is shorter. Opens nothing that could block for
 // ever or never end: no pipe or device, and no file of /proc, whose size is 0.
