@@ -8,6 +8,7 @@
 #include "qt/QtPlatform.h"
 #include "qt/QtToolkit.h"
 #include "ui/Colors.h"
+#include "ui/Paces.h"
 #include "ui/frmTessarin.h"
 
 #include <benchmark/benchmark.h>
@@ -265,8 +266,8 @@ public:
         for (int k = 0; k < 2; ++k)
             Add<QLabel>(pad, "", "Arial", 19, 10 + 100 * k, 320);
         auto& side = Add<QGroupBox>(*this, "Chillout", "", 10, 590, 28, 169, 420);
-        for (const char* const caption : {"0", "100", "200", "400", "800", "Quiet", "Step"})
-            Add<QRadioButton>(side, caption, "", 10, 10, 20);
+        for (const Pace& pace : Paces)
+            Add<QRadioButton>(side, pace.Caption, "", 10, 10, 20);
         Add<QLabel>(side, "Index=81", "", 10, 10, 200, 100, 200);
     }
 

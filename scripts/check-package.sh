@@ -31,7 +31,6 @@ echo 'Version and names'
 changelog() { dpkg-parsechangelog --show-field "$1"; }
 field() { dpkg-deb --field "$deb" "$1"; }
 [[ $(changelog Version) == "$version"-* ]] || fail "the changelog is not of version $version"
-contains CMakeLists.txt "DESCRIPTION \"$(field Description | head -n 1)\""
 contains CMakeLists.txt "HOMEPAGE_URL \"$(field Homepage)\""
 contains CMakeLists.txt "set(TESSARIN_VENDOR $(changelog Maintainer | sed 's/ <.*//'))"
 
@@ -114,4 +113,10 @@ dsc=$(realpath build/package/tessarin_*.dsc)
 for package in "$deb" build/package/tessarin_*.tar.xz; do
     cmp "$package" "$scratch/again/${package##*/}"
 done
+
+echo 'Installed without a package, by a user with another umask'
+(umask 077 && cmake --install "$scratch/again/tessarin-$version"/obj-* \
+    --prefix "$scratch/installed" >/dev/null)
+hidden=$(find "$scratch/installed" ! -perm -444)
+[[ -z $hidden ]] || fail "not everybody can read: $hidden"
 dpkg-deb --info "$deb"

@@ -22,11 +22,25 @@ trap end_started EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM HUP
 
+# make_cookie: makes the file without which nobody gets onto the display, no other user of the
+# machine either. It has one entry in the format of xauth, which serves for every host and display,
+# since the number of the display is not known yet: address family 65535, empty address, empty
+# number, name, cookie.
+make_cookie() {
+    export XAUTHORITY=$scratch/cookie
+    (
+        umask 077
+        printf '\xff\xff\0\0\0\0\0\x12MIT-MAGIC-COOKIE-1\0\x10' >"$XAUTHORITY"
+        head -c 16 /dev/urandom >>"$XAUTHORITY"
+    )
+}
+
 # start_display <width>x<height>: starts an X server on a free number and a small window manager.
 start_display() {
     # shellcheck disable=SC2154 # lib.sh has been sourced before
     need "${display_packages[@]}"
-    start_process Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp \
+    make_cookie
+    start_process Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -auth "$XAUTHORITY" \
         3>"$scratch/number" 2>"$scratch/Xvfb.log"
     wait_until 20 "virtual display" test -s "$scratch/number"
     DISPLAY=:$(<"$scratch/number")

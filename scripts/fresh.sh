@@ -14,7 +14,6 @@ need "${fresh_packages[@]}"
 
 scratch=$(mktemp -d "${TMPDIR:-/tmp}/tessarin.XXXXXX")
 system=$scratch/system
-title='Velmora Sudoku Solver'
 running=
 clean_up() {
     [[ -z $running ]] || { kill -KILL "$running" && wait "$running"; } 2>/dev/null || true
@@ -59,14 +58,30 @@ window_closed() { ! kill -0 "$running" 2>/dev/null; }
 window_open() {
     ! window_closed || fail "scripts/run.sh ended without a window: $(tail -n 50 "$scratch/log")"
     DISPLAY=$(sed -n 's/.* on the virtual display \(:[0-9]*\)\..*/\1/p' "$scratch/log")
-    export DISPLAY
+    XAUTHORITY=$(echo "$system"/tmp/tessarin.*/cookie)
+    export DISPLAY XAUTHORITY
     [[ $DISPLAY ]] && xdotool search --onlyvisible --name "^$title\$" >/dev/null 2>&1
+}
+
+# Others are refused: the display wants its cookie, and VNC offers nothing but the password.
+others_stay_out() {
+    local port vnc
+    ! XAUTHORITY=/dev/null xdotool getmouselocation >/dev/null 2>&1 ||
+        fail "the display $DISPLAY lets everybody in"
+    port=$(sed -n 's/^ *localhost:\([0-9]*\)$/\1/p' "$scratch/log")
+    exec {vnc}<>"/dev/tcp/127.0.0.1/$port"
+    head -c 12 <&"$vnc" >/dev/null # the server's version
+    printf 'RFB 003.008\n' >&"$vnc"
+    # Their number, then each; 2 is a password.
+    [[ $(head -c 2 <&"$vnc" | od -An -tx1) == ' 01 02' ]] || fail "port $port lets everybody in"
+    exec {vnc}>&-
 }
 
 # try_both_commands <name>
 try_both_commands() {
     start_as_user scripts/run.sh
     wait_until 1800 window window_open
+    others_stay_out
     sleep 2 # until it is painted
     import -window root "build/fresh/$release.png"
     wmctrl -c "$title"

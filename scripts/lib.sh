@@ -1,11 +1,12 @@
 # shellcheck shell=bash
-# shellcheck disable=SC2034 # the scripts that source this use the version and the lists of packages
+# shellcheck disable=SC2034 # the scripts that source this use what is set here
 
 # Shared by the scripts. Sourcing it changes to the project's folder.
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 
 version=$(sed -n 's/^project(Tessarin VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
+title=$(sed -n 's/.*{\.Caption = "\(.*\)",$/\1/p' src/ui/frmTessarin.cpp) # of the window
 
 build_packages=(g++ cmake ninja-build)
 window_packages=(qt6-base-dev)

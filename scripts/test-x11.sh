@@ -8,7 +8,7 @@ source "$(dirname "$0")/lib.sh"
 # shellcheck source=scripts/display.sh
 source scripts/display.sh
 
-folder=${1:-release}
+folder=${1:-test}
 start_display 1280x1024
 test_platform=xcb
 run_tests "$folder" -L qt "${@:2}"

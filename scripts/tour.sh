@@ -6,7 +6,6 @@ source "$(dirname "$0")/lib.sh"
 # shellcheck source=scripts/display.sh
 source scripts/display.sh
 
-title='Velmora Sudoku Solver'
 menu_height=20 # the controls begin below the menu bar
 red=FF0000
 green=00FF00

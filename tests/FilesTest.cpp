@@ -3,6 +3,9 @@
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace tessarin {
 
 // An argument of WriteTextFile.
@@ -74,6 +77,20 @@ TEST_F(FilesTest, AnExportNeverReplacesAFile) {
     TELLS(game.FileExportCSV(folder + "no folder/grid"), "");
 }
 
+TEST_F(FilesTest, AnExportThatFoundNoRoomCanBeRepeated) {
+    At(1).SetValue(5);
+    // Every write is an error, as on a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit room{};
+    getrlimit(RLIMIT_FSIZE, &room);
+    const rlimit none{0, room.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &none);
+    game.FileExportCSV(folder + "grid");
+    setrlimit(RLIMIT_FSIZE, &room);
+    game.FileExportCSV(folder + "grid");
+    EXPECT_EQ(Read("grid"), "Index;Value;Locked|1;5;0");
+}
+
 TEST_F(FilesTest, AnExportWithoutNameLiesBesideTheProgram) {
     At(1).SetValue(5);
     game.FileExportCSV();
@@ -96,7 +113,7 @@ TEST_F(FilesTest, OnlyAWholeImportOfCSVResetsThePlayer) {
 
 TEST_F(FilesTest, TheFirstBytesTellTheCharset) {
     const std::pair<std::string, const char*> texts[] = {
-        {BomUnicode(), "unicode"}, {BomUtf8(), "utf-8"}, {"text", "x-ansi"}, {"", ""}};
+        {"\xFF\xFE", "unicode"}, {"\xEF\xBB\xBF", "utf-8"}, {"text", "x-ansi"}, {"", ""}};
     for (const auto& [text, charset] : texts)
         EXPECT_EQ(DetectCharset(Write("text", text)), charset);
     // Two bytes for each character, without a mark.
@@ -108,8 +125,10 @@ TEST_F(FilesTest, FilesKeepEveryByteAndAreReadWhole) {
     const std::string bytes = BomUtf8() + "a\r\nb\n\xFF\r" + std::string(200'000, '\0');
     EXPECT_EQ(WriteTextFile(folder + "all", bytes, "utf-8", Replace), "");
     EXPECT_EQ(ReadTextFile(folder + "all"), bytes);
-    // A device is not read, because it may never end. A full one is an error.
+    // A device is not read, because it may never end; a film that is chosen by mistake neither.
     EXPECT_EQ(ReadTextFile("/dev/zero"), "");
+    EXPECT_EQ(ReadTextFile(Write("film", std::string(17'000'000, 'x'))), "");
+    // A full device is an error.
     EXPECT_NE(WriteTextFile("/dev/full", "x", "", Replace), "");
 }
 

@@ -1,11 +1,11 @@
 #include "support/modTextStream.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <system_error>
 
 namespace tessarin {
@@ -27,26 +27,33 @@ int Write(const std::string& FileName, const std::string& bytes, bool replaceExi
     const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
     const int writeError = isWritten ? 0 : errno;
     const int closeError = std::fclose(file) == 0 ? 0 : errno;
-    return isWritten ? closeError : writeError;
+    const int error = isWritten ? closeError : writeError;
+    // The file is new. Left behind, it would refuse the next export to its name.
+    if (error != 0 && !replaceExisting) std::remove(FileName.c_str());
+    return error;
 }
 
-// Opens a regular file alone: a pipe or device could block for ever or never end.
-std::ifstream Open(const std::string& FileName) {
-    std::ifstream file;
+constexpr std::uintmax_t LargestSize = std::uintmax_t{16} * 1024 * 1024;
+
+// The first `count` bytes of the file, fewer if it is shorter. Opens nothing that could block for
+// ever or never end: no pipe or device, and no file of /proc, whose size is 0.
+std::string Read(const std::string& FileName, std::uintmax_t count) {
     std::error_code error;
-    if (std::filesystem::is_regular_file(FileName, error)) file.open(FileName, std::ios::binary);
-    return file;
+    if (!std::filesystem::is_regular_file(FileName, error)) return "";
+    const std::uintmax_t size = std::filesystem::file_size(FileName, error);
+    if (error || size == 0 || size > LargestSize) return "";
+    std::string bytes(std::min(count, size), '\0');
+    std::ifstream file(FileName, std::ios::binary);
+    file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    if (file.bad()) return "";
+    return bytes;
 }
 
 } // namespace
 
 std::string ReadTextFile(const std::string& FileName) {
-    try {
-        std::ifstream file = Open(FileName);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    } catch (const std::exception&) { // a read error, or more than fits into the memory
-        return "";
-    }
+    return Read(FileName, LargestSize);
 }
 
 std::string WriteTextFile(const std::string& FileName, const std::string& text,
@@ -58,10 +65,7 @@ std::string WriteTextFile(const std::string& FileName, const std::string& text,
 }
 
 std::string DetectCharset(const std::string& FileName) {
-    std::ifstream file = Open(FileName);
-    std::string start(3, '\0');
-    file.read(start.data(), 3);
-    start.resize(static_cast<std::size_t>(file.gcount()));
+    const std::string start = Read(FileName, 3);
     if (start.empty()) return "";
     if (start.starts_with(BomUnicode())) return "unicode";
     if (start.starts_with(BomUtf8())) return "utf-8";
