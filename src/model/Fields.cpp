@@ -51,7 +51,7 @@ std::string Fields::Init(int MyDimension) {
         field->Index = i;
         items.Add(std::move(field));
     }
-    const SilentChange silent(*this);
+    const auto silent = ChangeSilently();
     mlDimension = dimension;
     Cursor.reset();
     Items = std::move(items);
@@ -61,7 +61,7 @@ std::string Fields::Init(int MyDimension) {
 
 void Fields::Clear(bool FreeOnly) {
     {
-        const SilentChange silent(*this);
+        const auto silent = ChangeSilently();
         for (const auto& field : Items)
             if (!FreeOnly || !field->Locked()) field->Clear();
     }

@@ -4,7 +4,7 @@
 #include "model/Event.h"
 #include "model/Field.h"
 #include "model/UniqueNumbers.h"
-#include "platform/ScopedValue.h"
+#include "platform/AtScopeEnd.h"
 
 #include <memory>
 #include <optional>
@@ -124,15 +124,16 @@ public:
 private:
     friend class Field; // calls FieldChanged
 
-    // While it lives, changes of fields raise no events. Its constructor puts the status out of
-    // date.
-    class [[nodiscard]] SilentChange {
-    public:
-        explicit SilentChange(Fields& grid) : mSilence(grid.mbNotify, false) { ++grid.mlChanges; }
-
-    private:
-        ScopedValue<bool> mSilence;
-    };
+    // While the result lives, changes of fields raise no events. Puts the status out of date at
+    // once, and again at the end: a listener of Init may have read it meanwhile.
+    auto ChangeSilently() {
+        mbNotify = false;
+        ++mlChanges;
+        return AtScopeEnd([this] {
+            mbNotify = true;
+            ++mlChanges;
+        });
+    }
 
     // Called after the value of field ThisIndex has changed, and with 0 after any field's lock has.
     // Raises StatusChanged and then the event that the status names, unless the change is silent.
