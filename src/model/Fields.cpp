@@ -119,9 +119,8 @@ void Fields::UpdateStatus() {
     if (mlCountedChanges == mlChanges) return;
     const auto changes = mlChanges;
     CountResult result = CountFields();
-    Platform& platform = Platform::Current(); // looked up once, not for each field
     for (int i = Items.Count(); i > 0; --i)
-        platform.PumpEvents(Pump::WhenDue);
+        PumpEvents();
     if (mlCountedChanges == mlChanges) return; // a command in the pumps has read the status
     if (mlChanges != changes) result = CountFields();
     Publish(std::move(result));
