@@ -26,7 +26,7 @@ void RaiseAndPump(const Event<int>& event, int index) {
 }
 
 // The status compares a count with the one before, however many changes lie between them.
-int StatusOf(const Fields::Counts& now, const Fields::Counts& before) {
+Fields::Report StatusOf(const Fields::Counts& now, const Fields::Counts& before) {
     if (now.IsWinner || before.IsWinner) return Fields::WinnerToReport;
     if (now.IsDeadEnd() || before.IsDeadEnd()) return Fields::DeadEndToReport;
     return Fields::NothingToReport;
