@@ -30,7 +30,7 @@ int Write(const std::string& FileName, const std::string& bytes, bool replaceExi
     return isWritten ? closeError : writeError;
 }
 
-// Opens a regular file alone: a pipe or device could block for ever or never end.
+// Opens only a regular file: a pipe or device could block for ever or never end.
 std::ifstream Open(const std::string& FileName) {
     std::ifstream file;
     std::error_code error;

@@ -165,6 +165,8 @@ private:
 
     void ConnectGame();
     void ConnectCommands();
+    // The height in which a grid of dimension 3 is seen whole.
+    static float SpaceForGrid();
     void LayoutWindow();
     void CreateFieldLabels();
     void CreateNumPad();
