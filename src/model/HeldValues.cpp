@@ -52,7 +52,8 @@ HeldValues::Word HeldValues::HeldBy(const Group& group, int word) const {
     return held;
 }
 
-// The field's own value counts as held by each of its groups, even by one that does not list it.
+// The field's own value counts as held by each of its groups: GroupAdd takes groups that do not
+// list the field, too.
 HeldValues::Word HeldValues::TakenFor(const Field& field, int word) const {
     const Word own = BitOf(field.Value(), word);
     Word taken = 0;

@@ -35,7 +35,7 @@ private:
     Word TakenFor(const Field& field, int word) const;
 
     int mlNumbers;
-    std::vector<Collection<Word>> mHeld; // for each word HeldBy the groups, in their order
+    std::vector<Collection<Word>> mHeld; // for each word, what HeldBy gives for each group
 };
 
 } // namespace tessarin
