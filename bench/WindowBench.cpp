@@ -240,7 +240,7 @@ class UntilFirstPaint : public QObject {
     }
 };
 
-// The same kinds and numbers of controls in the same fonts, made of Qt's widgets alone.
+// The same kinds and numbers of controls in the same fonts, made only of Qt's widgets.
 class BareWindow : public QWidget {
 public:
     BareWindow() {

@@ -13,7 +13,8 @@ class Connection {
 public:
     Connection() = default;
     explicit Connection(std::shared_ptr<void> token) : mToken(std::move(token)) {}
-    Connection(Connection&&) = default; // a copy would keep the handler connected
+    // No copies: each would keep the handler connected.
+    Connection(Connection&&) = default;
     Connection& operator=(Connection&&) = default;
 
 private:
@@ -27,7 +28,8 @@ public:
     using Handler = std::function<void(Args...)>;
 
     Event() = default;
-    Event(const Event&) = delete; // a copy would share the handlers
+    // A copy would share the handlers.
+    Event(const Event&) = delete;
     Event& operator=(const Event&) = delete;
 
     /// Calls `handler` at every Raise, after the handlers connected before it, until the returned

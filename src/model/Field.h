@@ -15,15 +15,12 @@ class Group;
 ///
 /// SetValue and SetLocked report each change to Grid(). That raises the grid's events and pumps
 /// window events, so any command can run before they return, even one that replaces the grid: a
-/// caller needs its own shared_ptr. The grid alone calls Clear and the setters of texts.
+/// caller needs its own shared_ptr.
 class Field {
 public:
     int Index = 0;            ///< number in the grid, from 1 row by row; set once by the grid
     UniqueNumbers Neighbours; ///< fields that share a group with it, itself included
     UniqueNumbers InGroups;   ///< its groups: row, column, box
-
-    /// Empties and unlocks the field, without reporting it.
-    void Clear();
 
     /// 0 when empty, otherwise the digit.
     int Value() const { return mlValue; }
@@ -54,16 +51,21 @@ public:
 
     /// "index;value;lock" with lock 1 or 0; "" for an empty field unless WithEmpty.
     std::string TextCSV(bool WithEmpty = false) const;
-    /// Clears the field, without reporting it. If the line has the field's index, then sets value
-    /// and lock through the setters above. Ignores WithEmpty. Throws TypeMismatchError,
-    /// std::overflow_error or std::out_of_range (too few items); what was set before stays.
-    void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
-    /// Clears the field, then stores the number as value and locks the field unless it is 0, all
-    /// without reporting it. Throws TypeMismatchError or std::overflow_error; the field is then
-    /// clear.
-    void SetTextSDK(std::string_view MyTextSDK);
 
 private:
+    friend class Fields; // calls the following three
+
+    // Empties and unlocks the field, without reporting it.
+    void Clear();
+    // Clears the field, without reporting it. If the line has the field's index, then sets value
+    // and lock through the setters above. Ignores WithEmpty. Throws TypeMismatchError,
+    // std::overflow_error or std::out_of_range (too few items); what was set before stays.
+    void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
+    // Clears the field, then stores the number as value and locks the field unless it is 0, all
+    // without reporting it. Throws TypeMismatchError or std::overflow_error; the field is then
+    // clear.
+    void SetTextSDK(std::string_view MyTextSDK);
+
     int mlValue = 0;
     bool mbLocked = false;
 };

@@ -1,15 +1,13 @@
 #include "model/Fields.h"
 
 #include "model/Board.h"
-#include "model/Groups.h"
-#include "model/TakenValues.h"
+#include "model/HeldValues.h"
 #include "platform/Platform.h"
 
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
 #include <utility>
-#include <vector>
 
 namespace tessarin {
 
@@ -28,43 +26,10 @@ void RaiseAndPump(const Event<int>& event, int index) {
 }
 
 // The status compares a count with the one before, however many changes lie between them.
-int StatusOf(const Fields::Counts& now, const Fields::Counts& before) {
+Fields::Report StatusOf(const Fields::Counts& now, const Fields::Counts& before) {
     if (now.IsWinner || before.IsWinner) return Fields::WinnerToReport;
     if (now.IsDeadEnd() || before.IsDeadEnd()) return Fields::DeadEndToReport;
     return Fields::NothingToReport;
-}
-
-// Bits for each number from 1 to a count; none for other numbers. Set number by number, then called
-// as the bitOf or bitsIn of TakenValues.h.
-class BitsByNumber {
-public:
-    explicit BitsByNumber(int count) : mBits(static_cast<std::size_t>(count) + 1) {}
-    void Set(int number, ValueBits bits) { mBits[static_cast<std::size_t>(number)] = bits; }
-    ValueBits operator()(int number) const {
-        const auto place = static_cast<std::size_t>(number); // huge for a negative number
-        return place < mBits.size() ? mBits[place] : 0;
-    }
-
-private:
-    std::vector<ValueBits> mBits;
-};
-
-// What each group holds, for each slice of the values. The values of the fields are read once: a
-// field is in several groups.
-std::vector<BitsByNumber> BitsInGroups(const Collection<std::shared_ptr<Field>>& fields,
-                                       int numbers) {
-    std::vector<BitsByNumber> slices;
-    const int groups = goBoard->Groups ? goBoard->Groups->Items.Count() : 0;
-    for (int first = 1; first <= numbers; first += Slice::MaxSize) {
-        const Slice slice(first, numbers);
-        BitsByNumber bitOf(fields.Count());
-        for (int i = 0; const auto& field : fields)
-            bitOf.Set(++i, slice.BitOf(field->Value()));
-        BitsByNumber& bitsIn = slices.emplace_back(groups);
-        for (int group = 1; group <= groups; ++group)
-            bitsIn.Set(group, BitsIn(*goBoard->Groups->Items.Item(group), bitOf));
-    }
-    return slices;
 }
 
 } // namespace
@@ -86,7 +51,7 @@ std::string Fields::Init(int MyDimension) {
         field->Index = i;
         items.Add(std::move(field));
     }
-    const SilentChange silent(*this);
+    const auto silent = ChangeSilently();
     mlDimension = dimension;
     Cursor.reset();
     Items = std::move(items);
@@ -96,7 +61,7 @@ std::string Fields::Init(int MyDimension) {
 
 void Fields::Clear(bool FreeOnly) {
     {
-        const SilentChange silent(*this);
+        const auto silent = ChangeSilently();
         for (const auto& field : Items)
             if (!FreeOnly || !field->Locked()) field->Clear();
     }
@@ -154,9 +119,8 @@ void Fields::UpdateStatus() {
     if (mlCountedChanges == mlChanges) return;
     const auto changes = mlChanges;
     CountResult result = CountFields();
-    Platform& platform = Platform::Current(); // looked up once, not for each field
     for (int i = Items.Count(); i > 0; --i)
-        platform.PumpEvents(Pump::WhenDue);
+        PumpEvents();
     if (mlCountedChanges == mlChanges) return; // a command in the pumps has read the status
     if (mlChanges != changes) result = CountFields();
     Publish(std::move(result));
@@ -164,7 +128,7 @@ void Fields::UpdateStatus() {
 
 Fields::CountResult Fields::CountFields() const {
     const int numbers = Numbers();
-    const std::vector<BitsByNumber> bitsInGroups = BitsInGroups(Items, numbers);
+    const HeldValues held;
     int smallestFreedom = numbers + 1;
     Counts counts;
     UniqueNumbers deadFields;
@@ -175,9 +139,7 @@ Fields::CountResult Fields::CountFields() const {
             continue;
         }
         ++counts.Free;
-        int freedom = numbers;
-        for (const BitsByNumber& bitsIn : bitsInGroups)
-            freedom -= CountOf(TakenBits(*field, bitsIn));
+        const int freedom = held.Freedom(*field);
         if (freedom == 0) {
             deadFields.Add(field->Index);
         } else if (freedom < smallestFreedom) {

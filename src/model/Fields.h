@@ -4,7 +4,7 @@
 #include "model/Event.h"
 #include "model/Field.h"
 #include "model/UniqueNumbers.h"
-#include "platform/ScopedValue.h"
+#include "platform/AtScopeEnd.h"
 
 #include <memory>
 #include <optional>
@@ -22,8 +22,8 @@ namespace tessarin {
 /// grid or read counts themselves; every read returns the counts of the grid as it then is.
 class Fields {
 public:
-    /// Which event follows StatusChanged (Counts::Status).
-    enum : int {
+    /// Which event follows StatusChanged.
+    enum Report : int {
         WinnerToReport = 0,  ///< the grid is full, or was so at the count before and is no longer
         NothingToReport = 1, ///< neither
         DeadEndToReport = 2  ///< there is a dead field, or was one at the count before
@@ -37,19 +37,18 @@ public:
         int NextFreeField = 0; ///< the empty field with the fewest free values, at least one; or 0
         int DeadField = 0;     ///< the lowest empty field without free value; 0 if none
         bool IsWinner = false; ///< no field is empty
-        int Status = NothingToReport;
+        Report Status = NothingToReport;
 
         bool IsDeadEnd() const { return DeadField > 0; }
     };
 
-    /// SetIndex and FieldChanged pump window events after each event that they raise. "Before"
-    /// means at the count before, however many silent changes lie between.
+    /// Each event but Init is followed by a pump of window events.
     struct GridEvents {
         Event<int> BeforeIndexChanged; ///< index of the field that the cursor is about to leave
         Event<int> IndexChanged;       ///< the new cursor index, 0 when there is no cursor now
         Event<int> StatusChanged;      ///< the changed field; for a lock the cursor's index
-        Event<int> IsWinner;           ///< as StatusChanged; 0: full before, but no longer
-        Event<int> IsDeadEnd;          ///< the lowest dead field; 0: dead before, but no longer
+        Event<int> IsWinner;           ///< as StatusChanged; 0: no longer full
+        Event<int> IsDeadEnd;          ///< the lowest dead field; 0: there is none any more
         Event<> Init;                  ///< the grid has new fields, which have no groups yet
     };
 
@@ -75,16 +74,17 @@ public:
     /// The grid as text: "Index;Value;Locked" and a line for each field with a value (or for all).
     std::string TextCSV(bool WithEmpty = false) const;
     /// Rebuilds the grid with dimension 3 from such a text; ignores WithEmpty. A text with another
-    /// first line leaves it empty. Throws what Field::SetTextCSV throws, and std::out_of_range for
-    /// an index outside 1 to 81; what was loaded before stays. Raises Init only.
+    /// first line leaves it empty. Throws TypeMismatchError or std::overflow_error for an item that
+    /// is no number of 32 bits, and std::out_of_range for too few items in a line or an index
+    /// outside 1 to 81; what was loaded before stays. Raises Init only.
     void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
     /// The grid as text: "\"Sudoku\"" and a line of values for each row.
     std::string TextSDK() const;
     /// Rebuilds the grid from such a text and locks all values but 0. Values past the end of a row
     /// belong to the next one. A text with another first line, or with other than 9 or 25 rows,
-    /// leaves the grid unchanged. Throws what Field::SetTextSDK
-    /// throws, and std::out_of_range for items past the last field; what was loaded before stays.
-    /// Raises Init only.
+    /// leaves the grid unchanged. Throws TypeMismatchError or std::overflow_error for an item that
+    /// is no number of 32 bits, and std::out_of_range for items past the last field; what was
+    /// loaded before stays. Raises Init only.
     void SetTextSDK(std::string_view MyTextCSV);
 
     /// Locks or unlocks every field with a value above 0.
@@ -103,7 +103,7 @@ public:
     int NextFreeField() { return CountAndPump().NextFreeField; }
     bool IsWinner() { return CountAndPump().IsWinner; }
     bool IsDeadEnd() { return CountAndPump().IsDeadEnd(); }
-    int Status() { return CountAndPump().Status; }
+    Report Status() { return CountAndPump().Status; }
     int DeadField() { return CountAndPump().DeadField; }
 
     /// The number of DeadFields. Never counts.
@@ -124,15 +124,16 @@ public:
 private:
     friend class Field; // calls FieldChanged
 
-    // While it lives, changes of fields raise no events. Its constructor puts the status out of
-    // date.
-    class [[nodiscard]] SilentChange {
-    public:
-        explicit SilentChange(Fields& grid) : mSilence(grid.mbNotify, false) { ++grid.mlChanges; }
-
-    private:
-        ScopedValue<bool> mSilence;
-    };
+    // While the result lives, changes of fields raise no events. Puts the status out of date at
+    // once, and again at the end: a listener of Init may have read it meanwhile.
+    auto ChangeSilently() {
+        mbNotify = false;
+        ++mlChanges;
+        return AtScopeEnd([this] {
+            mbNotify = true;
+            ++mlChanges;
+        });
+    }
 
     // Called after the value of field ThisIndex has changed, and with 0 after any field's lock has.
     // Raises StatusChanged and then the event that the status names, unless the change is silent.

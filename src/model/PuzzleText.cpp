@@ -57,7 +57,7 @@ std::string Fields::TextCSV(bool WithEmpty) const {
 void Fields::SetTextCSV(std::string_view MyTextCSV, bool /*WithEmpty*/) {
     Init(3);
     if (FirstLine(MyTextCSV) != HeaderCSV) return;
-    const SilentChange silent(*this);
+    const auto silent = ChangeSilently();
     TextItems lines(MyTextCSV, LineBreak);
     lines.Next(); // the header
     while (!lines.AtEnd()) {
@@ -85,7 +85,7 @@ void Fields::SetTextSDK(std::string_view MyTextCSV) {
     const int dimension = DimensionOfLines(CountItems(lines));
     if (dimension == 0) return;
     Init(dimension);
-    const SilentChange silent(*this);
+    const auto silent = ChangeSilently();
     lines.Next(); // the header
     for (int row = 0; !lines.AtEnd(); ++row) {
         TextItems values(lines.Next(), ",");

@@ -7,7 +7,7 @@
 namespace tessarin {
 
 bool UniqueNumbers::Contains(int number) const {
-    return Count() > 0 && number <= mlUpperBound && std::find(begin(), end(), number) != end();
+    return std::find(begin(), end(), number) != end();
 }
 
 void UniqueNumbers::Add(int number) {
@@ -17,7 +17,6 @@ void UniqueNumbers::Add(int number) {
 
 bool UniqueNumbers::TryAdd(int number) {
     if (Contains(number)) return false;
-    mlUpperBound = Count() == 0 ? number : std::max(mlUpperBound, number);
     Collection::Add(number);
     return true;
 }

@@ -4,8 +4,8 @@
 
 namespace tessarin {
 
-/// Whole numbers in the order in which they were added, each at most once. Adding in ascending
-/// order, the usual case, takes constant time; finding and removing search one by one.
+/// Whole numbers in the order in which they were added, each at most once. They are few: adding,
+/// finding and removing search one by one.
 class UniqueNumbers : private Collection<int> {
 public:
     using Collection::begin;
@@ -22,9 +22,6 @@ public:
     bool TryAdd(int number);
     /// Removes `number`; does nothing when it is not there.
     using Collection::Remove;
-
-private:
-    int mlUpperBound = 0; // of the numbers; means nothing while there are none
 };
 
 } // namespace tessarin

@@ -43,8 +43,8 @@ struct Message {
 
 enum class MousePointer { Default, Hourglass };
 
-/// Which pumps of window events are made: each one, or, for computations that request thousands of
-/// them a second, those that Platform::PumpEvents must not skip.
+/// Whether a pump of window events is made in any case, or may be skipped: computations request
+/// thousands of them a second. See Platform::PumpEvents.
 enum class Pump { Now, WhenDue };
 
 /// The machine that the program runs on. One instance is current; by default a NullPlatform.
@@ -57,10 +57,10 @@ public:
     /// ownership.
     static void SetCurrent(Platform* platform);
 
-    /// Handles the waiting window events once. Any handler of the window may run inside. Of calls
-    /// with Pump::WhenDue a platform may skip those that come within a millisecond of the last pump
-    /// that it has made, and up to seven more in a row; but none while a field of the grid that has
-    /// changed waits to be seen.
+    /// Handles the waiting window events once. Any handler of the window may run inside. With
+    /// Pump::WhenDue a platform may do nothing if its last pump was less than a millisecond ago.
+    /// After that millisecond it may skip seven calls at most. While a change that the user must
+    /// see waits to be painted, it skips none.
     virtual void PumpEvents(Pump pump) = 0;
     /// Sleeps for `milliseconds` (above 0). The window may be painted and activated meanwhile. User
     /// input and timers wait, unless the activation pumps events; if that closes the window, the
@@ -89,9 +89,9 @@ public:
     /// user is not told.
     virtual void ReportError(const std::string& what);
 
-    // The window-style calls behind the taskbar entry. `handle` is the window's native handle. By
-    // default they do nothing, and every style is 0: a desktop gives every window its entry, and
-    // hiding the window would lose its place and focus.
+    // The window-style calls of ShowInTaskBar. `handle` is the window's native handle. By default
+    // they do nothing, and every style is 0: here a window has its entry anyway, and hiding the
+    // window would lose its place and focus.
     static constexpr int HideCommand = 0;
     static constexpr int ShowCommand = 5; ///< shows and activates the window
     static constexpr int ExtendedStyle = -20;

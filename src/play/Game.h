@@ -44,8 +44,8 @@ public:
     void FileImportCSV(const std::string& FileName);
     /// The same as FileExportCSV in the SDK format.
     void FileExportSDK(const std::string& MyFileName = "");
-    /// Loads the grid from an SDK file, without touching the player. Throws what
-    /// Fields::SetTextSDK throws.
+    /// Loads the grid from an SDK file, without touching the player. Throws what Fields::SetTextSDK
+    /// throws.
     void FileImportSDK(const std::string& FileName);
 
 private:

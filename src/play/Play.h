@@ -45,9 +45,9 @@ public:
     /// value.
     void GoBack(bool AutoValue = false);
 
-    /// Goes back until the cursor field has another free value or the history is used up. Returns
-    /// whether the cursor is on another field than before; if not, its value is restored and the
-    /// system beeps. With AutoValue another field takes its next free value.
+    /// Goes back until the cursor field has another free value or the history is used up. With
+    /// AutoValue the cursor field then takes its next free value. Returns whether the cursor is on
+    /// another field than before; if not, its value is restored and the system beeps.
     bool GoBackToFreedom(bool AutoValue = false);
 
     /// The cursor field's value, 0 without a cursor. AutoValue is ignored.

@@ -1,5 +1,5 @@
 // Text helpers for file names, dates and version numbers. Texts are 8-bit, positions count from 1,
-// and a blank is the character 32 alone.
+// and a blank is only the character 32.
 #pragma once
 
 #include <cstdint>

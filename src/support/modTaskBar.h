@@ -4,7 +4,7 @@
 namespace tessarin {
 
 /// Adds the taskbar entry of the window with that native handle, or removes it, without flicker,
-/// and shows and activates the window. On a platform without window styles it does nothing.
+/// and shows and activates the window.
 void ShowInTaskBar(int windowHandle, bool show);
 
 } // namespace tessarin

@@ -2,6 +2,7 @@
 
 #include "toolkit/Control.h"
 
+#include <cassert>
 #include <functional>
 #include <map>
 #include <memory>
@@ -33,8 +34,9 @@ public:
     T& operator()(int index) { return *mMembers.at(index); }
     bool Has(int index) const { return mMembers.contains(index); }
 
-    /// Creates member `index`, which must be a new one.
+    /// Creates member `index`. REQUIRES: there is none yet.
     T& Add(int index, const Properties& design) {
+        assert(!Has(index));
         const std::string name = msName + "(" + std::to_string(index) + ")";
         const auto added = mMembers.emplace(index, std::make_unique<T>(mContainer, name, design));
         T& member = *added.first->second;

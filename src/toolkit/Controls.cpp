@@ -17,7 +17,7 @@ const std::string& TextControl::AccessibleName() const {
 }
 
 Label::Label(Control& container, std::string name, const Properties& design)
-    : TextControl(container, std::move(name), design),
+    : TextControl(container, std::move(name), design, design.Visible),
       Flow(design.Flow),
       Border(design.Border),
       TabStop(design.TabStop),

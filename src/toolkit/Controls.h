@@ -29,7 +29,7 @@ protected:
     PlacedControl(Control& container, std::string name, const Bounds& place, bool visible)
         : Control(container, std::move(name), visible), mPlace(place) {}
 
-    /// Called when the place or the size has changed.
+    /// Called when the place or the size has changed. An override may correct them.
     virtual void BoundsChanged() {}
 
 private:
@@ -54,8 +54,8 @@ public:
 
 protected:
     template <class Properties>
-    TextControl(Control& container, std::string name, const Properties& design)
-        : PlacedControl(container, std::move(name), design.Place, design.Visible),
+    TextControl(Control& container, std::string name, const Properties& design, bool visible = true)
+        : PlacedControl(container, std::move(name), design.Place, visible),
           msCaption(design.Caption),
           msToolTipText(design.ToolTipText),
           mFont(design.Font) {}
@@ -143,7 +143,7 @@ private:
     Color mBackColor;
 };
 
-/// A frame that is made of other controls. It may correct its size in BoundsChanged.
+/// The frame of a control that is made of other controls.
 using UserControl = Frame;
 
 /// Shows one of the pictures that the program carries.

@@ -78,7 +78,6 @@ struct CommandButtonProperties {
     /// Keys that click the button, separated by "; ": "Del; Backspace". So does the character that
     /// is its whole caption.
     std::string Shortcuts = {};
-    bool Visible = true;
 };
 
 struct OptionButtonProperties {
@@ -86,7 +85,6 @@ struct OptionButtonProperties {
     std::string Caption = {};
     std::string ToolTipText = {};
     FontStyle Font = {};
-    bool Visible = true;
 };
 
 struct FrameProperties {
@@ -97,7 +95,6 @@ struct FrameProperties {
     FontStyle Font = {};
     BorderStyle Border = BorderStyle::None;
     Color BackColor = ButtonFace;
-    bool Visible = true;
 };
 
 struct PictureProperties {

@@ -6,18 +6,11 @@
 
 namespace tessarin {
 
-namespace {
-
-// The fields reach down to 6120 twips; the rest is a rim below them.
-constexpr float SpaceForGrid = 6150;
-
-} // namespace
-
 frmTessarin::frmTessarin(Toolkit& toolkit)
     : Form(toolkit, "frmTessarin",
            {.Caption = "Velmora Sudoku Solver",
             .Icon = "tessarin",
-            .MinClientHeight = SpaceForGrid}),
+            .MinClientHeight = SpaceForGrid()}),
       CommonDialog1(toolkit) {
     for (std::size_t i = 1; i < Paces.size(); ++i)
         optChill.Add(static_cast<int>(i), OptionOf(Paces.at(i)));

@@ -27,8 +27,8 @@ inline const FontStyle PlainFont{.Size = 7.5F};
 /// and grid, and repaints fields on their events; it keeps no puzzle state of its own.
 ///
 /// Commands pump window events while they work, so any of them may run inside another one. Two
-/// guards limit that: during a solve the panels are disabled, and the window stays open;
-/// while a view is shown, ViewRunning disables all menus but the last and the clicks on fields.
+/// guards limit that: during a solve the panels are disabled, and the window stays open; while a
+/// view is shown, ViewRunning disables all menus but the last and the clicks on fields.
 ///
 /// Sizes and positions are in twips; field indices count from 1.
 class frmTessarin : public Form {
@@ -165,6 +165,8 @@ private:
 
     void ConnectGame();
     void ConnectCommands();
+    // The height in which a grid of dimension 3 is seen whole.
+    static float SpaceForGrid();
     void LayoutWindow();
     void CreateFieldLabels();
     void CreateNumPad();
@@ -173,13 +175,10 @@ private:
 
     void PaintAsNeighbour(int index);
     void PaintAsGroupMember(int index);
-    // IsDead is set for one field alone: the lowest dead field of the last count.
+    // IsDead is set for one field only: the lowest dead field of the last count.
     FieldState StateOf(const Field& field) const;
     void ShowState(int index, const FieldState& state);
-    // To be called when the cursor has left PaintedCurrent: makes the cursor's label the current
-    // one for arrow keys, focus and screen reader.
-    void MakeCursorCurrent();
-    void RepaintFormerCurrent(int index);
+    void ShowStateAndCurrent(int index, const FieldState& state);
     std::string InfoText(const Field& field, const FieldState& state) const;
     static void SetIndicator(Label& indicator, Color color);
     // The labels of the fields that were dead at the last count.

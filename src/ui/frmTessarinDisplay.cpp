@@ -18,16 +18,7 @@ void frmTessarin::PaintField(int index, bool neighbourMark, bool groupMark) {
     FieldState state = StateOf(field);
     state.IsMarked = neighbourMark || groupMark;
     lblInfo.SetCaption(InfoText(field, state));
-    if (shown == PaintedCurrent && !state.IsCursor) {
-        MakeCursorCurrent();
-        PaintedCurrent = 0;
-    }
-    ShowState(shown, state);
-    if (state.IsCursor) {
-        lblField(shown).MakeCurrent();
-        const int former = std::exchange(PaintedCurrent, shown);
-        if (former != shown) RepaintFormerCurrent(former);
-    }
+    ShowStateAndCurrent(shown, state);
     // Commands that run in the wait may change the pace or end the solve.
     const auto pause = [this] { return Solving ? ChillDelay : 0; };
     if (pause() > 0) Wait(pause);
@@ -57,21 +48,30 @@ void frmTessarin::ShowState(int index, const FieldState& state) {
     lblField(index).SetAccessibleName(SpokenName(state));
 }
 
-// To be called before the label that the cursor has left gets its new look and name. A screen
-// reader announces a new name only where the focus is, so it announces the move of the focus alone.
-void frmTessarin::MakeCursorCurrent() {
-    const auto cursor = moGame->Fields->Cursor;
-    if (!cursor || !lblField.Has(cursor->Index)) return;
-    Label& label = lblField(cursor->Index);
-    label.SetAccessibleName(SpokenName(StateOf(*cursor)));
-    label.MakeCurrent();
-}
-
-// A click may move the cursor in the middle of another move, and paint its field as the current
-// one. The outer move then ends on its own field and would leave the field of the click green.
-void frmTessarin::RepaintFormerCurrent(int index) {
-    const auto& fields = moGame->Fields->Items;
-    if (fields.Has(index)) ShowState(index, StateOf(*fields.Item(index)));
+// Shows the state and keeps the current label, which has arrow keys, focus and screen reader, where
+// the cursor is.
+//
+// When the field that the cursor has left is painted, the cursor's label becomes current first: a
+// screen reader announces a new name only where the focus is, so it announces only the move.
+//
+// When the field that the cursor has reached is painted, another one may still look current: a
+// click has moved the cursor there in the middle of this move. That one is shown as it is now.
+void frmTessarin::ShowStateAndCurrent(int index, const FieldState& state) {
+    const Fields& grid = *moGame->Fields;
+    if (index == PaintedCurrent && !state.IsCursor) {
+        if (grid.Cursor && lblField.Has(grid.Index())) {
+            Label& current = lblField(grid.Index());
+            current.SetAccessibleName(SpokenName(StateOf(*grid.Cursor)));
+            current.MakeCurrent();
+        }
+        PaintedCurrent = 0;
+    }
+    ShowState(index, state);
+    if (!state.IsCursor) return;
+    lblField(index).MakeCurrent();
+    const int former = std::exchange(PaintedCurrent, index);
+    if (former != index && grid.Items.Has(former))
+        ShowState(former, StateOf(*grid.Items.Item(former)));
 }
 
 std::string frmTessarin::InfoText(const Field& field, const FieldState& state) const {
@@ -111,7 +111,8 @@ void frmTessarin::PaintFreedoms() {
     }
 }
 
-// Sets the final state of each key directly: hiding and showing keys is slow.
+// Sets the final state of each key directly: hiding and showing keys is slow. The free values
+// are searched as text, so that in a larger grid a free 11 shows the key 1, too.
 void frmTessarin::RefreshNumPad() {
     const auto cursor = moGame->Fields->Cursor;
     if (!cursor) return;

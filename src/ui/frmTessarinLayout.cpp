@@ -12,6 +12,7 @@ namespace tessarin {
 namespace {
 
 constexpr int Margin = FieldSide / 2; // around the grid
+constexpr int SpaceForFileName = 120; // above that margin
 constexpr int BoxGap = FieldSide / 4;
 constexpr int SideColumnGap = 240; // left of it
 
@@ -22,6 +23,10 @@ float GridOffset(int position, int dimension) {
     return static_cast<float>(Margin + fieldsBefore * FieldSide + gapsBefore * BoxGap);
 }
 
+float FieldTop(int row, int dimension) {
+    return GridOffset(row, dimension) + SpaceForFileName;
+}
+
 // The start of the row or column `position` (from 0) of the number pad.
 float PadOffset(int position) {
     constexpr int Pitch = FieldSide + BoxGap;
@@ -29,6 +34,13 @@ float PadOffset(int position) {
 }
 
 } // namespace
+
+float frmTessarin::SpaceForGrid() {
+    constexpr int LastRow = 9;
+    constexpr int Dimension = 3;
+    constexpr int RimBelow = 30;
+    return FieldTop(LastRow, Dimension) + FieldSide + RimBelow;
+}
 
 // Pumps after each step, as every long operation of the window does; it is not yet shown.
 void frmTessarin::LayoutWindow() {
@@ -54,7 +66,7 @@ void frmTessarin::CreateFieldLabels() {
         for (int c = 1; c <= n; ++c) {
             LabelProperties field = lblField.Design;
             field.Place.Left = GridOffset(c, d);
-            field.Place.Top = GridOffset(r, d) + 120;
+            field.Place.Top = FieldTop(r, d);
             field.Cell = {.Row = r, .Column = c};
             field.Visible = true;
             lblField.Add(++k, field);
@@ -114,10 +126,11 @@ void frmTessarin::ArrangeSideColumn() {
     fraChill.SetTop(fraInfo.Top() + fraInfo.Height() + 105);
     fraChill.SetLeft(fraInfo.Left());
     fraChill.SetWidth(fraInfo.Width());
-    for (const Pace& pace : Paces)
+    for (int i = 0; const Pace& pace : Paces) {
+        OptionButton& option = optChill(i++);
         if (pace.Delay >= 0)
-            PaceOption(pace.Caption)
-                .SetAccessibleName(std::string("pause ") + pace.Caption + " milliseconds");
+            option.SetAccessibleName(std::string("pause ") + pace.Caption + " milliseconds");
+    }
     PaceOption("0").Select();
     ctlRotor1.SetLeft((fraRotor.Width() - ctlRotor1.Width()) / 2);
     ctlRotor1.SetTop((fraRotor.Height() - ctlRotor1.Height()) / 2);
