@@ -3,6 +3,7 @@
 #include "FakeWindow.h"
 #include "model/Groups.h"
 #include "model/Window.h"
+#include "platform/ScopedValue.h"
 #include "support/modKbd.h"
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
