@@ -88,11 +88,13 @@ void QtFixture::LookForBox() {
     mSeen = dialog;
     // Fires again although this handler has not ended.
     mEyes.start();
-    if (const auto* const box = qobject_cast<const QMessageBox*>(dialog))
+    if (const auto* const box = qobject_cast<const QMessageBox*>(dialog)) {
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
         platform.Tell("Box(", box->windowTitle().toStdString(), "|", box->text().toStdString(),
                       box->icon() == QMessageBox::Question ? "|?)" : "|-)");
-    else
+    } else {
         platform.Tell(dialog->windowTitle().toStdString());
+    }
     platform.Paused();
     if (dialog->isVisible()) AnswerBox(*dialog);
 }
@@ -114,8 +116,31 @@ void QtFixture::AnswerBox(QDialog& dialog) {
     } else if (answer == "Esc" || answer == "Return") {
         Key(wanted);
     } else {
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(wanted);
-        QMetaObject::invokeMethod(&dialog, "accept");
+        Type(wanted);
+        EXPECT_TRUE(buttons.front()->isEnabled()) << answer;
+        Key("Return");
+        // Without a box that has said why.
+        if (dialog.isVisible() && mSeen == &dialog) {
+            ADD_FAILURE() << "the dialog stays open for " << answer;
+            dialog.reject();
+        }
+    }
+}
+
+QFileDialog& QtFixture::Dialog() {
+    auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+    const auto& files = *dialog.findChild<QFileSystemModel*>();
+    const auto rows = [&] { return files.rowCount(files.index(files.rootPath())); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rows() > 0; }));
+    return dialog;
+}
+
+void QtFixture::Type(const QString& name) {
+    auto* const line = Dialog().findChild<QLineEdit*>("fileNameEdit");
+    for (const QChar character : name) {
+        QKeyEvent key(QEvent::KeyPress, 0, {}, QString(character));
+        QCoreApplication::sendEvent(line, &key);
+        QTest::qWait(1);
     }
 }
 

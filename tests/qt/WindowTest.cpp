@@ -121,6 +121,50 @@ TEST_F(WindowTest, FileNamesOfAllKinds) {
     EXPECT_EQ(Grid(), "1;5;0");
 }
 
+TEST_F(WindowTest, TheNameTypedCountsWhateverTheListHasSelected) {
+    qputenv("HOME", folder.c_str());
+    QDir(folder.c_str()).mkdir("f");
+    for (const std::string name : {"f/1", "f/2", "3"})
+        Write(name + ".csv", "Index;Value;Locked|1;5;1|2;" + name.substr(name.size() - 1) + ";1");
+    for (const std::string& name :
+         {folder + "f/1.csv", folder + "f/2.csv", std::string("~/3.csv")}) {
+        Click("mnuFileImportCSV", name);
+        EXPECT_EQ(Grid(), "1;5;1|2;" + name.substr(name.size() - 5, 1) + ";1");
+    }
+}
+
+TEST_F(WindowTest, TheListOfADialogOnlyChooses) {
+    QDir(folder.c_str()).mkdir("f");
+    Import("1;5;1");
+    for (const char* const command : {"mnuFileExportCSV", "mnuFileImportCSV"}) {
+        Load("");
+        Meanwhile([&] {
+            QFileDialog& dialog = Dialog();
+            auto& list = *dialog.findChild<QTreeView*>("treeView");
+            const auto click = [&](int row) {
+                const QModelIndex entry = list.model()->index(row, 0, list.rootIndex());
+                const QPoint place = list.visualRect(entry).center();
+                QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+                return place;
+            };
+            click(0);
+            Key("Delete");
+            Key("F2");
+            EXPECT_FALSE(list.findChild<QLineEdit*>() || list.dragEnabled());
+            for (const char* const action : {"qt_delete_action", "qt_rename_action"})
+                EXPECT_FALSE(dialog.findChild<QAction*>(action)->isVisible());
+            // The first button opens, without a name typed.
+            ClickAt(*dialog.findChild<QPushButton*>(), {5, 5});
+            EXPECT_EQ(dialog.directory().path().toStdString(), folder + "f");
+            dialog.setDirectory(folder.c_str());
+            QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, click(1));
+            EXPECT_FALSE(dialog.isVisible());
+        });
+        Click(command);
+    }
+    EXPECT_EQ(Grid(), "1;5;1");
+}
+
 TEST_F(WindowTest, ABoxLiesBesideTheGrid) {
     form->move(0, 0);
     Meanwhile([&] {
@@ -134,7 +178,7 @@ TEST_F(WindowTest, ABoxLiesBesideTheGrid) {
 TEST_F(WindowTest, ADialogOpensWhereTheFileIsAndLeavesNoSettings) {
     Import("1;5;1");
     Meanwhile([&] {
-        const auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+        const QFileDialog& dialog = Dialog();
         EXPECT_EQ(dialog.directory().path().toStdString() + "/", folder);
         EXPECT_EQ(dialog.nameFilters().join("; "),
                   "CSV Dokumente (*.csv) (*.csv); Alle Dateien (*.*) (*)");
@@ -146,7 +190,7 @@ TEST_F(WindowTest, ADialogOpensWhereTheFileIsAndLeavesNoSettings) {
 // A typed key repeats there, and the name of a folder leads into it.
 TEST_F(WindowTest, AKeyMayBeHeldInADialogAndAFolderIsEntered) {
     Meanwhile([&] {
-        auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+        QFileDialog& dialog = Dialog();
         auto& name = *dialog.findChild<QLineEdit*>("fileNameEdit");
         dialog.setDirectory(QString::fromStdString(folder));
         Down(1000, "7");
@@ -155,6 +199,7 @@ TEST_F(WindowTest, AKeyMayBeHeldInADialogAndAFolderIsEntered) {
         name.setText("..");
         Key("Return");
         EXPECT_EQ(dialog.directory().path().toStdString() + "/", testing::TempDir());
+        EXPECT_EQ(name.text(), "");
         // ESC might only close a list of names.
         dialog.reject();
     });
