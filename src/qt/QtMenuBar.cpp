@@ -131,6 +131,9 @@ private:
             mMenu = std::make_unique<QMenu>(&mBar);
             mMenu->setFont(mBar.font());
             setMenu(mMenu.get());
+            // An entry that keys have triggered would still be the active one.
+            QMenu& menu = *mMenu;
+            connect(&menu, &QMenu::aboutToShow, [&menu] { menu.setActiveAction(nullptr); });
         }
         return *mMenu;
     }

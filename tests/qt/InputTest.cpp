@@ -188,6 +188,11 @@ TEST_F(InputTest, KeysOpenTheMenus) {
     Key("Right");
     Key("Return");
     EXPECT_EQ(Seen({1}), "5:green/red");
+    // From its first entry again, although a box has been open.
+    for (int i = 0; i < 2; ++i) {
+        Key("Alt+V");
+        TELLS(Key("Return"), "Box(Velmora Sudoku Solver|Freedoms of fields|-)");
+    }
     Key("F10");
     EXPECT_TRUE(MenuBar().hasFocus());
     Key("F10");
