@@ -50,7 +50,9 @@ static std::string Entries(const QWidget& menu) {
     std::string entries;
     for (const QAction* const entry : menu.actions()) {
         entries += (entry->isSeparator() ? "-" : entry->text().toStdString()) + " ";
-        if (entry->menu()) entries += "(" + Entries(*entry->menu()) + ") ";
+        if (!entry->menu()) continue;
+        EXPECT_EQ(entry->menu()->parent(), &menu) << "Wayland opens no such menu";
+        entries += "(" + Entries(*entry->menu()) + ") ";
     }
     entries.pop_back();
     return entries;
