@@ -39,6 +39,7 @@ protected:
 private:
     void Arrange();
     void Activate();
+    void WaitForActivation();
     void ArrangeTabOrder();
 
     Form& mForm;

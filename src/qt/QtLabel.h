@@ -37,6 +37,7 @@ private:
     void DrawLines(QPainter& painter, const QRect& space) const;
     QString ShortenedCaption() const;
     bool IsShortened() const;
+    QString Tip() const;
 
     Label& mLabel;
     bool mbPressed = false;

@@ -39,6 +39,7 @@ bool QtMenuBar::eventFilter(QObject* receiver, QEvent* event) {
         if (!underMouse()) Leave();
         break;
     case QEvent::FocusOut:
+    case QEvent::Close: // the desktop may keep the F4 of Alt+F4
         mbAltAlone = false;
         break;
     default:

@@ -18,6 +18,8 @@ namespace tessarin::qt {
 
 QtPlatform::QtPlatform(VersionRecord version) : mVersion(std::move(version)) {
     QApplication::setStyle(QStyleFactory::create("fusion"));
+    // Texts and paths are the same in every language, and mirrored "<" would be read as ">".
+    QApplication::setLayoutDirection(Qt::LeftToRight);
     // File dialogs would keep the folders visited in the user's settings.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     Platform::SetCurrent(this);

@@ -19,8 +19,8 @@ namespace tessarin::qt {
 /// lose its place and focus: the window-style calls do nothing.
 class QtPlatform : public Platform {
 public:
-    /// `version` is the program's record. Gives the application the same style of controls on every
-    /// desktop, and keeps Qt from writing into the user's settings.
+    /// `version` is the program's record. Gives the application the same style and direction of
+    /// controls on every desktop, and keeps Qt from writing into the user's settings.
     explicit QtPlatform(VersionRecord version = {});
     ~QtPlatform() override;
 

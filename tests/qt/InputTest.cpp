@@ -160,6 +160,18 @@ TEST_F(InputTest, AltWithAClickIsNoTapOnAlt) {
     EXPECT_EQ(Focused(), "lblField(5)");
 }
 
+// Some desktops keep the F4.
+TEST_F(InputTest, AltF4DuringASolveLeavesTheMenusAlone) {
+    FullBut({1, 11});
+    Meanwhile([&] {
+        Down(9000, "Alt");
+        form->windowHandle()->close();
+        Up(9100, "Alt");
+        EXPECT_FALSE(MenuBar().hasFocus());
+    });
+    Click("btnSolve");
+}
+
 TEST_F(InputTest, CommandsHaveKeys) {
     At(1).SetValue(5);
     Key("Delete");

@@ -66,6 +66,7 @@ TEST_F(WindowTest, ButtonsAndMenusAreInTheirPlaces) {
     EXPECT_EQ(Entries(MenuBar()), "File (Import Export - Quit) Edit (Clear (Free All) "
                                   "Lock All (Set Clear)) View (Freedom - Groups Neighbours) "
                                   "? (About)");
+    EXPECT_TRUE(form->isLeftToRight());
     EXPECT_FALSE(form->windowIcon().isNull());
 }
 
@@ -172,9 +173,14 @@ TEST_F(WindowTest, ABoxLiesBesideTheGrid) {
     Meanwhile([&] {
         const QWidget& last = Widget("lblField(81)");
         const int gridEnd = last.mapToGlobal(last.rect().bottomRight()).x();
-        EXPECT_GT(QApplication::activeModalWidget()->x(), gridEnd);
+        const QWidget& box = *QApplication::activeModalWidget();
+        EXPECT_GT(box.x(), gridEnd);
+        EXPECT_EQ(box.size(), box.maximumSize());
     });
-    Click("mnuViewNeighbours");
+    QTest::qWait(200); // until the start is over
+    form->findChild<QAction*>("mnuViewNeighbours")->trigger();
+    // Nobody has made it active.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form->isActiveWindow(); }));
 }
 
 TEST_F(WindowTest, ADialogOpensWhereTheFileIsAndLeavesNoSettings) {
@@ -213,6 +219,9 @@ TEST_F(WindowTest, TheWindowHasTheSizeOfItsColumns) {
     // Twips, 15 to a pixel. First grid, number pad and margins, then the side column with its gap.
     EXPECT_NEAR(narrow.width(), 8850 / 15, 2);
     EXPECT_EQ(narrow.height(), 7170 / 15);
+    // A wrong state: jwm sets it for a large window.
+    if (QApplication::platformName() == "xcb")
+        form->windowHandle()->setWindowStates(Qt::WindowFullScreen);
     Click("btnInfo");
     EXPECT_EQ(form->frameSize(), narrow + QSize(2775 / 15, 0));
     EXPECT_EQ(form->minimumSize(), form->maximumSize());
@@ -326,7 +335,7 @@ TEST_F(WindowTest, APathThatIsTooLongIsShortenedAndHasATip) {
     const auto tip = [&] {
         QHelpEvent help(QEvent::ToolTip, {5, 5}, label.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&label, &help);
-        return QToolTip::text().toStdString();
+        return QToolTip::text().remove(QRegularExpression("<.*?>")).toStdString();
     };
     // Narrower, as with a thick frame: the client ends before the label.
     window.SetWidth(window.Width() - 300);
@@ -339,7 +348,7 @@ TEST_F(WindowTest, APathThatIsTooLongIsShortenedAndHasATip) {
     // The side column is shown, so there is room for the path.
     EXPECT_EQ(tip(), "");
     Click("btnInfo");
-    EXPECT_EQ(tip(), "<p>" + path.toStdString() + "</p>");
+    EXPECT_EQ(tip(), path.toStdString());
     const QImage shown = label.grab().toImage();
     path = label.fontMetrics().elidedText(path, Qt::ElideMiddle, seen);
     window.lblFile.SetCaption(path.toStdString());
