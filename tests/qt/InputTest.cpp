@@ -18,6 +18,11 @@ TEST_F(InputTest, EachLeftClickAnswersOnce) {
     TELLS(Mouse(QTest::MouseClick, field, Qt::RightButton), "");
     TELLS(Mouse(QTest::MouseRelease, field), "field 40");
     TELLS(Mouse(QTest::MouseDClick, field), "field 40 field 40");
+    // A screen reader hears only of the field that the click makes the current one.
+    Focus("btnSolve");
+    window.lblField.Click = [&](int) { EXPECT_EQ(Focused(), "btnSolve"); };
+    Click(40);
+    EXPECT_EQ(Focused(), "lblField(1)");
 }
 
 TEST_F(InputTest, ArrowsMoveFromTheCurrentField) {
@@ -77,6 +82,7 @@ TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
     TELLS(Repeat(1600, "Space"), "info");
     TELLS(Repeat(1640, "Space"), "");
     TELLS(Up(1650, "Space"), "");
+    TELLS(Key("Return"), "info");
     Focus("lblField(1)");
     TELLS(Down(4000, "Right"), "field 2");
     TELLS(Repeat(4600, "Right"), "field 2");
@@ -126,12 +132,26 @@ TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {
     Meanwhile([&] { Focus("optChill(1)"); });
     Key("Space");
     EXPECT_EQ(Focused(), "optChill(1)");
+    FullBut({1, 11, 21});
+    Focus("btnSolve");
+    // There and back.
+    Meanwhile([&] {
+        Key("Tab");
+        Key("Shift+Tab");
+    });
+    Key("Space");
+    EXPECT_EQ(Focused(), "lblField(21)");
 }
 
 TEST_F(InputTest, AKeyThatIsHiddenAfterASolveDoesNotGetTheFocusLater) {
     FullBut({1});
     Focus("btnNumPad(1)");
     Key("S");
+    platform.PumpEvents(Pump::Now);
+    const QWidget& field = Widget("lblField(1)");
+    const QPoint ring = field.mapTo(form, QPoint(2, 20));
+    const QImage seen = form->screen()->grabWindow(form->winId()).toImage();
+    EXPECT_EQ(seen.pixelColor(ring), Qt::white);
     Key("C");
     EXPECT_EQ(Focused(), "lblField(1)");
 }
@@ -205,6 +225,9 @@ TEST_F(InputTest, KeysOpenTheMenus) {
         Key("Alt+V");
         TELLS(Key("Return"), "Box(Velmora Sudoku Solver|Freedoms of fields|-)");
     }
+    Key("Alt+Shift+?");
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    Key("Esc");
     Key("F10");
     EXPECT_TRUE(MenuBar().hasFocus());
     Key("F10");
@@ -216,6 +239,8 @@ TEST_F(InputTest, TabStopsOnceInTheGrid) {
     Key("Shift+Tab");
     EXPECT_EQ(Focused(), "btnInfo");
     Key("Space");
+    Pace("200");
+    Pace("0");
     Click(12);
     Key("Tab");
     EXPECT_EQ(Focused(), "btnNumPad(1)");

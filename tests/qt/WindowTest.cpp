@@ -222,6 +222,10 @@ TEST_F(WindowTest, TheWindowHasTheSizeOfItsColumns) {
     // A wrong state: jwm sets it for a large window.
     if (QApplication::platformName() == "xcb")
         form->windowHandle()->setWindowStates(Qt::WindowFullScreen);
+    // As with a thinner frame: the edge of the side column would show.
+    window.SetWidth(window.Width() + 90);
+    EXPECT_FALSE(Widget("fraInfo").isVisible());
+    window.SetWidth(window.Width() - 90);
     Click("btnInfo");
     EXPECT_EQ(form->frameSize(), narrow + QSize(2775 / 15, 0));
     EXPECT_EQ(form->minimumSize(), form->maximumSize());
