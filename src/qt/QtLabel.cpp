@@ -28,8 +28,7 @@ static void BreakLines(QTextLayout& layout, int width) {
     layout.endLayout();
 }
 
-QtLabel::QtLabel(Label& label, const Site& site)
-    : QLabel(&site.Parent), TextWidget(label, *this, site), mLabel(label) {
+QtLabel::QtLabel(Label& label, const Site& site) : WidgetOf(label, site), mLabel(label) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (IsInGrid()) Focus().AddToGrid(label, *this);
     if (label.TabStop) setFocusPolicy(Qt::TabFocus);
