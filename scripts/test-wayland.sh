@@ -177,11 +177,19 @@ work() {
     normal="$field_x $field_y"
     "$1_story"
 
-    echo 'Import, and a tap on Alt during a solve'
-    press ctrl+o
-    sleep 1
-    xdotool type --delay 30 "$PWD/puzzles/nearly-complete.csv"
-    press_return
+    echo 'Two imports by typed paths, the second from the folder that is listed'
+    mkdir "$scratch/home/f"
+    cp puzzles/{easy-1,nearly-complete}.csv "$scratch/home/f"
+    local puzzle
+    for puzzle in easy-1 nearly-complete; do
+        press ctrl+o
+        sleep 1
+        xdotool type --delay 30 "$scratch/home/f/$puzzle.csv"
+        press_return
+    done
+    rm -r "$scratch/home/f"
+
+    echo 'A tap on Alt during a solve'
     press i shift+Tab Down Down Down # a pace with a pause
     click 100 -20 # so that the pointer rests on no control
     press s

@@ -11,9 +11,12 @@ ControlWidget::ControlWidget(PlacedControl& control, QWidget& widget, const Site
       mWidget(widget),
       mClient(site.Client),
       mFocus(site.Focus),
-      mPlatform(site.Platform) {
-    mWidget.setObjectName(ToQt(control.Name()));
-    Place();
+      mPlatform(site.Platform) {}
+
+void ControlWidget::ShowAll() {
+    mWidget.setObjectName(ToQt(mControl.Name()));
+    for (const Property property : {Property::Bounds, Property::Font, Property::Texts})
+        Apply(property);
 }
 
 void ControlWidget::Place() {
@@ -27,11 +30,6 @@ void ControlWidget::Place() {
 void ControlWidget::Apply(Property property) {
     if (property == Property::Bounds || property == Property::Visible) Place();
     if (property == Property::Enabled) mFocus.SetEnabled(mWidget, mControl.Enabled());
-}
-
-TextWidget::TextWidget(TextControl& control, QWidget& widget, const Site& site)
-    : ControlWidget(control, widget, site), mControl(control) {
-    Widget().setFont(ToQt(control.Font()));
 }
 
 void TextWidget::Apply(Property property) {

@@ -17,11 +17,14 @@ struct Site {
     QtPlatform& Platform;
 };
 
-/// What the widgets of placed controls have in common. Each inherits it beside its Qt class and its
-/// kind of peer.
+/// What the widgets of placed controls have in common: see WidgetOf.
 class ControlWidget {
 public:
     virtual ~ControlWidget() = default;
+
+    /// Shows the control as it is now. No constructor does: as soon as a widget has a name, a
+    /// screen reader may ask for all of it.
+    void ShowAll();
 
     /// Moves the widget, and shows or hides it according to the control's Visible. Directly in the
     /// client, a widget that lies mostly beyond its right edge stays hidden: with a thin window
@@ -29,7 +32,6 @@ public:
     void Place();
 
 protected:
-    /// `widget` is this object.
     ControlWidget(PlacedControl& control, QWidget& widget, const Site& site);
 
     /// Shows the property as it is now.
@@ -50,15 +52,22 @@ private:
 /// The same of controls with a text.
 class TextWidget : public ControlWidget {
 protected:
-    /// Sets no texts: its maker does, by Changed(Property::Texts), when the object is complete. A
-    /// screen reader may ask for all of it as soon as it has a name.
-    TextWidget(TextControl& control, QWidget& widget, const Site& site);
+    TextWidget(TextControl& control, QWidget& widget, const Site& site)
+        : ControlWidget(control, widget, site), mControl(control) {}
 
     void Apply(Property property) override;
     virtual void ShowCaption() { Widget().update(); }
 
 private:
     const TextControl& mControl;
+};
+
+/// A widget of the class QtClass that shows a placed control.
+template <class QtClass, class Common = TextWidget>
+class WidgetOf : public QtClass, public Common {
+protected:
+    WidgetOf(auto& control, const Site& site)
+        : QtClass(&site.Parent), Common(control, *this, site) {}
 };
 
 } // namespace tessarin::qt

@@ -7,7 +7,7 @@
 namespace tessarin::qt {
 
 QtCommandButton::QtCommandButton(CommandButton& button, const Site& site)
-    : QPushButton(&site.Parent), TextWidget(button, *this, site), mButton(button) {
+    : WidgetOf(button, site), mButton(button) {
     setFocusPolicy(Qt::TabFocus);
     setAutoDefault(true); // Enter presses it as Space does
     connect(this, &QAbstractButton::clicked, [&button] { button.RaiseClick(); });
@@ -27,7 +27,7 @@ void QtCommandButton::ShowCaption() {
 }
 
 QtOption::QtOption(OptionButton& option, const Site& site)
-    : QRadioButton(&site.Parent), TextWidget(option, *this, site), mOption(option) {
+    : WidgetOf(option, site), mOption(option) {
     setFocusPolicy(Qt::NoFocus);
     connect(this, &QAbstractButton::clicked, [&option] { option.RaiseClick(); });
     connect(this, &QAbstractButton::toggled,

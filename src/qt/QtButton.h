@@ -10,7 +10,7 @@ class QKeyEvent;
 
 namespace tessarin::qt {
 
-class QtCommandButton : public QPushButton, public ControlPeer, public TextWidget {
+class QtCommandButton : public WidgetOf<QPushButton>, public ControlPeer {
 public:
     QtCommandButton(CommandButton& button, const Site& site);
 
@@ -26,7 +26,7 @@ private:
 };
 
 /// The Tab key stops at the selected option, also when the mouse has selected it.
-class QtOption : public QRadioButton, public OptionPeer, public TextWidget {
+class QtOption : public WidgetOf<QRadioButton>, public OptionPeer {
 public:
     QtOption(OptionButton& option, const Site& site);
 

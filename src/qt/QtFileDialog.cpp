@@ -5,13 +5,17 @@
 #include "qt/QtToolkit.h"
 #include "toolkit/CommonDialog.h"
 
+#include <QAction>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTreeView>
 
@@ -42,38 +46,81 @@ void ShowColumnsWhole(QFileDialog& dialog) {
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 }
 
+// The dialog only chooses: Qt's would also delete, rename and move files, by keys, menu and mouse.
+// A folder that is made here can still be named once.
+void LeaveFilesAlone(QFileDialog& dialog) {
+    for (const char* const action : {"qt_delete_action", "qt_rename_action"})
+        dialog.findChild<QAction*>(action)->setVisible(false);
+    for (const char* const view : {"listView", "treeView"}) {
+        auto& files = *dialog.findChild<QAbstractItemView*>(view);
+        files.setEditTriggers(QAbstractItemView::NoEditTriggers);
+        files.setDragDropMode(QAbstractItemView::NoDragDrop);
+        qDeleteAll(files.findChildren<QShortcut*>()); // the Delete key
+    }
+}
+
+// What counts is the line with the file's name. QFileDialog goes by its list instead, in which it
+// selects rows itself while a path is typed: the folders on the way, too.
 class QtFileDialog : public QFileDialog {
 public:
     QtFileDialog(CommonDialog request, FileDialogKind kind, QWidget* parent)
         : QFileDialog(parent), mRequest(std::move(request)) {
+        const bool isSave = kind == FileDialogKind::Save;
         setOption(DontUseNativeDialog);
         setOption(HideNameFilterDetails); // the descriptions contain them already
+        setOption(ReadOnly, !isSave);     // no new folders
         setWindowTitle(ToQt(mRequest.DialogTitle));
         setNameFilters(NameFilters(mRequest.Filter));
-        setAcceptMode(kind == FileDialogKind::Save ? AcceptSave : AcceptOpen);
-        setFileMode(mRequest.FileMustExist ? ExistingFile : AnyFile);
+        setAcceptMode(isSave ? AcceptSave : AcceptOpen);
+        LeaveFilesAlone(*this);
         ShowColumnsWhole(*this);
         const QFileInfo before(ToQt(mRequest.FileName));
         if (!mRequest.FileName.empty()) setDirectory(before.absolutePath());
+        auto* const button = findChild<QDialogButtonBox*>()->button(
+            isSave ? QDialogButtonBox::Save : QDialogButtonBox::Open);
+        button->installEventFilter(this);
+        button->setEnabled(true);
     }
 
     /// The full path, when the dialog was accepted.
     QString Chosen() const { return msChosen; }
 
 protected:
+    // Qt disables the button by what the list has selected.
+    bool eventFilter(QObject* button, QEvent* event) override {
+        if (event->type() == QEvent::EnabledChange)
+            dynamic_cast<QWidget&>(*button).setEnabled(true);
+        return QFileDialog::eventFilter(button, event);
+    }
+
+    // Return in the line, a double click in the list, or the button.
     void accept() override {
-        const QString quoted = QuotedPath();
-        const QString path = quoted.isEmpty() ? selectedFiles().value(0) : quoted;
-        const bool namesFile = !path.isEmpty() && !QFileInfo(path).isDir();
-        if (namesFile)
+        const QString typed = NameLine().text();
+        // Without a name the button leads into the folder that the list has selected.
+        const QString path = typed.isEmpty() ? selectedFiles().value(0) : PathOf(typed);
+        if (QFileInfo(path).isDir()) {
+            setDirectory(path);
+            NameLine().clear();
+        } else if (typed.endsWith('/')) {
+            Refuse(path + NoFolder);
+        } else if (!typed.isEmpty()) {
             AcceptFile(path);
-        else if (quoted.isEmpty())
-            QFileDialog::accept(); // goes to the folder
-        else
-            setDirectory(quoted);
+        }
     }
 
 private:
+    static constexpr QLatin1String NoFolder{"\nThis folder does not exist."};
+
+    QLineEdit& NameLine() { return *findChild<QLineEdit*>("fileNameEdit"); }
+
+    // In the dialog's folder. "~" is the user's home, unless a file has this name.
+    QString PathOf(const QString& typed) const {
+        QString path = directory().absoluteFilePath(typed);
+        const bool fromHome = typed == "~" || typed.startsWith("~/");
+        if (fromHome && !QFileInfo::exists(path)) path = QDir::homePath() + typed.mid(1);
+        return QDir::cleanPath(path);
+    }
+
     // A file to open may have no extension: the default one is tried only if the name as typed does
     // not exist. A file to save always gets one.
     void AcceptFile(QString path) {
@@ -81,31 +128,28 @@ private:
         if (!isComplete && !QFileInfo(path).fileName().contains('.'))
             path += ToQt(mRequest.DefaultExt);
         if (const QString reason = ReasonAgainst(QFileInfo(path)); !reason.isEmpty()) {
-            QMessageBox::warning(this, windowTitle(), reason);
+            Refuse(reason);
             return;
         }
         msChosen = path;
         done(Accepted);
     }
 
-    // The path if its name as typed contains quotes. QFileDialog reads them as separators of
-    // several names; here they belong to one name.
-    QString QuotedPath() const {
-        const auto* const nameEdit = findChild<QLineEdit*>("fileNameEdit");
-        if (nameEdit == nullptr || !nameEdit->text().contains('"')) return {};
-        return directory().absoluteFilePath(nameEdit->text());
-    }
-
     // Why the file cannot be chosen; empty if it can.
     QString ReasonAgainst(const QFileInfo& file) const {
+        if (mRequest.PathMustExist && !file.dir().exists()) return file.path() + NoFolder;
         if (mRequest.FileMustExist && !file.isFile())
             return file.fileName() +
                    "\nFile not found.\nPlease verify the correct file name was given.";
-        if (mRequest.PathMustExist && !file.dir().exists())
-            return file.path() + "\nThis folder does not exist.";
         if (QFile::encodeName(file.fileName()).size() > NAME_MAX)
             return "This file name is too long.";
         return {};
+    }
+
+    void Refuse(const QString& reason) {
+        QMessageBox box(QMessageBox::Warning, windowTitle(), reason, QMessageBox::Ok, this);
+        box.setTextFormat(Qt::PlainText); // a name may look like HTML
+        box.exec();
     }
 
     const CommonDialog mRequest; // a copy, as a command that runs meanwhile may change the original

@@ -40,12 +40,17 @@ void QtForm::Changed(Property property) {
     if (property == Property::Visible) { // changes once, by Form::Show
         ArrangeTabOrder();
         show();
-        // Without a window manager the first activation is never reported.
-        constexpr int PatienceMilliseconds = 100;
-        QTimer::singleShot(PatienceMilliseconds, this, [this] {
-            if (!mbActivated) Activate();
-        });
+        WaitForActivation();
     }
+}
+
+// Without a window manager nobody makes the window active, and an inactive one has no shortcuts.
+void QtForm::WaitForActivation() {
+    constexpr int PatienceMilliseconds = 100;
+    QTimer::singleShot(PatienceMilliseconds, this, [this] {
+        if (QApplication::activeWindow() == nullptr) activateWindow();
+        if (!mbActivated) Activate(); // where no activation is ever reported
+    });
 }
 
 void QtForm::Arrange() {
@@ -69,6 +74,7 @@ bool QtForm::event(QEvent* event) {
     // repaint would run inside the command that has shown it.
     if (event->type() == QEvent::WindowActivate && !std::exchange(mbLeftForOwnBox, false))
         Activate();
+    if (event->type() == QEvent::WindowUnblocked) WaitForActivation(); // a box has closed
     if (event->type() == QEvent::WindowDeactivate)
         mbLeftForOwnBox = QApplication::activeModalWidget() != nullptr;
     return handled;

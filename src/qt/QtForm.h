@@ -33,12 +33,14 @@ public:
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    // Clicks the button to which the key belongs.
+    // Clicks the button to which the key belongs. Qt's own shortcuts need an active window, which
+    // there may not be.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void Arrange();
     void Activate();
+    void WaitForActivation();
     void ArrangeTabOrder();
 
     Form& mForm;

@@ -16,8 +16,19 @@
 
 namespace tessarin::qt {
 
-QtLabel::QtLabel(Label& label, const Site& site)
-    : QLabel(&site.Parent), TextWidget(label, *this, site), mLabel(label) {
+// Breaks the text of `layout` into lines of that width.
+static void BreakLines(QTextLayout& layout, int width) {
+    layout.setCacheEnabled(true); // otherwise each line lays out the whole text again
+    layout.beginLayout();
+    while (true) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid()) break;
+        line.setLineWidth(width);
+    }
+    layout.endLayout();
+}
+
+QtLabel::QtLabel(Label& label, const Site& site) : WidgetOf(label, site), mLabel(label) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (IsInGrid()) Focus().AddToGrid(label, *this);
     if (label.TabStop) setFocusPolicy(Qt::TabFocus);
@@ -73,14 +84,7 @@ void QtLabel::DrawLines(QPainter& painter, const QRect& space) const {
     text.replace("\r\n", QChar(QChar::LineSeparator));
     text.replace(';', QStringLiteral(";\u200B")); // where a line may end
     QTextLayout layout(text, font());
-    layout.setCacheEnabled(true); // otherwise each line lays out the whole text again
-    layout.beginLayout();
-    while (true) {
-        QTextLine line = layout.createLine();
-        if (!line.isValid()) break;
-        line.setLineWidth(space.width());
-    }
-    layout.endLayout();
+    BreakLines(layout, space.width());
     const int count = layout.lineCount();
     constexpr qreal DistanceBySize = 1.2;
     const qreal distance =
@@ -104,10 +108,22 @@ bool QtLabel::IsShortened() const {
 
 bool QtLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || !IsShortened()) return QLabel::event(event);
-    // As HTML, because the lines of a plain tip are never broken.
-    const QString tip = "<p>" + ToQt(mLabel.Caption()).toHtmlEscaped() + "</p>";
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Tip(), this);
     return true;
+}
+
+// The caption as HTML. Its lines are broken here: where Qt does it, the tip often has room for one
+// more.
+QString QtLabel::Tip() const {
+    const QString caption = ToQt(mLabel.Caption());
+    QTextLayout layout(caption, QToolTip::font());
+    BreakLines(layout, width());
+    QStringList lines;
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        lines << caption.mid(line.textStart(), line.textLength()).toHtmlEscaped();
+    }
+    return "<p style='white-space:pre'>" + lines.join("<br>") + "</p>";
 }
 
 void QtLabel::mousePressEvent(QMouseEvent* event) {

@@ -9,7 +9,7 @@ namespace tessarin::qt {
 /// Paints a label from its control's properties (background, border and text) and reports clicks of
 /// the mouse and, if the Tab key stops at it, of the keyboard. In the form's grid of labels the
 /// arrow keys click the label that they lead to. It is a QLabel only for screen readers.
-class QtLabel : public QLabel, public LabelPeer, public TextWidget {
+class QtLabel : public WidgetOf<QLabel>, public LabelPeer {
 public:
     QtLabel(Label& label, const Site& site);
 
@@ -37,6 +37,7 @@ private:
     void DrawLines(QPainter& painter, const QRect& space) const;
     QString ShortenedCaption() const;
     bool IsShortened() const;
+    QString Tip() const;
 
     Label& mLabel;
     bool mbPressed = false;

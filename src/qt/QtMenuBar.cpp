@@ -39,6 +39,7 @@ bool QtMenuBar::eventFilter(QObject* receiver, QEvent* event) {
         if (!underMouse()) Leave();
         break;
     case QEvent::FocusOut:
+    case QEvent::Close: // the desktop may keep the F4 of Alt+F4
         mbAltAlone = false;
         break;
     default:
@@ -104,18 +105,15 @@ namespace {
 
 class QtMenuPeer : public QAction, public ControlPeer {
 public:
-    QtMenuPeer(MenuItem& item, QtMenuBar& bar) : QAction(&bar), mItem(item), mBar(bar) {
+    QtMenuPeer(MenuItem& item, QtMenuBar& bar)
+        : QAction(&bar), mItem(item), mAround(Around(item, bar)) {
         setObjectName(ToQt(item.Name()));
         setSeparator(item.Caption == "-");
         if (!isSeparator()) setText(EscapeAmpersands(item.Caption));
         setShortcuts(Shortcuts(item.Shortcuts));
         setAutoRepeat(false);
         connect(this, &QAction::triggered, [&item] { item.RaiseClick(); });
-        auto* const container = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
-        if (container != nullptr)
-            container->Menu().addAction(this);
-        else
-            bar.addAction(this);
+        mAround.addAction(this);
     }
 
     // Only Enabled can change. If the title of an open menu alone were disabled, the entries would
@@ -126,17 +124,27 @@ public:
     }
 
 private:
+    // The menu that contains the item, or the menu bar.
+    static QWidget& Around(const MenuItem& item, QtMenuBar& bar) {
+        auto* const container = dynamic_cast<QtMenuPeer*>(&item.Container()->Peer());
+        return container != nullptr ? container->Menu() : bar;
+    }
+
     QWidget& Menu() {
         if (!mMenu) {
-            mMenu = std::make_unique<QMenu>(&mBar);
-            mMenu->setFont(mBar.font());
+            // Wayland opens a menu only out of its parent.
+            mMenu = std::make_unique<QMenu>(&mAround);
+            mMenu->setFont(mAround.font());
             setMenu(mMenu.get());
+            // An entry that keys have triggered would still be the active one.
+            QMenu& menu = *mMenu;
+            connect(&menu, &QMenu::aboutToShow, [&menu] { menu.setActiveAction(nullptr); });
         }
         return *mMenu;
     }
 
     const MenuItem& mItem;
-    QtMenuBar& mBar;
+    QWidget& mAround;
     std::unique_ptr<QMenu> mMenu;
 };
 

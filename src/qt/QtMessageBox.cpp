@@ -2,6 +2,7 @@
 #include "qt/BoxPlace.h"
 #include "qt/QtLook.h"
 #include "qt/QtPlatform.h"
+#include "qt/WindowFrame.h"
 
 #include <QGridLayout>
 #include <QMessageBox>
@@ -32,11 +33,10 @@ public:
     }
 
 protected:
-    // QMessageBox fixes its size. But if the desktop maximises it, it must take the size that it is
-    // given: see WindowFrame.
+    // QMessageBox fixes its size.
     bool event(QEvent* event) override {
         const bool handled = QMessageBox::event(event);
-        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        if (IsOnWayland()) setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         return handled;
     }
 

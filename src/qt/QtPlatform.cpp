@@ -18,6 +18,8 @@ namespace tessarin::qt {
 
 QtPlatform::QtPlatform(VersionRecord version) : mVersion(std::move(version)) {
     QApplication::setStyle(QStyleFactory::create("fusion"));
+    // Texts and paths are the same in every language, and mirrored "<" would be read as ">".
+    QApplication::setLayoutDirection(Qt::LeftToRight);
     // File dialogs would keep the folders visited in the user's settings.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     Platform::SetCurrent(this);
@@ -30,7 +32,8 @@ QtPlatform::~QtPlatform() {
 void QtPlatform::PumpEvents(Pump pump) {
     if (mbClosed || (pump == Pump::WhenDue && !IsPumpDue())) return;
     const ScopedValue<bool> ticking(mbTicksHeld, false);
-    mSincePump.start(); // first: what changes inside makes the next pump due again
+    mbPumpIsDue = false; // first: what changes inside makes the next pump due again
+    mSincePump.start();
     QApplication::processEvents();
 }
 
@@ -40,7 +43,7 @@ void QtPlatform::PumpEvents(Pump pump) {
 bool QtPlatform::IsPumpDue() {
     constexpr qint64 NanosecondsBetween = 500'000;
     constexpr unsigned PumpsPerLook = 8;
-    if (!mSincePump.isValid()) return true;
+    if (mbPumpIsDue) return true;
     return ++mlPumpsAsked % PumpsPerLook == 0 && mSincePump.nsecsElapsed() >= NanosecondsBetween;
 }
 
@@ -49,7 +52,7 @@ bool QtPlatform::IsPumpDue() {
 void QtPlatform::Sleep(int milliseconds) {
     constexpr qint64 SliceMilliseconds = 20;
     const QDeadlineTimer end(milliseconds);
-    mSincePump.invalidate();
+    mbPumpIsDue = true;
     while (!mbClosed && !end.hasExpired()) {
         QThread::msleep(
             static_cast<unsigned long>(std::min(SliceMilliseconds, end.remainingTime())));
@@ -86,7 +89,7 @@ int QtPlatform::RunModal(QDialog& dialog) {
     const AtScopeEnd closed([this] {
         --mlOpenDialogs;
         ApplyPointer();
-        mSincePump.invalidate();
+        mbPumpIsDue = true;
     });
     ++mlOpenDialogs;
     ApplyPointer();

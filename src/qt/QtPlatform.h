@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <cassert>
 #include <functional>
 
 class QDialog;
@@ -19,8 +20,8 @@ namespace tessarin::qt {
 /// lose its place and focus: the window-style calls do nothing.
 class QtPlatform : public Platform {
 public:
-    /// `version` is the program's record. Gives the application the same style of controls on every
-    /// desktop, and keeps Qt from writing into the user's settings.
+    /// `version` is the program's record. Gives the application the same style and direction of
+    /// controls on every desktop, and keeps Qt from writing into the user's settings.
     explicit QtPlatform(VersionRecord version = {});
     ~QtPlatform() override;
 
@@ -38,8 +39,11 @@ public:
 
     /// Boxes belong to `window`. They keep off its part `area`, in coordinates of the screen.
     void SetWindow(QWidget& window, std::function<QRect()> area);
-    /// There must be one.
-    QWidget& Window() { return *mWindow; }
+    /// REQUIRES: SetWindow has been called, and the window lives.
+    QWidget& Window() {
+        assert(mWindow);
+        return *mWindow;
+    }
 
     /// To be called when the form has closed. Cancels a box or dialog that is open. From now on
     /// nothing is pumped, slept or asked, so that handlers that are still running end at once.
@@ -50,7 +54,7 @@ public:
     bool TicksHeld() const { return mbTicksHeld; }
 
     /// To be called when a field of the grid has changed: the next pump is made and shows it.
-    void ShowAtNextPump() { mSincePump.invalidate(); }
+    void ShowAtNextPump() { mbPumpIsDue = true; }
 
     /// Runs a modal dialog with the normal mouse pointer. Returns the dialog's result.
     int RunModal(QDialog& dialog);
@@ -65,8 +69,8 @@ private:
     std::function<QRect()> mArea;
     bool mbClosed = false;
     bool mbTicksHeld = false;
-    // Since the beginning of the last pump that was made; invalid if the next one must be made.
-    QElapsedTimer mSincePump;
+    bool mbPumpIsDue = true;  // whatever the time
+    QElapsedTimer mSincePump; // since the beginning of the last pump that was made
     unsigned mlPumpsAsked = 0;
     bool mbHourglass = false; // the pointer that SetMousePointer has asked for
     int mlOpenDialogs = 0;

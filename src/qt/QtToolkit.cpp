@@ -45,10 +45,9 @@ QAccessibleInterface* CreateAccessible(const QString& /*className*/, QObject* ob
 
 // Paints a frame's background and, with a border, a line around its edge that the caption
 // interrupts. It is a QGroupBox only for screen readers.
-class QtFrame : public QGroupBox, public ControlPeer, public TextWidget {
+class QtFrame : public WidgetOf<QGroupBox>, public ControlPeer {
 public:
-    QtFrame(Frame& frame, const Site& site)
-        : QGroupBox(&site.Parent), TextWidget(frame, *this, site), mFrame(frame) {}
+    QtFrame(Frame& frame, const Site& site) : WidgetOf(frame, site), mFrame(frame) {}
 
     void Changed(Property property) override { Apply(property); }
 
@@ -75,10 +74,9 @@ private:
 
 // Reads the picture's file when it paints, because many of them would slow down the start. Qt's
 // cache keeps what is read.
-class QtPicture : public QWidget, public ControlPeer, public ControlWidget {
+class QtPicture : public WidgetOf<QWidget, ControlWidget>, public ControlPeer {
 public:
-    QtPicture(Picture& picture, const Site& site)
-        : QWidget(&site.Parent), ControlWidget(picture, *this, site), mPicture(picture) {}
+    QtPicture(Picture& picture, const Site& site) : WidgetOf(picture, site), mPicture(picture) {}
 
     void Changed(Property property) override { Apply(property); }
 
@@ -126,7 +124,7 @@ std::unique_ptr<Widget> QtToolkit::Make(KindOfControl& control) {
     QWidget& parent = &container == mForm ? mForm->Client() : container;
     auto widget =
         std::make_unique<Widget>(control, Site{parent, mForm->Client(), mForm->Focus(), mPlatform});
-    widget->Changed(Property::Texts); // only now: see TextWidget
+    widget->ShowAll();
     return widget;
 }
 

@@ -8,13 +8,9 @@
 
 namespace tessarin::qt {
 
-namespace {
-
 bool IsOnWayland() {
     return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
-
-} // namespace
 
 void WindowFrame::SetSize(QSize outer, int leastHeight) {
     mOuter = outer;
@@ -44,19 +40,19 @@ bool WindowFrame::Follow(const QEvent& event) {
     return true;
 }
 
-// Wayland desktops maximise windows or put them into tiles. There the window must take the size
-// that it is given: another one may hide its menus, or break the protocol, which ends the program.
 void WindowFrame::ApplySize() {
-    Qt::WindowStates states = mWindow.windowState();
-    if (const QWindow* const native = mWindow.windowHandle()) states |= native->windowStates();
-    if (states.testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen)) return;
     if (IsOnWayland())
         ApplySizeOnWayland();
     else
         mWindow.setFixedSize(InnerSize());
 }
 
+// Wayland desktops maximise windows or put them into tiles. There the window must take the size
+// that it is given: another one may hide its menus, or break the protocol, which ends the program.
 void WindowFrame::ApplySizeOnWayland() {
+    Qt::WindowStates states = mWindow.windowState();
+    if (const QWindow* const native = mWindow.windowHandle()) states |= native->windowStates();
+    if (states.testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen)) return;
     const bool hasOwnSize = HasOwnSize();
     // A least size holds for maximised windows, too: on a small screen it leaves room for panels.
     mWindow.setMinimumSize(InnerSize().boundedTo(mWindow.screen()->size() * 0.75));

@@ -8,6 +8,9 @@ class QWidget;
 
 namespace tessarin::qt {
 
+/// There the desktop may give a window another size than it wants, and the window must take it.
+bool IsOnWayland();
+
 /// Keeps the outer size of a window fixed. Qt's sizes are without the frame, whose thickness
 /// depends on the desktop and is known only some milliseconds after the window is shown. Until then
 /// a thin one is assumed. On Wayland the window can also be larger: maximised, in a tile, or pulled
@@ -20,7 +23,6 @@ public:
     void SetSize(QSize outer, int leastHeight);
     /// What the frame leaves of the outer size.
     QSize InnerSize() const;
-    const QMargins& Margins() const { return mMargins; }
 
     /// To be called after each event of the window: corrects its size. Returns whether the margins
     /// have changed, and InnerSize with them.

@@ -18,6 +18,10 @@ TEST_F(InputTest, EachLeftClickAnswersOnce) {
     TELLS(Mouse(QTest::MouseClick, field, Qt::RightButton), "");
     TELLS(Mouse(QTest::MouseRelease, field), "field 40");
     TELLS(Mouse(QTest::MouseDClick, field), "field 40 field 40");
+    // A screen reader hears only of the field that the click makes the current one.
+    Focus("btnSolve");
+    window.lblField.Click = [&](int) { EXPECT_EQ(Focused(), "btnSolve"); };
+    Click(40);
 }
 
 TEST_F(InputTest, ArrowsMoveFromTheCurrentField) {
@@ -77,6 +81,7 @@ TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
     TELLS(Repeat(1600, "Space"), "info");
     TELLS(Repeat(1640, "Space"), "");
     TELLS(Up(1650, "Space"), "");
+    TELLS(Key("Return"), "info");
     Focus("lblField(1)");
     TELLS(Down(4000, "Right"), "field 2");
     TELLS(Repeat(4600, "Right"), "field 2");
@@ -110,28 +115,32 @@ TEST_F(InputTest, AClickBesideTheGridLeavesTheKeyboardThere) {
 }
 
 TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {
-    FullBut({1, 11, 21});
-    Focus("btnSolve");
-    Key("Space");
-    EXPECT_EQ(Focused(), "btnSolve");
-    FullBut({1, 11, 21});
-    Focus("btnSolve");
-    Meanwhile([&] { Click(5); });
-    Key("Space");
-    // In the grid, where the last move has led.
-    EXPECT_EQ(Focused(), "lblField(21)");
-    FullBut({1, 11, 21});
     Click("btnInfo");
-    Focus("btnSolve");
-    Meanwhile([&] { Focus("optChill(1)"); });
-    Key("Space");
-    EXPECT_EQ(Focused(), "optChill(1)");
+    const auto afterSolve = [&](const std::function<void()>& meanwhile) {
+        FullBut({1, 11, 21});
+        Focus("btnSolve");
+        Meanwhile(meanwhile);
+        Key("Space");
+        return Focused();
+    };
+    EXPECT_EQ(afterSolve([] {}), "btnSolve");
+    // In the grid, where the last move has led.
+    EXPECT_EQ(afterSolve([&] { Click(5); }), "lblField(21)");
+    EXPECT_EQ(afterSolve([&] { Focus("optChill(1)"); }), "optChill(1)");
+    EXPECT_EQ(afterSolve([&] {
+                  Key("Tab");
+                  Key("Shift+Tab");
+              }),
+              "lblField(21)");
 }
 
 TEST_F(InputTest, AKeyThatIsHiddenAfterASolveDoesNotGetTheFocusLater) {
     FullBut({1});
     Focus("btnNumPad(1)");
     Key("S");
+    platform.PumpEvents(Pump::Now);
+    const QPoint ring = Widget("lblField(1)").mapTo(form, QPoint(2, 20));
+    EXPECT_EQ(form->screen()->grabWindow(form->winId()).toImage().pixelColor(ring), Qt::white);
     Key("C");
     EXPECT_EQ(Focused(), "lblField(1)");
 }
@@ -188,6 +197,14 @@ TEST_F(InputTest, KeysOpenTheMenus) {
     Key("Right");
     Key("Return");
     EXPECT_EQ(Seen({1}), "5:green/red");
+    // From its first entry again, although a box has been open.
+    for (int i = 0; i < 2; ++i) {
+        Key("Alt+V");
+        TELLS(Key("Return"), "Box(Velmora Sudoku Solver|Freedoms of fields|-)");
+    }
+    Key("Alt+Shift+?");
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    Key("Esc");
     Key("F10");
     EXPECT_TRUE(MenuBar().hasFocus());
     Key("F10");
@@ -199,6 +216,8 @@ TEST_F(InputTest, TabStopsOnceInTheGrid) {
     Key("Shift+Tab");
     EXPECT_EQ(Focused(), "btnInfo");
     Key("Space");
+    Pace("200");
+    Pace("0");
     Click(12);
     Key("Tab");
     EXPECT_EQ(Focused(), "btnNumPad(1)");
@@ -219,7 +238,11 @@ TEST_F(InputTest, ASolveDisablesPanelsAndKeepsTheWindow) {
              {"btnInfo", "btnGoBack", "lblDeadEnd", "btnNumPad(11)", "mnuFileQuit"})
             TELLS(Click(refused), "");
         EXPECT_FALSE(window.InfoVisible());
+        // Some desktops keep the F4 of Alt+F4.
+        Down(9000, "Alt");
         form->close();
+        Up(9100, "Alt");
+        EXPECT_FALSE(MenuBar().hasFocus());
         EXPECT_EQ(grid.FreeCount(), 3);
         Click(5);
         EXPECT_EQ(grid.Index(), 5);

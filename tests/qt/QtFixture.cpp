@@ -88,11 +88,13 @@ void QtFixture::LookForBox() {
     mSeen = dialog;
     // Fires again although this handler has not ended.
     mEyes.start();
-    if (const auto* const box = qobject_cast<const QMessageBox*>(dialog))
+    if (const auto* const box = qobject_cast<const QMessageBox*>(dialog)) {
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
         platform.Tell("Box(", box->windowTitle().toStdString(), "|", box->text().toStdString(),
                       box->icon() == QMessageBox::Question ? "|?)" : "|-)");
-    else
+    } else {
         platform.Tell(dialog->windowTitle().toStdString());
+    }
     platform.Paused();
     if (dialog->isVisible()) AnswerBox(*dialog);
 }
@@ -114,8 +116,27 @@ void QtFixture::AnswerBox(QDialog& dialog) {
     } else if (answer == "Esc" || answer == "Return") {
         Key(wanted);
     } else {
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(wanted);
-        QMetaObject::invokeMethod(&dialog, "accept");
+        Type(wanted);
+        EXPECT_TRUE(buttons.front()->isEnabled());
+        Key("Return");
+        if (dialog.isVisible()) dialog.reject();
+    }
+}
+
+QFileDialog& QtFixture::Dialog() {
+    auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+    const auto& files = *dialog.findChild<QFileSystemModel*>();
+    const auto listed = [&] { return files.rowCount(files.index(files.rootPath())) > 0; };
+    EXPECT_TRUE(QTest::qWaitFor(listed));
+    return dialog;
+}
+
+void QtFixture::Type(const QString& name) {
+    auto* const line = Dialog().findChild<QLineEdit*>("fileNameEdit");
+    for (const QChar c : name) {
+        QKeyEvent key(QEvent::KeyPress, 0, {}, c);
+        QCoreApplication::sendEvent(line, &key);
+        QTest::qWait(1);
     }
 }
 

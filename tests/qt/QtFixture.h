@@ -65,15 +65,20 @@ protected:
     /// From now on clicks on fields and on "I" are only told.
     void TellClicks();
 
+    /// The file dialog that is open, when it has listed its folder.
+    static QFileDialog& Dialog();
+    /// Types a name into it. While a path grows, the dialog itself selects rows of its list.
+    static void Type(const QString& name);
+    /// Sends a click to the top window, so that modal boxes, open menus and disabled panels keep it
+    /// from the controls as they do for a user.
+    static void ClickAt(QWidget& widget, QPoint where);
+
     QWidget& Widget(const std::string& name);
     QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
 
 private:
     // Clicks the middle of a control. An entry of a menu is triggered as by a key.
     void ClickControl(const std::string& control) override;
-    // Sends a click to the top window, so that modal boxes, open menus and disabled panels keep it
-    // from the controls as they do for a user.
-    static void ClickAt(QWidget& widget, QPoint where);
     QWidget& Top();
     void SendKey(QEvent::Type type, int time, const QString& key);
     void LookForBox();

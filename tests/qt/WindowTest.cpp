@@ -50,7 +50,9 @@ static std::string Entries(const QWidget& menu) {
     std::string entries;
     for (const QAction* const entry : menu.actions()) {
         entries += (entry->isSeparator() ? "-" : entry->text().toStdString()) + " ";
-        if (entry->menu()) entries += "(" + Entries(*entry->menu()) + ") ";
+        if (!entry->menu()) continue;
+        EXPECT_EQ(entry->menu()->parent(), &menu) << "Wayland opens no such menu";
+        entries += "(" + Entries(*entry->menu()) + ") ";
     }
     entries.pop_back();
     return entries;
@@ -59,22 +61,12 @@ static std::string Entries(const QWidget& menu) {
 TEST_F(WindowTest, ButtonsAndMenusAreInTheirPlaces) {
     EXPECT_EQ(Buttons("fraNumPad"), "1 2 3 4 5 6 7 8 9 C 0 X");
     EXPECT_EQ(Buttons("fraAction"), "> >I S < << F I");
-    EXPECT_EQ(Buttons("fraChill"), "0 Quiet 100 Step 200 400 800");
-    EXPECT_EQ(Widget("btnGoBackToFreedom").toolTip(), "go back to last field with freedom");
+    EXPECT_EQ(Widget("lblWinner").toolTip(), "winner");
     EXPECT_EQ(Entries(MenuBar()), "File (Import Export - Quit) Edit (Clear (Free All) "
                                   "Lock All (Set Clear)) View (Freedom - Groups Neighbours) "
                                   "? (About)");
+    EXPECT_TRUE(form->isLeftToRight());
     EXPECT_FALSE(form->windowIcon().isNull());
-}
-
-TEST_F(WindowTest, AViewDisablesAllMenusButTheLast) {
-    Meanwhile([&] {
-        std::string enabled;
-        for (const QAction* const title : MenuBar().actions())
-            enabled += title->menu()->isEnabled() ? "1" : "0";
-        EXPECT_EQ(enabled, "0001");
-    });
-    Click("lblDeadEnd");
 }
 
 TEST_F(WindowTest, AQuestionIsAnsweredByButtonsAndKeys) {
@@ -102,14 +94,14 @@ TEST_F(WindowTest, ASavedFileGetsAnExtensionAndNeedsAFolder) {
     At(1).SetValue(5);
     Write("plain", "mine");
     TELLS(Click("mnuFileExportCSV", folder + "no/new.csv"),
-          "Export File Box(Export File|no\nThis folder does not exist.|-) Export File");
+          "Export File Box(Export File|no\nThis folder does not exist.|-)");
     for (const char* const name : {"new", "plain"})
         Click("mnuFileExportCSV", folder + name);
     EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|1;5;0");
     EXPECT_EQ(Read("plain"), "mine");
     EXPECT_EQ(Read("plain.csv"), "Index;Value;Locked|1;5;0");
     TELLS(Click("mnuFileExportCSV", folder + std::string(300, 'x')),
-          "Export File Box(Export File|This file name is too long.|-) Export File");
+          "Export File Box(Export File|This file name is too long.|-)");
 }
 
 TEST_F(WindowTest, FileNamesOfAllKinds) {
@@ -121,32 +113,63 @@ TEST_F(WindowTest, FileNamesOfAllKinds) {
     EXPECT_EQ(Grid(), "1;5;0");
 }
 
-TEST_F(WindowTest, ABoxLiesBesideTheGrid) {
+TEST_F(WindowTest, TheNameTypedCountsWhateverTheListHasSelected) {
+    qputenv("HOME", folder.c_str());
+    QDir(folder.c_str()).mkdir("f");
+    const std::string path = Write("f/a.csv", "Index;Value;Locked|1;5;1");
+    // For the second the dialog lists the folder that the path leads to.
+    for (const std::string& typed : {path, path, std::string("~/f/a.csv")}) {
+        Load("");
+        Click("mnuFileImportCSV", typed);
+        EXPECT_EQ(Grid(), "1;5;1");
+    }
+}
+
+TEST_F(WindowTest, ADialogOpensWhereTheFileIsAndOnlyChooses) {
+    Import("1;5;1");
+    QDir(folder.c_str()).mkdir("f");
+    for (const char* const command : {"mnuFileExportCSV", "mnuFileImportCSV"}) {
+        Meanwhile([&] {
+            QFileDialog& dialog = Dialog();
+            EXPECT_EQ(dialog.directory().path().toStdString() + "/", folder);
+            EXPECT_EQ(dialog.nameFilters().join("; "),
+                      "CSV Dokumente (*.csv) (*.csv); Alle Dateien (*.*) (*)");
+            auto& list = *dialog.findChild<QTreeView*>("treeView");
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {40, 9});
+            Key("Delete");
+            Key("F2");
+            EXPECT_FALSE(list.findChild<QLineEdit*>() || list.dragEnabled());
+            for (const char* const action : {"qt_delete_action", "qt_rename_action"})
+                EXPECT_FALSE(dialog.findChild<QAction*>(action)->isVisible());
+            // Opens the folder that is selected.
+            ClickAt(*dialog.findChild<QPushButton*>(), {5, 5});
+            EXPECT_EQ(dialog.directory().dirName(), "f");
+        });
+        Click(command);
+    }
+    EXPECT_TRUE(QDir(qEnvironmentVariable("XDG_CONFIG_HOME")).isEmpty());
+}
+
+TEST_F(WindowTest, ABoxOfAViewLiesBesideTheGrid) {
     form->move(0, 0);
     Meanwhile([&] {
         const QWidget& last = Widget("lblField(81)");
         const int gridEnd = last.mapToGlobal(last.rect().bottomRight()).x();
-        EXPECT_GT(QApplication::activeModalWidget()->x(), gridEnd);
+        const QWidget& box = *QApplication::activeModalWidget();
+        EXPECT_GT(box.x(), gridEnd);
+        EXPECT_EQ(box.size(), box.maximumSize());
+        EXPECT_FALSE(MenuBar().actions()[0]->menu()->isEnabled());
     });
-    Click("mnuViewNeighbours");
-}
-
-TEST_F(WindowTest, ADialogOpensWhereTheFileIsAndLeavesNoSettings) {
-    Import("1;5;1");
-    Meanwhile([&] {
-        const auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
-        EXPECT_EQ(dialog.directory().path().toStdString() + "/", folder);
-        EXPECT_EQ(dialog.nameFilters().join("; "),
-                  "CSV Dokumente (*.csv) (*.csv); Alle Dateien (*.*) (*)");
-    });
-    Click("mnuFileExportCSV");
-    EXPECT_TRUE(QDir(qEnvironmentVariable("XDG_CONFIG_HOME")).isEmpty());
+    QTest::qWait(200); // until the start is over
+    form->findChild<QAction*>("mnuViewNeighbours")->trigger();
+    // Nobody has made it active.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form->isActiveWindow(); }));
 }
 
 // A typed key repeats there, and the name of a folder leads into it.
 TEST_F(WindowTest, AKeyMayBeHeldInADialogAndAFolderIsEntered) {
     Meanwhile([&] {
-        auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+        QFileDialog& dialog = Dialog();
         auto& name = *dialog.findChild<QLineEdit*>("fileNameEdit");
         dialog.setDirectory(QString::fromStdString(folder));
         Down(1000, "7");
@@ -155,6 +178,7 @@ TEST_F(WindowTest, AKeyMayBeHeldInADialogAndAFolderIsEntered) {
         name.setText("..");
         Key("Return");
         EXPECT_EQ(dialog.directory().path().toStdString() + "/", testing::TempDir());
+        EXPECT_EQ(name.text(), "");
         // ESC might only close a list of names.
         dialog.reject();
     });
@@ -166,6 +190,13 @@ TEST_F(WindowTest, TheWindowHasTheSizeOfItsColumns) {
     // Twips, 15 to a pixel. First grid, number pad and margins, then the side column with its gap.
     EXPECT_NEAR(narrow.width(), 8850 / 15, 2);
     EXPECT_EQ(narrow.height(), 7170 / 15);
+    // A wrong state: jwm sets it for a large window.
+    if (QApplication::platformName() == "xcb")
+        form->windowHandle()->setWindowStates(Qt::WindowFullScreen);
+    // As with a thinner frame: the edge of the side column would show.
+    window.SetWidth(window.Width() + 90);
+    EXPECT_FALSE(Widget("fraInfo").isVisible());
+    window.SetWidth(window.Width() - 90);
     Click("btnInfo");
     EXPECT_EQ(form->frameSize(), narrow + QSize(2775 / 15, 0));
     EXPECT_EQ(form->minimumSize(), form->maximumSize());
@@ -279,7 +310,7 @@ TEST_F(WindowTest, APathThatIsTooLongIsShortenedAndHasATip) {
     const auto tip = [&] {
         QHelpEvent help(QEvent::ToolTip, {5, 5}, label.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&label, &help);
-        return QToolTip::text().toStdString();
+        return QToolTip::text().remove(QRegularExpression("<.*?>")).toStdString();
     };
     // Narrower, as with a thick frame: the client ends before the label.
     window.SetWidth(window.Width() - 300);
@@ -292,7 +323,7 @@ TEST_F(WindowTest, APathThatIsTooLongIsShortenedAndHasATip) {
     // The side column is shown, so there is room for the path.
     EXPECT_EQ(tip(), "");
     Click("btnInfo");
-    EXPECT_EQ(tip(), "<p>" + path.toStdString() + "</p>");
+    EXPECT_EQ(tip(), path.toStdString());
     const QImage shown = label.grab().toImage();
     path = label.fontMetrics().elidedText(path, Qt::ElideMiddle, seen);
     window.lblFile.SetCaption(path.toStdString());

@@ -9,5 +9,6 @@ int main(int argc, char** argv) {
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
+    QApplication::setLayoutDirection(Qt::RightToLeft); // a desktop may have it
     return RUN_ALL_TESTS();
 }
