@@ -7,13 +7,11 @@
 #include <iostream>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const auto commands = tessarin::WindowCommands();
     FuzzedDataProvider input(data, size);
     const auto choose = [&](int last) { return input.ConsumeIntegralInRange(0, last); };
     while (input.remaining_bytes() > 0) {
         const bool withWindow = input.ConsumeBool();
-        const auto script =
-            tessarin::RandomScript(choose, withWindow ? commands : std::vector<std::string>());
+        const auto script = tessarin::RandomScript(choose, withWindow);
         const std::string disagreement = tessarin::Disagreement(script, withWindow);
         if (disagreement.empty()) continue;
         std::cerr << disagreement;

@@ -44,16 +44,26 @@ void Append(auto& items, auto item) {
         items.push_back(item);
 }
 
+struct Outcome {
+    std::string Told;
+    int Moments = 0; // the events and pumps of the last command
+};
+
 // The hands on one side: the program or its model.
 class Hands {
 public:
     explicit Hands(ScriptedPlatform& platform) : mPlatform(platform) {
         std::filesystem::create_directory(msFolder);
         platform.TellsPumps = true;
+        platform.TellsErrors = false;
         platform.EachPump = [this] { PassMoment(); };
         Commands["esc"] = [this] { mPlatform.EscPresses.push_front(true); };
         Commands["refuse"] = [this] { mPlatform.Answers = {"No"}; };
-        Commands["choose"] = [this] { mPlatform.Answers = {File(Csv())}; };
+        Commands["import"] = [this] {
+            mPlatform.Answers = {File(Csv())};
+            mArguments = std::istringstream("mnuFileImportCSV");
+            Commands.at("click")();
+        };
     }
 
     Hands(const Hands&) = delete;
@@ -63,14 +73,14 @@ public:
     std::map<std::string, std::function<void()>> Commands;
     std::function<std::string()> State; ///< told after each command
 
-    /// Gives all commands and returns what is told of them.
-    std::string Work(const Script& script) {
+    /// Gives all commands.
+    Outcome Work(const Script& script) {
         mPlatform.Tell(""); // the pumps of the start
         mPlatform.Record.clear();
         mPlatform.SaysYes = true;
         for (const Row& row : script)
             Give(row);
-        return ReplaceAll(mPlatform.Record, msFolder, "");
+        return {ReplaceAll(mPlatform.Record, msFolder, ""), mlMomentsOfLast};
     }
     void TellEvent(const std::string& event, int index) {
         mPlatform.Tell(event, " ", index);
@@ -185,6 +195,7 @@ private:
         } catch (const HandlerError& error) {
             mPlatform.Tell("! ", error.what());
         }
+        mlMomentsOfLast = mlMoment;
         mPlatform.Tell("\n", State());
     }
     void Do(const std::string& command) {
@@ -214,6 +225,7 @@ private:
     std::istringstream mArguments;
     const Row* mRunning = nullptr; // the innermost command
     int mlMoment = 0;              // the events and pumps of it so far
+    int mlMomentsOfLast = 0;       // those of the command that has ended last
 };
 
 // What is seen and heard of a control, as far as it can change.
@@ -261,7 +273,7 @@ std::vector<Connection> Listen(Game& game, Hands& hands) {
     return connections;
 }
 
-std::string OfProgram(const Script& script) {
+Outcome OfProgram(const Script& script) {
     ScriptedPlatform platform;
     Game game;
     Hands hands(platform);
@@ -270,7 +282,7 @@ std::string OfProgram(const Script& script) {
     return hands.Work(script);
 }
 
-std::string OfModel(const Script& script) {
+Outcome OfModel(const Script& script) {
     ScriptedPlatform platform;
     model::Game game;
     Hands hands(platform);
@@ -279,7 +291,7 @@ std::string OfModel(const Script& script) {
     return hands.Work(script);
 }
 
-std::string OfProgramsWindow(const Script& script) {
+Outcome OfProgramsWindow(const Script& script) {
     static const model::Window known;
     FakeWindow user;
     user.platform.Player = nullptr; // the state has its history
@@ -301,7 +313,7 @@ std::string OfProgramsWindow(const Script& script) {
     return hands.Work(script);
 }
 
-std::string OfModelsWindow(const Script& script) {
+Outcome OfModelsWindow(const Script& script) {
     ScriptedPlatform platform;
     model::Window window;
     Hands hands(platform);
@@ -312,10 +324,20 @@ std::string OfModelsWindow(const Script& script) {
         return platform.TakeAnswer();
     };
     window.TellClosed = [&] { platform.Closed = true; };
-    hands.Commands["click"] = [&] { window.Click(hands.Rest()); };
-    hands.Commands["activate"] = [&] { window.Activate(); };
-    hands.Commands["close"] = [&] { window.Unload(); };
-    hands.Commands["tick"] = [&] { window.Tick(); };
+    // As those of the program, errors of the window's handlers go no further.
+    const auto handled = [&](auto handler) {
+        return [=, &platform] {
+            try {
+                handler();
+            } catch (const std::exception& error) {
+                platform.ReportError(error.what());
+            }
+        };
+    };
+    hands.Commands["click"] = handled([&] { window.Click(hands.Rest()); });
+    hands.Commands["activate"] = handled([&] { window.Activate(); });
+    hands.Commands["close"] = handled([&] { window.Unload(); });
+    hands.Commands["tick"] = handled([&] { window.Tick(); });
     hands.State = [&, ofGame = hands.State] {
         std::ostringstream state;
         state << ofGame() << "\nwide " << window.Width << window.Hourglass << "lblField("
@@ -339,10 +361,19 @@ std::string FirstDifference(const std::string& program, const std::string& model
     return "after " + command + "\nprogram: " + told + "\nmodel:   " + expected;
 }
 
+std::vector<std::string> WindowCommands() {
+    std::vector<std::string> commands{"activate", "close", "tick", "import %c", "import %c"};
+    for (std::string control : FakeWindow().toolkit.Commands()) {
+        control = ReplaceAll(control, "lblField(50)", "lblField(%l)");
+        commands.push_back("click " + ReplaceAll(control, "btnNumPad(5)", "btnNumPad(%k)"));
+    }
+    return commands;
+}
+
 std::string Difference(const Script& script, bool withWindow) {
-    const std::string program = withWindow ? OfProgramsWindow(script) : OfProgram(script);
-    const std::string model = withWindow ? OfModelsWindow(script) : OfModel(script);
-    return program == model ? "" : FirstDifference(program, model);
+    const auto program = withWindow ? OfProgramsWindow(script) : OfProgram(script);
+    const auto model = withWindow ? OfModelsWindow(script) : OfModel(script);
+    return program.Told == model.Told ? "" : FirstDifference(program.Told, model.Told);
 }
 
 } // namespace
@@ -354,13 +385,12 @@ std::string Disagreement(const Script& script, bool withWindow) {
     return "{" + ToCode(shortest) + "}\n" + Difference(shortest, withWindow);
 }
 
-std::vector<std::string> WindowCommands() {
-    std::vector<std::string> commands{"activate", "close", "tick"};
-    for (std::string control : FakeWindow().toolkit.Commands()) {
-        control = ReplaceAll(control, "lblField(50)", "lblField(%l)");
-        commands.push_back("click " + ReplaceAll(control, "btnNumPad(5)", "btnNumPad(%k)"));
-    }
-    return commands;
+Script RandomScript(const Choose& choose, bool withWindow) {
+    static const auto commands = WindowCommands();
+    const auto momentsOfLast = [=](const Script& rows) {
+        return (withWindow ? OfProgramsWindow(rows) : OfProgram(rows)).Moments;
+    };
+    return RandomScript(choose, withWindow ? commands : std::vector<std::string>(), momentsOfLast);
 }
 
 } // namespace tessarin

@@ -9,7 +9,8 @@ constexpr bool WithWindow = true;
 /// Gives the commands to the program and to its model. If they do not do the same, returns the rows
 /// that show it, as code for a test, and the first line of what is told that differs; otherwise "".
 /// Told are events, pumps, calls of the machine, results and errors in their order; after each
-/// command values, locks, cursor, history and dead fields; with a window all that is seen and heard.
+/// command values, locks, cursor, history and dead fields; with a window all that is seen and
+/// heard.
 ///
 ///     value 5 7, lock 5 1, next 5 1    field 5 gets a value, a lock, its next free value
 ///     free 5                           its free values, groups and neighbours
@@ -20,12 +21,12 @@ constexpr bool WithWindow = true;
 ///     enter 7 1, playnext 1, playlock, solve, reset, trace 1
 ///     importcsv LINES, importsdk ROWS  from a file
 ///     esc                              ESC is pressed
-///     refuse, choose LINES             the next box is answered No, the next dialog by a file
-///     click CONTROL, activate, close, tick
+///     refuse                           the next box is answered No
+///     click CONTROL, import LINES, activate, close, tick
 ///     throw                            the handler of an event or pump fails
 std::string Disagreement(const Script& script, bool withWindow);
 
-/// The commands that need a window.
-std::vector<std::string> WindowCommands();
+/// A user who makes these choices: see Script.h.
+Script RandomScript(const Choose& choose, bool withWindow);
 
 } // namespace tessarin

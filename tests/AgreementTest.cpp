@@ -5,15 +5,13 @@
 
 namespace tessarin {
 
-TEST(AgreementTest, OfRandomCommandsForAGame) {
-    for (unsigned seed = 0; seed < 400; ++seed)
-        ASSERT_EQ(Disagreement(RandomScript(Dice(seed), {}), !WithWindow), "") << "seed " << seed;
-}
+class AgreementTest : public testing::TestWithParam<bool> {};
+INSTANTIATE_TEST_SUITE_P(GameAndWindow, AgreementTest, testing::Values(!WithWindow, WithWindow));
 
-TEST(AgreementTest, OfRandomCommandsForTheWindow) {
-    const auto commands = WindowCommands();
-    for (unsigned seed = 0; seed < 300; ++seed)
-        ASSERT_EQ(Disagreement(RandomScript(Dice(seed), commands), WithWindow), "")
+TEST_P(AgreementTest, OnRandomCommands) {
+    const bool withWindow = GetParam();
+    for (unsigned seed = 0; seed < 500; ++seed)
+        ASSERT_EQ(Disagreement(RandomScript(Dice(seed), withWindow), withWindow), "")
             << "seed " << seed;
 }
 

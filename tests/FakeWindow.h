@@ -61,7 +61,11 @@ private:
     };
     struct QuietLabel : Quiet<LabelPeer> {
         QuietLabel(FakeToolkit& kit, Label& label) : mKit(kit), mLabel(label) {}
-        void MakeCurrent() override { mKit.Current = &mLabel; }
+        // A screen reader says the name as soon as the keyboard is there.
+        void MakeCurrent() override {
+            EXPECT_NE(mLabel.AccessibleName().find(", current"), std::string::npos);
+            mKit.Current = &mLabel;
+        }
         FakeToolkit& mKit;
         Label& mLabel;
     };

@@ -20,20 +20,19 @@ namespace {
 // %f stands for a field, %v for a value, %b for no or yes (0 or 1), %d for a dimension, %l for a
 // label of a field, %k for a key of the pad, %c and %s for lines of the two puzzle texts, separated
 // by "|".
-const std::vector<std::string> LogicCommands{
-    "value %f %v", "value %f %v", "lock %f %b", "next %f %b",   "free %f",      "index %f",
-    "index %f",    "clear %b",    "lockall %b", "count",        "count",        "init %d",
-    "csv %c",      "csv %c",      "sdk %s",     "importcsv %c", "importsdk %s", "texts",
-    "reset",       "trace %b",    "goto %b",    "goto 1",       "back %b",      "freedom %b",
-    "enter %v %b", "enter %v 0",  "enter 0 0",  "playlock",     "playnext %b",  "solve",
-    "solve",       "esc",         "refuse",     "choose %c",    "choose %c"};
+const std::vector<std::string> GameCommands{
+    "value %f %v", "lock %f %b", "next %f %b",  "free %f",     "index %f", "clear %b",
+    "lockall %b",  "count",      "init %d",     "csv %c",      "sdk %s",   "importcsv %c",
+    "texts",       "reset",      "trace %b",    "goto %b",     "back %b",  "freedom %b",
+    "enter %v %b", "enter 0 0",  "playlock",    "playnext %b", "solve",    "solve",
+    "esc",         "refuse",     "importsdk %s"};
 
 // Nothing tells the grid of these, so they are not given inside others.
 const std::vector<std::string> GroupCommands{"group %f %f", "regroup %f", "widen %f"};
 
 struct RandomUser {
     Choose Choice;
-    std::vector<std::string> Commands = LogicCommands;
+    std::vector<std::string> Commands = {};
 
     bool OneIn(int number) const { return Choice(number - 1) == 0; }
     const std::string& Pick(const std::vector<std::string>& texts) const {
@@ -41,11 +40,11 @@ struct RandomUser {
     }
     // Mostly one of few, so that commands meet.
     int Field() const { return OneIn(30) ? Choice(700) - 20 : 1 + Choice(OneIn(3) ? 80 : 11); }
-    int Value() const { return OneIn(12) ? Choice(30) - 9 : 1 + Choice(8); }
+    int Value() const { return OneIn(9) ? Choice(30) - 9 : Choice(9); }
 
     // Nearly full, or nearly empty; some values are wrong, and some lines are bad.
     std::string Csv() const {
-        const int percentEmpty = OneIn(3) ? 50 + Choice(50) : Choice(9);
+        const int percentEmpty = OneIn(3) ? 50 + Choice(50) : Choice(OneIn(2) ? 1 : 9);
         std::string lines;
         for (int i = 0; i < 81; ++i) {
             if (Choice(99) < percentEmpty) continue;
@@ -94,15 +93,17 @@ struct RandomUser {
         return command;
     }
 
+    Row Command(int depth) const {
+        Row row{.Command = Filled(Pick(depth == 0 && OneIn(20) ? GroupCommands : Commands))};
+        if (depth > 0) row.Moment = 1 + Choice(OneIn(3) ? 400 : 9);
+        if (depth > 0 && OneIn(40)) row.Command = "throw";
+        if (depth < 3 && OneIn(2)) row.Inside = Rows(depth + 1);
+        return row;
+    }
     Script Rows(int depth) const {
         Script rows;
-        for (int i = Choice(depth == 0 ? 20 : 2); i > 0; --i) {
-            Row& row = rows.emplace_back();
-            if (depth > 0) row.Moment = 1 + Choice(OneIn(3) ? 400 : 9);
-            row.Command = Filled(Pick(depth == 0 && OneIn(20) ? GroupCommands : Commands));
-            if (depth > 0 && OneIn(40)) row.Command = "throw";
-            if (depth < 3 && OneIn(2)) row.Inside = Rows(depth + 1);
-        }
+        for (int i = Choice(depth == 0 ? 12 : 2); i > 0; --i)
+            rows.push_back(Command(depth));
         std::ranges::stable_sort(rows, {}, &Row::Moment);
         return rows;
     }
@@ -116,13 +117,21 @@ Choose Dice(unsigned seed) {
     };
 }
 
-Script RandomScript(const Choose& choose, const std::vector<std::string>& windowCommands) {
+Script RandomScript(const Choose& choose, const std::vector<std::string>& windowCommands,
+                    const std::function<int(const Script&)>& momentsOfLast) {
+    // Few of all commands, so that they meet.
     RandomUser user{choose};
-    for (int i = 0; i < 3; ++i) // more often than the others
-        std::ranges::copy(windowCommands, std::back_inserter(user.Commands));
+    for (int i = 0; i < 8; ++i)
+        user.Commands.push_back(
+            user.Pick(windowCommands.empty() || i < 3 ? GameCommands : windowCommands));
     Script script = user.Rows(0);
     for (const char* const first : {"index %f", "csv %c"})
         script.insert(script.begin(), {.Command = user.Filled(first)});
+    // One command more, with another near its end.
+    script.push_back({.Command = user.Filled(user.Pick(user.Commands))});
+    Row inner = user.Command(1);
+    inner.Moment = std::max(1, momentsOfLast(script) - choose(5));
+    script.back().Inside = {inner};
     return script;
 }
 

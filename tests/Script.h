@@ -23,8 +23,10 @@ using Choose = std::function<int(int last)>;
 /// Choices that are the same for the same seed, with every library.
 Choose Dice(unsigned seed);
 
-/// Loads a grid and goes on with any commands, also inside of others.
-Script RandomScript(const Choose& choose, const std::vector<std::string>& windowCommands);
+/// Loads a grid and goes on with any commands, also inside of others. `momentsOfLast` tells how
+/// many events and pumps the last command of a script has.
+Script RandomScript(const Choose& choose, const std::vector<std::string>& windowCommands,
+                    const std::function<int(const Script&)>& momentsOfLast);
 
 /// Leaves out every row without which the script still fails.
 Script Shortened(Script script, const std::function<bool(const Script&)>& fails);

@@ -15,8 +15,9 @@ public:
     std::deque<bool> EscPresses; ///< before the next cycles of a solve; none after them
     bool SaysYes = false;        ///< to all questions without an answer in Answers
     std::string Folder = ".";
-    bool Hourglass = false; ///< the mouse pointer
-    bool Closed = false;    ///< the window is closed: no pumps, sleeps and questions
+    bool Hourglass = false;  ///< the mouse pointer
+    bool TellsErrors = true; ///< off: only that there was one
+    bool Closed = false;     ///< the window is closed: no pumps, sleeps and questions
 
     void PumpEvents(Pump /*pump*/) override {
         if (!Closed) Pumped();
@@ -45,7 +46,9 @@ public:
         return yes ? Message::Answer::Yes : Message::Answer::No;
     }
     void Beep() override { Tell("Beep"); }
-    void ReportError(const std::string& what) override { Tell("! ", what); }
+    void ReportError(const std::string& what) override {
+        Tell("! ", TellsErrors ? what : "an error");
+    }
     void SetMousePointer(MousePointer pointer) override {
         Hourglass = pointer == MousePointer::Hourglass;
     }
@@ -58,12 +61,16 @@ public:
         Tell(command == HideCommand ? "Hide(" : "Show(", handle, ")");
     }
     int GetWindowLongA(int /*handle*/, int index) override {
-        return index == ExtendedStyle ? 0x10 : 0;
+        return index == ExtendedStyle ? mlStyle : 0;
     }
     void SetWindowLongA(int handle, int index, int value) override {
+        mlStyle = value;
         EXPECT_EQ(index, ExtendedStyle);
         Tell("Style(", handle, "|0x", std::hex, value, ")");
     }
+
+private:
+    int mlStyle = 0x10;
 };
 
 } // namespace tessarin
