@@ -56,7 +56,7 @@ public:
         std::filesystem::create_directory(msFolder);
         platform.TellsPumps = true;
         platform.TellsErrors = false;
-        platform.EachPump = [this] { PassMoment(); };
+        platform.EachPump = [this] { PassMoment(false); };
         Commands["esc"] = [this] { mPlatform.EscPresses.push_front(true); };
         Commands["refuse"] = [this] { mPlatform.Answers = {"No"}; };
         Commands["import"] = [this] {
@@ -84,7 +84,7 @@ public:
     }
     void TellEvent(const std::string& event, int index) {
         mPlatform.Tell(event, " ", index);
-        PassMoment();
+        PassMoment(true);
     }
 
     /// The commands for a game of either side.
@@ -206,7 +206,7 @@ private:
         Commands.at(word)();
     }
     // In each event and pump.
-    void PassMoment() {
+    void PassMoment(bool isEvent) {
         if (mRunning == nullptr) return;
         // A solve that takes long is cancelled.
         auto& presses = mPlatform.EscPresses;
@@ -214,8 +214,10 @@ private:
         ++mlMoment;
         for (const Row& inner : mRunning->Inside) {
             if (inner.Moment != mlMoment) continue;
-            if (inner.Command == "throw") throw HandlerError();
-            Give(inner);
+            if (inner.Command != "throw")
+                Give(inner);
+            else if (isEvent) // what pumps runs handles its errors itself
+                throw HandlerError();
         }
     }
 

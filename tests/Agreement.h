@@ -23,7 +23,7 @@ constexpr bool WithWindow = true;
 ///     esc                              ESC is pressed
 ///     refuse                           the next box is answered No
 ///     click CONTROL, import LINES, activate, close, tick
-///     throw                            the handler of an event or pump fails
+///     throw                            the handler of an event fails
 std::string Disagreement(const Script& script, bool withWindow);
 
 /// A user who makes these choices: see Script.h.
