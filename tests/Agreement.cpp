@@ -71,7 +71,8 @@ public:
     ~Hands() { std::filesystem::remove_all(msFolder); }
 
     std::map<std::string, std::function<void()>> Commands;
-    std::function<std::string()> State; ///< told after each command
+    std::function<std::string()> State;                      ///< told after each command
+    std::function<std::string()> Glance = [] { return ""; }; ///< told whenever it changes
 
     /// Gives all commands.
     Outcome Work(const Script& script) {
@@ -208,6 +209,7 @@ private:
     // In each event and pump.
     void PassMoment(bool isEvent) {
         if (mRunning == nullptr) return;
+        if (const auto seen = Glance(); seen != std::exchange(msSeen, seen)) mPlatform.Tell(seen);
         // A solve that takes long is cancelled.
         auto& presses = mPlatform.EscPresses;
         if (presses.empty()) presses = {false, false, false, false, false, false, true};
@@ -224,6 +226,7 @@ private:
     ScriptedPlatform& mPlatform;
     const std::string msFolder =
         testing::TempDir() + "tessarin-hands-" + std::to_string(std::random_device{}()) + "/";
+    std::string msSeen; // at the last glance
     std::istringstream mArguments;
     const Row* mRunning = nullptr; // the innermost command
     int mlMoment = 0;              // the events and pumps of it so far
@@ -304,10 +307,12 @@ Outcome OfProgramsWindow(const Script& script) {
     hands.Commands["activate"] = [&] { user.window.RaiseActivate(); };
     hands.Commands["close"] = [&] { user.window.Close(); };
     hands.Commands["tick"] = [&] { user.toolkit.Tick(); };
+    hands.Glance = [&] {
+        return user.toolkit.Current->Name() + (user.window.fraAction.Enabled() ? "" : " solving");
+    };
     hands.State = [&, ofGame = hands.State] {
         std::ostringstream state;
-        state << ofGame() << "\nwide " << user.window.Width() << user.platform.Hourglass
-              << user.toolkit.Current->Name();
+        state << ofGame() << "\nwide " << user.window.Width() << user.platform.Hourglass;
         for (const auto& [name, unused] : known.Controls)
             state << Shown(name, LookOf(user.toolkit.Named(name)));
         return state.str();
@@ -340,10 +345,13 @@ Outcome OfModelsWindow(const Script& script) {
     hands.Commands["activate"] = handled([&] { window.Activate(); });
     hands.Commands["close"] = handled([&] { window.Unload(); });
     hands.Commands["tick"] = handled([&] { window.Tick(); });
+    hands.Glance = [&] {
+        return model::Name("lblField", window.Keyboard) +
+               (window.Controls["fraAction"].Enabled ? "" : " solving");
+    };
     hands.State = [&, ofGame = hands.State] {
         std::ostringstream state;
-        state << ofGame() << "\nwide " << window.Width << window.Hourglass << "lblField("
-              << window.Keyboard << ")";
+        state << ofGame() << "\nwide " << window.Width << window.Hourglass;
         for (const auto& [name, control] : window.Controls)
             state << Shown(name, control);
         return state.str();

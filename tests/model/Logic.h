@@ -478,7 +478,6 @@ struct Logic {
         }
         void FileImportSDK(const string& path) { Fields.SetTextSDK(ReadTextFile(path)); }
         void FileExportCSV(const string& path) { WriteTextFile(path, Fields.TextCSV(), "", false); }
-        void FileExportSDK(const string& path) { WriteTextFile(path, Fields.TextSDK(), "", false); }
     };
 };
 
