@@ -49,14 +49,6 @@ TEST_F(FilesTest, OtherTextsOfCSVEmptyTheGrid) {
     EXPECT_EQ(Grid(), "");
 }
 
-TEST_F(FilesTest, ARowOfSDKMayBeShortOrLong) {
-    LoadSDK("1, -2 ,12,0,0,0,0,0,0,7||3|0|0|0|0|0|0|");
-    EXPECT_EQ(Grid(), "1;1;1|2;-2;1|3;12;1|10;7;1|19;3;1");
-    TELLS(LoadSDK("1,,3|0|0|0|0|0|0|0|0|"), "! \"\" is not a whole number");
-    TELLS(LoadSDK("7|0|0|0|0|0|0|0|0,0,0,0,0,0,0,0,5,x|"), "! no item at position 82 of 81");
-    EXPECT_EQ(Grid(), "1;7;1|81;5;1");
-}
-
 TEST_F(FilesTest, RowsOfSDKTellTheDimension) {
     At(1).SetValue(5);
     // Refused: no line break behind the last row; another first line.

@@ -8,9 +8,8 @@
 
 namespace tessarin {
 
-// Arguments of the player's commands and of NextFreeValue.
+// An argument of the player's commands.
 constexpr bool AutoValue = true;
-constexpr bool Store = true;
 
 using GridTest = GameFixture;
 
@@ -21,16 +20,6 @@ TEST_F(GridTest, AFailureNamesTheLineOfItsStep) {
         TELLS(grid.SetIndex(5), "to 6");
     }
     EXPECT_EQ(failures.GetTestPartResult(0).line_number(), __LINE__ - 2);
-}
-
-TEST_F(GridTest, FreeIsWhatNoNeighbourHolds) {
-    Fill("5.......1 .2....... ......... 9");
-    At(41).SetValue(4);
-    // Nor is a field's own value free. Values that the grid does not have take nothing.
-    At(2).SetValue(12);
-    At(3).SetValue(-1);
-    EXPECT_EQ(At(1).FreeValuesList(), "3;4;6;7;8;");
-    EXPECT_EQ(At(41).FreeValuesList(), "1;2;3;5;6;7;8;9;");
 }
 
 TEST_F(GridTest, GroupsAreRowsColumnsAndBoxes) {
@@ -60,14 +49,6 @@ TEST_F(GridTest, LargeGridsHaveMoreValuesThanFitIntoAWord) {
     EXPECT_EQ(grid.NextFreeField(), 10);
 }
 
-TEST_F(GridTest, OnlyChangesAreTold) {
-    TELLS(At(7).SetValue(99), "7=99");
-    TELLS(At(7).SetValue(99), "");
-    // A lock is told with the cursor's field: none.
-    TELLS(At(7).SetLocked(true), "0=0");
-    TELLS(At(7).SetLocked(true), "");
-}
-
 TEST_F(GridTest, TheCursorIsOnAFieldOrNowhere) {
     // Nowhere, as before.
     TELLS(grid.SetIndex(-1), "");
@@ -76,17 +57,6 @@ TEST_F(GridTest, TheCursorIsOnAFieldOrNowhere) {
     TELLS(grid.SetIndex(-1), "! no field -1");
     TELLS(grid.SetIndex(7), "from 5 to 7");
     TELLS(grid.SetIndex(0), "from 7 to 0");
-}
-
-TEST_F(GridTest, AMoveArrivesWhateverHappensOnItsWay) {
-    grid.SetIndex(1);
-    AtPump(1, [&] { grid.SetIndex(9); });
-    TELLS(grid.SetIndex(3), "from 1 from 1 to 9 to 3");
-    AtPump(1, [&] { grid.Init(); });
-    TELLS(grid.SetIndex(4), "from 3 to 4");
-    AtPump(1, [&] { grid.SetIndex(5); });
-    // Told once.
-    TELLS(grid.SetIndex(5), "from 4 from 4 to 5");
 }
 
 TEST_F(GridTest, WinnerComesAndGoes) {
@@ -119,17 +89,6 @@ TEST_F(GridTest, EventsAndPumpsHaveAnOrder) {
     TELLS(At(81).SetValue(8), "81=8 (83) winner 81 (3)");
 }
 
-// A load raises no event in which somebody would read the status.
-TEST_F(GridTest, AStatusPassSeesTheChangesInItsPumps) {
-    for (const int pump : {1, 81}) {
-        Load("1;5;0");
-        AtPump(pump, [&] { Load("1;6;1|2;7;1"); });
-        EXPECT_EQ(grid.FreeCount(), 79);
-        EXPECT_EQ(grid.LockedCount(), 2);
-        EXPECT_EQ(grid.SetCount(), 0);
-    }
-}
-
 TEST_F(GridTest, AWaitPumpsBeforeAndAfterItsSleep) {
     platform.TellsPumps = true;
     TELLS(Wait(100), "(1) Sleep(100) (1)");
@@ -149,33 +108,6 @@ TEST_F(GridTest, AGameThatEndsLeavesANewerOneInItsPlace) {
 
 using PlayTest = GameFixture;
 
-TEST_F(PlayTest, OnlyFreeValuesAreEntered) {
-    // Field 1 may have 3, 4 and 8.
-    Fill("..125.... 67....... 9");
-    grid.SetIndex(1);
-    // Has no effect.
-    At(1).SetLocked(true);
-    Trace({81});
-    TELLS(play.SetValue(5), "");
-    TELLS(play.SetValue(12), "");
-    TELLS(play.SetValue(3), "1=3 +1");
-    TELLS(play.SetValue(3), "");
-    TELLS(play.SetValue(8), "1=8");
-    // The 4 is ignored, and no value follows the 8.
-    TELLS(play.SetValue(4, AutoValue), "");
-}
-
-TEST_F(PlayTest, TheNextFreeValueIsTakenWithoutHistory) {
-    Fill("3.125.... 67....... 9");
-    grid.SetIndex(1);
-    Trace({});
-    TELLS(play.NextFreeValue(Store), "1=4");
-    EXPECT_EQ(play.NextFreeValue(), 8);
-    TELLS(play.NextFreeValue(Store), "1=8");
-    TELLS(EXPECT_EQ(play.NextFreeValue(Store), 0), "1=0");
-    TELLS(play.SetValue(0, AutoValue), "1=3 +1");
-}
-
 TEST_F(PlayTest, ClearingGoesBackAlongTheHistory) {
     FullBut({81});
     // 82 comes from a larger grid and leads nowhere.
@@ -188,68 +120,12 @@ TEST_F(PlayTest, ClearingGoesBackAlongTheHistory) {
     TELLS(play.GoBack(AutoValue), "2=0 -2 2=2 +2");
 }
 
-TEST_F(PlayTest, TheNextFreeFieldIsTheMostConstrained) {
-    // Only 9 is free for the fields 41 and 76.
-    Fill("......... ......... ......... ......... 1234.5678 ......... ......... ......... "
-         "876.54321");
-    Trace({});
-    TELLS(play.GotoNextFreeField(), "to 41");
-    TELLS(play.GotoNextFreeField(AutoValue), "41=9 +41");
-    TELLS(play.GotoNextFreeField(), "from 41 to 76");
-    // Drops the history.
-    TELLS(play.SetTracing(false), "-41");
-}
-
 TEST_F(PlayTest, ARetreatPassesFieldsWithoutFreedom) {
     // No other value is free for any of them: it ends with the history.
     FullBut({81});
     Trace({3, 12, 5});
     grid.SetIndex(5);
     TELLS(EXPECT_TRUE(play.GoBackToFreedom()), "5=0 -5 from 5 to 12 12=0 -12 from 12 to 3 3=0 -3");
-}
-
-TEST_F(PlayTest, ARetreatStopsAtTheFirstFieldWithFreedom) {
-    Fill("4.125.... 67....... 9");
-    Trace({1, 81});
-    At(81).SetValue(1);
-    grid.SetIndex(81);
-    Meanwhile([&] { EXPECT_EQ(play.Retries, 1); });
-    TELLS(play.GoBackToFreedom(), "81=0 -81 from 81 to 1");
-    grid.SetIndex(80);
-    TELLS(play.GoBackToFreedom(AutoValue), "from 80 to 1 1=8");
-    EXPECT_EQ(play.Retries, 2);
-}
-
-TEST_F(PlayTest, WithoutACursorNothingChanges) {
-    Trace({3});
-    TELLS(play.SetValue(5), "");
-    TELLS(play.GoBackToFreedom(AutoValue), "Beep");
-}
-
-// The newest entry is empty and has no free value: no step would change anything.
-TEST_F(PlayTest, ARetreatThatCannotMoveEnds) {
-    Fill(".23456789 1");
-    Trace({2, 1});
-    grid.SetIndex(1);
-    TELLS(EXPECT_FALSE(play.GoBackToFreedom(AutoValue)), "Beep");
-}
-
-TEST_F(PlayTest, AnEntryKeepsItsFieldWhenAClickMovesTheCursor) {
-    grid.SetIndex(1);
-    Trace({2});
-    AtPump(1, [&] { grid.SetIndex(9); });
-    TELLS(play.SetValue(3), "1=3 from 1 to 9 +1");
-    grid.SetIndex(1);
-    AtPump(1, [&] { grid.SetIndex(9); });
-    TELLS(play.SetValue(0), "1=0 from 1 to 9 -1 from 9 to 2");
-}
-
-TEST_F(PlayTest, TheFillGoesWhereAClickHasMovedTheCursor) {
-    grid.SetIndex(80);
-    // Counted now: then only the move pumps. The third pump is after "to 1".
-    grid.Status();
-    AtPump(3, [&] { grid.SetIndex(9); });
-    TELLS(play.GotoNextFreeField(AutoValue), "from 80 to 1 from 1 to 9 9=1");
 }
 
 // Field 32 is dead because 28 holds 3: the retreat raises that. Each change cancels its solve.
@@ -262,23 +138,6 @@ TEST_F(PlayTest, ASolveRetreatsToALargerValueAndGoesOn) {
     EXPECT_EQ(play.Retries, 1);
     TELLS(play.Solve(), "from 28 to 2 2=6 +2");
     EXPECT_EQ(play.Retries, 0);
-}
-
-// Field 46 has no larger value than its 8. It goes back once more, where the history ends.
-TEST_F(PlayTest, ADeadEndThatStaysEndsTheSolve) {
-    Fill("58961.23. 723.956.. .6123789. .4278..6. .7.56.4.3 85.92.7.. 2143..956 .37.5.1.2 "
-         "..51423.8");
-    grid.SetIndex(46);
-    TELLS(play.Solve(), "+46 from 46 to 6 6=4 dead 39 +6 6=0 dead 39 -6 from 6 to 46 "
-                        "46=0 dead 0 -46 46=8 dead 39 Beep");
-}
-
-// The retreat empties field 3, because no other value is free for it, and fills it again.
-TEST_F(PlayTest, AFieldThatHasLeftTheHistoryDoesNotComeBack) {
-    Fill("..3456789 ..2...... ......... ......... ..1");
-    grid.SetIndex(3);
-    TELLS(play.Solve(), "+3 from 3 to 1 1=1 dead 2 +1 1=0 dead 0 -1 from 1 to 3 3=0 -3 3=3 "
-                        "from 3 to 1 1=1 dead 2 +1 1=0 dead 0 -1 1=1 dead 2 Beep");
 }
 
 const std::string EscBox = "Box(ESC gedrückt|Abbrechen?|- Yes No)";

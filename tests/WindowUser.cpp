@@ -1,6 +1,5 @@
 #include "WindowUser.h"
 
-#include "support/modStringLibrary.h"
 #include "ui/Colors.h"
 
 #include <map>
@@ -57,51 +56,6 @@ std::vector<int> WindowUser::Marked() {
 
 std::string WindowUser::Lights() {
     return NameOf(window.lblDeadEnd.BackColor()) + " " + NameOf(window.lblWinner.BackColor());
-}
-
-std::string WindowUser::Pad() {
-    std::string visible, enabled;
-    for (int key = 0; key <= 11; ++key) {
-        const CommandButton& button = window.btnNumPad(key);
-        if (button.Visible()) visible += button.Caption();
-        if (button.Enabled()) enabled += button.Caption();
-    }
-    return visible + " " + enabled + " " + NameOf(window.fraNumPad.BackColor());
-}
-
-std::string WindowUser::Faults() {
-    std::ostringstream faults;
-    const bool enabled = window.mnuFile.Enabled() && window.mnuView.Enabled() &&
-                         window.fraAction.Enabled() && window.fraNumPad.Enabled();
-    if (!enabled) faults << "a menu or panel is disabled; ";
-    if (window.ViewRunning()) faults << "a view runs; ";
-    if (window.ctlRotor1.Running()) faults << "the rotor turns; ";
-    int free = 0, locked = 0, dead = 0;
-    for (const auto& field : grid.Items) {
-        const bool empty = field->Value() == 0;
-        free += empty;
-        locked += field->Locked();
-        dead += empty && field->Freedom() == 0;
-    }
-    if (grid.FreeCount() != free || grid.LockedCount() != locked || grid.DeadCount() != dead)
-        faults << "wrong counts; ";
-    const std::vector<std::string> painted = SeenAndHeard();
-    window.RefreshAll();
-    const std::vector<std::string> right = SeenAndHeard();
-    for (std::size_t i = 0; i < right.size(); ++i)
-        if (painted[i] != right[i]) faults << painted[i] << " instead of " << right[i] << "; ";
-    return faults.str();
-}
-
-// The pad, and what is seen and heard of the fields. What is dead may be older than the grid.
-std::vector<std::string> WindowUser::SeenAndHeard() {
-    std::vector<std::string> all{Pad()};
-    for (int i = 1; i <= 81; ++i) {
-        const Label& label = window.lblField(i);
-        all.push_back(label.Caption() + "/" + NameOf(label.ForeColor()) + "/" + label.Font().Name +
-                      "/" + ReplaceAll(label.AccessibleName(), ", dead", ""));
-    }
-    return all;
 }
 
 } // namespace tessarin

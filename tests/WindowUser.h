@@ -40,17 +40,10 @@ public:
     std::vector<int> Marked();
     /// The dead-end and the winner light: "red normal".
     std::string Lights();
-    /// The visible keys, the enabled keys and the background.
-    std::string Pad();
-    /// What is wrong while no command runs: something is stuck, or grid and window do not agree.
-    std::string Faults();
 
 protected:
     virtual void ClickControl(const std::string& control) = 0;
     void Refresh() override { window.RefreshAll(); }
-
-private:
-    std::vector<std::string> SeenAndHeard();
 };
 
 } // namespace tessarin
