@@ -18,8 +18,8 @@ std::string ToCode(const Script& script) {
 namespace {
 
 // %f stands for a field, %v for a value, %b for no or yes (0 or 1), %d for a dimension, %l for a
-// label of a field, %k for a key of the pad, %c and %s for lines of the two puzzle texts, separated
-// by "|".
+// label of a field, %k for a key of the pad, %o for a pace, %c and %s for lines of the two puzzle
+// texts, separated by "|".
 const std::vector<std::string> GameCommands{
     "value %f %v", "lock %f %b", "next %f %b",  "free %f",     "index %f", "clear %b",
     "lockall %b",  "count",      "init %d",     "csv %c",      "sdk %s",   "importcsv %c",
@@ -81,6 +81,8 @@ struct RandomUser {
             return std::to_string(Choice(11));
         case 'l':
             return std::to_string(1 + Choice(80));
+        case 'o':
+            return std::to_string(Choice(6));
         case 's':
             return writer.Sdk();
         default:
@@ -121,9 +123,12 @@ Script RandomScript(const Choose& choose, const std::vector<std::string>& window
                     const std::function<int(const Script&)>& momentsOfLast) {
     // Few of all commands, so that they meet.
     RandomUser user{choose};
-    for (int i = 0; i < 8; ++i)
+    const bool withWindow = !windowCommands.empty();
+    for (int i = choose(7); i >= 0; --i)
         user.Commands.push_back(
-            user.Pick(windowCommands.empty() || i < 3 ? GameCommands : windowCommands));
+            user.Pick(withWindow && !user.OneIn(3) ? windowCommands : GameCommands));
+    if (withWindow && user.OneIn(2))
+        user.Commands.insert(user.Commands.end(), {"click btnSolve", "click optChill(%o)"});
     Script script = user.Rows(0);
     for (const char* const first : {"index %f", "csv %c"})
         script.insert(script.begin(), {.Command = user.Filled(first)});
