@@ -1,7 +1,7 @@
 #!/bin/bash
 # A long run of random users under the sanitizers: soak.sh [users, 300 by default]
-# Each of them takes 800 steps or more, some of them inside of others, and opens the window anew
-# after closing it.
+# Each of them gives hundreds of commands to the program and its model, many of them inside others, and
+# stops where the two do not do the same.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh
 source "$(dirname "$0")/lib.sh"

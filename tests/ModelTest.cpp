@@ -7,8 +7,12 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <type_traits>
 
 namespace tessarin {
+
+static_assert(!std::is_copy_constructible_v<Event<>> && !std::is_move_constructible_v<Event<>>);
+static_assert(!std::is_copy_constructible_v<Connection> && std::is_move_assignable_v<Connection>);
 
 TEST(EventTest, HandlersMayConnectAndDisconnect) {
     Event<> event;

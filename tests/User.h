@@ -51,8 +51,8 @@ public:
     std::string Record;              ///< what has been told, each item with a blank behind it
     std::deque<std::string> Answers; ///< to the next boxes: a button; to the next dialogs: a path
     bool TellsPumps = false;
-    const Play* Player = nullptr; ///< whose history is told
-    std::function<void()> EachPump = [] {};
+    const Play* Player = nullptr;           ///< whose history is told
+    std::function<void()> EachPump = [] {}; ///< runs in each pump
 
     /// Records a changed history, the pumps since the last call, and the text of all parts.
     void Tell(const auto&... parts) {

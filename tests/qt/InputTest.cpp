@@ -316,8 +316,12 @@ TEST_F(InputTest, TheRotorTurnsInThePausesOfASolveThatBeginsInATick) {
     time.start();
     window.ctlRotor1.SetRunning(true);
     // The first tick of the rotor pumps, and the solve begins in there.
-    AtPump(1, [&] { Click("btnSolve"); });
-    QTest::qWait(20);
+    bool solved = false;
+    AtPump(1, [&] {
+        Click("btnSolve");
+        solved = true;
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return solved; }));
     // Seven fields are painted, each with a pause; at the end no picture is left.
     EXPECT_GE(turns, 7);
     EXPECT_EQ(shown, -1);

@@ -10,6 +10,11 @@
 #include <QTest>
 #include <QtWidgets>
 
+/// In messages of failures.
+inline void PrintTo(const QString& text, std::ostream* stream) {
+    *stream << text.toStdString();
+}
+
 namespace tessarin {
 
 /// The real platform, which records some calls.
@@ -17,11 +22,9 @@ class SpyPlatform final : public qt::QtPlatform, public Recorder {
 public:
     SpyPlatform() : QtPlatform(ProgramVersion) {}
 
-    bool ReallySleeps = false;              ///< off: a sleep takes no time
-    std::function<void()> EachPump = [] {}; ///< runs before each pump handles its events
+    bool ReallySleeps = false; ///< off: a sleep takes no time
 
     void PumpEvents(Pump pump) override {
-        EachPump();
         Pumped();
         QtPlatform::PumpEvents(pump);
     }
