@@ -70,6 +70,14 @@ TEST_F(GridTest, WinnerComesAndGoes) {
     TELLS(At(2).SetValue(0), "2=0");
 }
 
+// What a full grid hides is told with the next change.
+TEST_F(GridTest, AFullGridThatIsWrong) {
+    FullBut({2});
+    TELLS(At(2).SetValue(1), "2=1 winner 2");
+    TELLS(At(1).SetValue(0), "1=0 winner 0");
+    TELLS(At(2).SetValue(0), "2=0 dead 0");
+}
+
 TEST_F(GridTest, DeadEndComesAndGoes) {
     Fill("......... 12.345678 ......... 34.781256");
     // Field 30 is dead, too; the lowest is told.

@@ -50,7 +50,9 @@ TEST(UniqueNumbersTest, RefuseANumberThatIsThere) {
     EXPECT_EQ(numbers.Count(), 1);
 }
 
-TEST(StringLibraryTest, PositionsCountFrom1) {
+TEST(StringLibraryTest, PadsAndPositions) {
+    // As long as with its blanks.
+    EXPECT_EQ(PadLeft(" ab "), "  ab");
     EXPECT_EQ(DeleteChars("abcdef", 2, 3), "aef");
     EXPECT_EQ(DeleteChars("abc", -1, 3), "bc");
     EXPECT_EQ(DeleteChars("abc", 2), "a");

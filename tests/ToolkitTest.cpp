@@ -80,8 +80,12 @@ TEST_F(ToolkitTest, AnOptionAnswersAtOnce) {
         option.RaiseClick();
         EXPECT_EQ(clicks, 1);
     });
+    // By code also while nobody can click it; errors are the caller's.
+    option.SetVisible(false);
     option.Select();
     EXPECT_EQ(clicks, 2);
+    option.Click = [] { throw std::runtime_error("failed"); };
+    EXPECT_THROW(option.Select(), std::runtime_error);
 }
 
 TEST_F(ToolkitTest, ACancelledDialogKeepsTheFileChosenBefore) {

@@ -53,4 +53,16 @@ TEST_F(ViewsTest, TheGroupsViewGoesOnWithItsGroupsAfterAnImport) {
     Click("mnuViewGroups");
 }
 
+TEST_F(ViewsTest, ARotorThatStartsAnewShowsOnePicture) {
+    for (int ticks = 0; ticks < 3; ++ticks) {
+        window.ctlRotor1.SetRunning(true);
+        for (int i = 0; i <= ticks; ++i)
+            toolkit.Tick();
+    }
+    window.ctlRotor1.SetRunning(true);
+    toolkit.Tick();
+    for (int i = 0; i < 12; ++i)
+        EXPECT_EQ(toolkit.Named("Image1(" + std::to_string(i) + ")").Visible(), i == 1) << i;
+}
+
 } // namespace tessarin
