@@ -21,11 +21,11 @@ namespace {
 // label of a field, %k for a key of the pad, %o for a pace, %c and %s for lines of the two puzzle
 // texts, separated by "|".
 const std::vector<std::string> GameCommands{
-    "value %f %v", "lock %f %b", "next %f %b",  "free %f",     "index %f", "clear %b",
-    "lockall %b",  "count",      "init %d",     "csv %c",      "sdk %s",   "importcsv %c",
-    "texts",       "reset",      "trace %b",    "goto %b",     "back %b",  "freedom %b",
-    "enter %v %b", "enter 0 0",  "playlock",    "playnext %b", "solve",    "solve",
-    "esc",         "refuse",     "importsdk %s"};
+    "value %f %v",  "value %f 0",  "lock %f %b", "next %f %b",  "free %f",     "index %f",
+    "clear %b",     "lockall %b",  "count",      "init %d",     "csv %c",      "sdk %s",
+    "importcsv %c", "texts",       "reset",      "trace %b",    "goto %b",     "back %b",
+    "freedom %b",   "enter %v %b", "enter 0 0",  "playlock",    "playnext %b", "solve",
+    "solve",        "esc",         "refuse",     "importsdk %s"};
 
 // Nothing tells the grid of these, so they are not given inside others.
 const std::vector<std::string> GroupCommands{"group %f %f", "regroup %f", "widen %f"};
@@ -96,7 +96,7 @@ struct RandomUser {
     }
 
     Row Command(int depth) const {
-        Row row{.Command = Filled(Pick(depth == 0 && OneIn(20) ? GroupCommands : Commands))};
+        Row row{.Command = Filled(Pick(depth == 0 && OneIn(8) ? GroupCommands : Commands))};
         if (depth > 0) row.Moment = 1 + Choice(OneIn(3) ? 400 : 9);
         if (depth > 0 && OneIn(40)) row.Command = "throw";
         if (depth < 3 && OneIn(2)) row.Inside = Rows(depth + 1);
@@ -127,6 +127,7 @@ Script RandomScript(const Choose& choose, const std::vector<std::string>& window
     for (int i = choose(7); i >= 0; --i)
         user.Commands.push_back(
             user.Pick(withWindow && !user.OneIn(3) ? windowCommands : GameCommands));
+    if (user.OneIn(6)) user.Commands = {"value %f %v", "value %f 0", "free %f", "count"};
     if (withWindow && user.OneIn(2))
         user.Commands.insert(user.Commands.end(), {"click btnSolve", "click optChill(%o)"});
     Script script = user.Rows(0);
