@@ -125,7 +125,9 @@ public:
                  group->Index = lastGroup()->Index + 1;
                  Append(group->Fields, Number());
                  Append(groups, group);
+                 if (Flag()) owner->InGroups = {};
                  owner->GroupAdd(*group);
+                 say(owner->FreeValuesList());
              }},
             {"regroup", [=] { field()->GroupAdd(*lastGroup()); }},
             {"widen", [=, this] { Append(lastGroup()->Fields, Number()); }},

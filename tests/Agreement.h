@@ -16,7 +16,8 @@ constexpr bool WithWindow = true;
 ///     free 5                           its free values, groups and neighbours
 ///     csv LINES, sdk ROWS, texts       loads the grid, writes it; lines are separated by "|"
 ///     init 5, index 5, count, clear 1 (those that are not locked), lockall 1
-///     group 5 9, regroup 5, widen 9    a group of field 9 for field 5; once more; with field 9
+///     group 5 9 1                      a group of field 9 for field 5; 1: as its only one
+///     regroup 5, widen 9               the last group once more; with field 9, too
 ///     goto 1, back 1, freedom 1        the player, with AutoValue
 ///     enter 7 1, playnext 1, playlock, solve, reset, trace 1
 ///     importcsv LINES, importsdk ROWS  from a file

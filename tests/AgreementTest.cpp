@@ -10,7 +10,7 @@ INSTANTIATE_TEST_SUITE_P(GameAndWindow, AgreementTest, testing::Values(!WithWind
 
 TEST_P(AgreementTest, OnRandomCommands) {
     const bool withWindow = GetParam();
-    for (unsigned seed = 0; seed < 700; ++seed)
+    for (unsigned seed = 0; seed < 1000; ++seed)
         ASSERT_EQ(Disagreement(RandomScript(Dice(seed), withWindow), withWindow), "")
             << "seed " << seed;
 }

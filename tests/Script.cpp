@@ -28,7 +28,7 @@ const std::vector<std::string> GameCommands{
     "solve",        "esc",         "refuse",     "importsdk %s"};
 
 // Nothing tells the grid of these, so they are not given inside others.
-const std::vector<std::string> GroupCommands{"group %f %f", "regroup %f", "widen %f"};
+const std::vector<std::string> GroupCommands{"group %f %f %b", "regroup %f", "widen %f"};
 
 struct RandomUser {
     Choose Choice;

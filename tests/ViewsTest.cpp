@@ -53,6 +53,13 @@ TEST_F(ViewsTest, TheGroupsViewGoesOnWithItsGroupsAfterAnImport) {
     Click("mnuViewGroups");
 }
 
+// The bit of the taskbar entry is 0x40000. A change, so that the activation counts, and pumps.
+TEST_F(ViewsTest, AnActivationInsideAnotherHasNoEffect) {
+    Load("81;3;0");
+    AtPump(1, [&] { window.RaiseActivate(); });
+    TELLS(window.RaiseActivate(), "Lock(77) Hide(5) Style(5|0x40010) Show(5) Lock(0)");
+}
+
 TEST_F(ViewsTest, ARotorThatStartsAnewShowsOnePicture) {
     for (int ticks = 0; ticks < 3; ++ticks) {
         window.ctlRotor1.SetRunning(true);
