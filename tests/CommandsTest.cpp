@@ -88,6 +88,13 @@ TEST_F(CommandsTest, APaceForgetsTheCancelOfAStep) {
     TELLS(Click("btnSolve"), "+1 +11 +21");
 }
 
+TEST_F(CommandsTest, APaceThatIsChosenWhileAStepIsPaintedCounts) {
+    FullBut({1, 11, 21});
+    Pace("Step");
+    AtPump(1, [&] { Pace("0"); });
+    TELLS(Click("btnSolve"), "+1 +11 +21");
+}
+
 TEST_F(CommandsTest, AnErrorLeavesAUsableWindow) {
     FullBut({1, 11, 21});
     Meanwhile([] { throw "something that is no exception"; });

@@ -15,7 +15,10 @@ public:
 
     const Control* Current = nullptr; ///< the label that was made the current one last
 
-    Control& Named(const std::string& name) { return *mControls.at(name).first; }
+    Control& Named(const std::string& name) {
+        if (!mControls.contains(name)) throw std::invalid_argument("no control " + name);
+        return *mControls.at(name).first;
+    }
     void Click(const std::string& name) { Named(name).RaiseClick(); }
     /// The interval of the rotor's timer has passed.
     void Tick() {

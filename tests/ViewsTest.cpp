@@ -53,6 +53,25 @@ TEST_F(ViewsTest, TheGroupsViewGoesOnWithItsGroupsAfterAnImport) {
     Click("mnuViewGroups");
 }
 
+TEST_F(ViewsTest, WhatCanBeClickedHasANameAndAPlaceOfItsOwn) {
+    std::vector<TextControl*> controls;
+    for (const auto& command : toolkit.Commands())
+        if (auto* const control = dynamic_cast<TextControl*>(&toolkit.Named(command)))
+            controls.push_back(control);
+    for (const TextControl* const control : controls) {
+        const std::string& name = control->AccessibleName();
+        EXPECT_TRUE(name.size() > 1 || name == "5" || name == "0") << control->Name();
+        for (const TextControl* const other : controls) {
+            if (other == control || other->Container() != control->Container()) continue;
+            EXPECT_TRUE(control->Left() >= other->Left() + other->Width() ||
+                        other->Left() >= control->Left() + control->Width() ||
+                        control->Top() >= other->Top() + other->Height() ||
+                        other->Top() >= control->Top() + control->Height())
+                << control->Name() << " and " << other->Name();
+        }
+    }
+}
+
 // The bit of the taskbar entry is 0x40000. A change, so that the activation counts, and pumps.
 TEST_F(ViewsTest, AnActivationInsideAnotherHasNoEffect) {
     Load("81;3;0");
