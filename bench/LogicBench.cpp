@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The cost of the puzzle logic without a window, and a yardstick for it. The names of the cases say
 // which grid they use. Compare only cases of one run.
 #include "Yardstick.h"

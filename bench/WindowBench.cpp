@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The cost of the real window: from a click to the repainted grid, and from the start of a process
 // to its first painted window. On Qt's offscreen platform unless QT_QPA_PLATFORM names another one.
 #include "MinimalPuzzles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loads any text into a grid in both formats. It may throw only the errors of a bad text.
 // Afterwards the status can be read, and the text that the grid writes loads into the same grid.
 #include "model/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A random user of the program and its model, who takes every choice from the input.
 #include "Agreement.h"
 

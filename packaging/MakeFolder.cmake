@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Makes FOLDER for an installation if it is missing. Everybody can read it; CMake itself would obey
 # the umask of its user, who may be root with 077.
 cmake_path(ABSOLUTE_PATH FOLDER BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}")

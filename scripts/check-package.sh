@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Builds the Debian package twice and checks it: both are the same to the byte, lintian and the
 # validators find nothing, what the package says agrees with CMakeLists.txt, and its program solves a
 # puzzle.

@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Runs the tests under AddressSanitizer and UndefinedBehaviorSanitizer. Then lists the lines of src/
 # that they do not reach, by file, and the sums.
 set -euo pipefail

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 # A virtual X display, to show or drive a program without a screen. Every process started with
 # start_process ends with the script, however the script ends.

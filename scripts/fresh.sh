@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Runs the README's two commands on a bare system, as a new user would: fresh.sh bookworm|trixie|forky
 # Makes a minimal Debian of that release in a temporary folder, from the mirror that this machine's
 # apt uses, and copies the last commit in: once with git and the history, once the plain files.

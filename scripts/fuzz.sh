@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Fuzzes the puzzle formats and the window: fuzz.sh [seconds for each target]
 # Saves inputs that fail in build/fuzz/found.
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Builds the Debian package from the upstream tarball and debian/ in build/package/ and prints its path.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh

@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Builds the program and opens its window. Without a display the window opens on a virtual one, which
 # a VNC viewer can show with a password of this start; closing the window ends everything.
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # A long run of random users under the sanitizers: soak.sh [users, 300 by default]
 # Each of them gives hundreds of commands to the program and its model, many of them inside others, and
 # stops where the two do not do the same.

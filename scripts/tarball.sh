@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Makes the upstream tarball and prints its path: tarball.sh [file]
 # In a git checkout it holds the last commit, equal to the byte each time; elsewhere the folder. What is
 # Debian's own, the folder debian/, is left out.

@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Works the program on Wayland, without a screen: a compositor draws on a virtual X display, and what
 # xdotool sends to its window reaches the program as Wayland input. Checks what is seen by the
 # colours of pictures: test-wayland.sh [folder under build/ [weston|sway...]]

@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Starts an X server and a window manager, and runs the tests of the real window on them, then a test
 # of what a screen reader hears, and the tests of how the window looks with another font: test-x11.sh
 # [folder under build/ [ctest options...]]

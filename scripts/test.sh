@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Builds the program and its tests and runs them all, without a display.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh

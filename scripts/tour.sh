@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Drives the real program with mouse and keys on a virtual display and saves pictures in build/tour/.
 set -euo pipefail
 # shellcheck source=scripts/lib.sh

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Stops the build if a source in the folder LAYER of src includes another folder of src than ALLOWED
 # ("model|platform"), or one of these in another way than "folder/name.h".
 cmake_minimum_required(VERSION 3.25)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Program.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtToolkit.h"

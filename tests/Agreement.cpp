@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Agreement.h"
 
 #include "FakeWindow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program does what its model does, whatever is asked of it.
 #include "Agreement.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The commands of buttons and menus, and the automatic solve.
 #include "FakeWindow.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The two text formats of a grid, and their files.
 #include "GameFixture.h"
 #include "support/modStringLibrary.h"

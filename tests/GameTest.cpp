@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The grid: fields, cursor, counts, status and events. The player by hand, and the automatic solve.
 #include "GameFixture.h"
 #include "model/Groups.h"

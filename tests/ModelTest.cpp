@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The small classes below the grid.
 #include "model/Errors.h"
 #include "model/Event.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Commands that the program and its model understand alike.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The controls of a window, apart from this program's window.
 #include "FakeWindow.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "User.h"
 
 #include "support/modStringLibrary.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What all tests use: a record of what happens, commands inside other commands, and a user's hands
 // on the grid.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What fields and panels show, and the views.
 #include "FakeWindow.h"
 #include "model/Groups.h"

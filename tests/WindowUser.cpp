@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "WindowUser.h"
 
 #include "ui/Colors.h"

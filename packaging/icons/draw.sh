@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Draws the icons of all sizes from tessarin.svg. Needs rsvg-convert (Debian: librsvg2-bin).
 set -euo pipefail
 cd "$(dirname "$0")"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The errors of UniqueNumbers and of text items. A position or index that does not exist is
 // std::out_of_range, a number outside the 32-bit range std::overflow_error.
 #pragma once

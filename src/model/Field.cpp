@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/Field.h"
 
 #include "model/Board.h"

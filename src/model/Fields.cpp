@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/Fields.h"
 
 #include "model/Board.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/Group.h"
 
 namespace tessarin {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/Groups.h"
 
 #include "model/Board.h"

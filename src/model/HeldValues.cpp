@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/HeldValues.h"
 
 #include "model/Board.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The two puzzle text formats, in both directions, for a field and for the whole grid.
 #include "model/Field.h"
 #include "model/Fields.h"

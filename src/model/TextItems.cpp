@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/TextItems.h"
 
 #include "model/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lines and items of the puzzle text formats.
 #pragma once
 

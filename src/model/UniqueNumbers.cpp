@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/UniqueNumbers.h"
 
 #include "model/Errors.h"

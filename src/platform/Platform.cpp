@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/Platform.h"
 
 #include "platform/NullPlatform.h"

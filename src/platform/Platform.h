@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the program asks of the machine it runs on, without any toolkit type.
 #pragma once
 

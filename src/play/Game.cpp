@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "play/Game.h"
 
 #include "model/Fields.h"

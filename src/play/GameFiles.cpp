@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The puzzle files of the game.
 #include "play/Game.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "play/Play.h"
 
 #include "model/Board.h"

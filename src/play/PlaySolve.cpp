@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The automatic solve of the player.
 #include "play/Play.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "play/modGame.h"
 
 #include "platform/Platform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The one game of the run, and the About text.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "qt/ControlWidget.h"
 
 #include "qt/KeyboardFocus.h"

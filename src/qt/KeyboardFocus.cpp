@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "qt/KeyboardFocus.h"
 
 #include "toolkit/Controls.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "qt/QtButton.h"
 
 #include "qt/QtLook.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The buttons. They report every click, also on an option that is selected already.
 #pragma once
 

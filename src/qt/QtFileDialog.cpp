@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The file dialog, the same on every desktop.
 #include "qt/QtForm.h"
 #include "qt/QtLook.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "qt/QtForm.h"
 
 #include "qt/QtButton.h"

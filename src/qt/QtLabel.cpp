@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "qt/QtLabel.h"
 
 #include "qt/KeyboardFocus.h"

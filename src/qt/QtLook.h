@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Twips, colours and fonts of the controls in Qt's terms.
 #pragma once
 

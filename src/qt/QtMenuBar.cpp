@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "qt/QtMenuBar.h"
 
 #include "qt/KeyboardFocus.h"

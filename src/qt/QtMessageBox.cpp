@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The message box.
 #include "qt/BoxPlace.h"
 #include "qt/QtLook.h"

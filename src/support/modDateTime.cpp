@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/modDateTime.h"
 
 #include "support/modStringLibrary.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Date and time as text.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/modKbd.h"
 
 #include "platform/Platform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The request to cancel a running automatic solve, and the question that ESC asks.
 #pragma once
 

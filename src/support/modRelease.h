@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When this version of the program was released.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/modStringLibrary.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Text helpers for file names, dates and version numbers. Texts are 8-bit, positions count from 1,
 // and a blank is only the character 32.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/modTaskBar.h"
 
 #include "platform/AtScopeEnd.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The taskbar entry of a window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/modTextStream.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads and writes whole text files. A byte is a character; line ends and byte-order marks stay as
 // they are. No function shows anything, leaves a file open, or throws because of a file.
 #pragma once

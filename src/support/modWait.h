@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Waiting while the window stays responsive.
 #pragma once
 

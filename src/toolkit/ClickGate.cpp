@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/ClickGate.h"
 
 #include "platform/ScopedValue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/Controls.h"
 
 #include "platform/ScopedValue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The kinds of control in a window.
 #pragma once
 

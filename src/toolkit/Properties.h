@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the controls of a window are designed with, a structure for each kind.
 #pragma once
 

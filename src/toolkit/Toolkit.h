@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the controls of a window need from a window toolkit.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The fixed colours of the window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/FieldLook.h"
 
 namespace tessarin {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the label of a field looks like.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The paces of the automatic solve.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The life cycle of the window.
 #include "ui/frmTessarin.h"
 

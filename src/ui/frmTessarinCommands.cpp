@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The handlers of menus, buttons and options, and those of the game's events.
 #include "model/Fields.h"
 #include "platform/AtScopeEnd.h"

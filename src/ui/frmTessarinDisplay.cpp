@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Painting: fields, information panel, number pad, indicators.
 #include "model/Fields.h"
 #include "play/Play.h"

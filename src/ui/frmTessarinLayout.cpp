@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The layout of the window, for the dimension that the grid has at start-up.
 #include "model/Fields.h"
 #include "platform/Platform.h"

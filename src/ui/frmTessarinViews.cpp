@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The views: each shows something in the grid for a while.
 #include "model/Fields.h"
 #include "model/Groups.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the puzzle's logic does, written a second time, slowly and plainly, to compare the
 // program with.
 #pragma once

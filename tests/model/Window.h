@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the main window does and shows, written a second time, plainly, to compare the program with.
 #pragma once
 

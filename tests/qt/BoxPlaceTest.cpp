@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a message box opens.
 #include "qt/BoxPlace.h"
 

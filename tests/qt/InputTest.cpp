@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What mouse and keys do to the controls, also during an automatic solve.
 #include "QtFixture.h"
 

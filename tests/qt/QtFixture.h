@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The real window with a user made of mouse and key events.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window, its boxes and file dialogs: places, colours, screen reader, activation, closing.
 #include "QtFixture.h"
 #include "qt/QtLook.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: MIT
 """Works the program by keyboard and listens on the accessibility bus as a screen reader does:
 screen_reader.py <program>. Needs a display and a session bus."""
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/ctlRotor/ctlRotor.h"
 
 #include "platform/Platform.h"

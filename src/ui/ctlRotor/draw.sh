@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Draws the rotor's twelve pictures from rotor.svg, each turned 10 degrees counterclockwise from the
 # one before. Needs rsvg-convert (Debian: librsvg2-bin).
 set -euo pipefail
