@@ -62,7 +62,7 @@ User::User(Recorder& recorder, Game& played)
     : game(played),
       grid(*game.Fields),
       play(*game.Play),
-      folder(testing::TempDir() + "tessarin-" + std::to_string(std::random_device{}()) + "/"),
+      folder(testing::TempDir() + "tessarin." + std::to_string(std::random_device{}()) + "/"),
       mRecorder(recorder) {
     std::filesystem::create_directory(folder);
     recorder.Player = &play;

@@ -113,6 +113,11 @@ TEST_F(InputTest, AClickBesideTheGridLeavesTheKeyboardThere) {
     // The key hides itself, and gives the keyboard back.
     Key("Space");
     EXPECT_EQ(Focused(), "lblField(1)");
+    // For good, if it was disabled.
+    Focus("btnNumPad(0)");
+    Key("X");
+    Key("X");
+    EXPECT_EQ(Focused(), "lblField(1)");
 }
 
 TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {

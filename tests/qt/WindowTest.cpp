@@ -101,7 +101,7 @@ TEST_F(WindowTest, ASavedFileGetsAnExtensionAndNeedsAFolder) {
     EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|1;5;0");
     EXPECT_EQ(Read("plain"), "mine");
     EXPECT_EQ(Read("plain.csv"), "Index;Value;Locked|1;5;0");
-    TELLS(Click("mnuFileExportCSV", folder + std::string(300, 'x')),
+    TELLS(Click("mnuFileExportCSV", folder + QString(150, u'ä').toStdString()),
           "Export File Box(Export File|This file name is too long.|-)");
 }
 
@@ -136,7 +136,9 @@ TEST_F(WindowTest, ADialogOpensWhereTheFileIsAndOnlyChooses) {
             EXPECT_EQ(dialog.nameFilters().join("; "),
                       "CSV Dokumente (*.csv) (*.csv); Alle Dateien (*.*) (*)");
             auto& list = *dialog.findChild<QTreeView*>("treeView");
-            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {40, 9});
+            const QPoint first(40, 9);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return list.indexAt(first).data() == "f"; }));
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, first);
             Key("Delete");
             Key("F2");
             EXPECT_FALSE(list.findChild<QLineEdit*>() || list.dragEnabled());
@@ -152,7 +154,7 @@ TEST_F(WindowTest, ADialogOpensWhereTheFileIsAndOnlyChooses) {
 }
 
 TEST_F(WindowTest, ABoxOfAViewLiesBesideTheGrid) {
-    form->move(0, 0);
+    form->move(40, 0);
     Meanwhile([&] {
         const QWidget& last = Widget("lblField(81)");
         const int gridEnd = last.mapToGlobal(last.rect().bottomRight()).x();
@@ -298,6 +300,9 @@ TEST_F(WindowTest, ASleepOnlyPaints) {
     EXPECT_FALSE(field.underMouse());
     platform.PumpEvents(Pump::Now);
     EXPECT_TRUE(field.underMouse());
+    // Timers tick in a pump of what the sleep runs: that of this timer, and of the tick.
+    QTimer::singleShot(0, form, [&] { platform.PumpEvents(Pump::Now); });
+    TELLS(platform.Sleep(20), "(2)");
 }
 
 TEST_F(WindowTest, AllLinesOfTheInformationAreWholeInAHighFont) {
@@ -348,8 +353,9 @@ TEST_P(WindowTest, TheProgramEndsSoonWhenClosedInACommand) {
     QApplication::exec();
     // The view alone would sleep for 1000.
     EXPECT_LT(sinceClose.elapsed(), 900);
-    // The question was not answered.
+    // The question was not answered, and none is asked any more.
     EXPECT_EQ(Grid(), "1;5;0");
+    TELLS(platform.ShowMessage({}), "");
 }
 
 } // namespace tessarin
