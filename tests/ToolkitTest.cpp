@@ -40,8 +40,11 @@ TEST_F(ToolkitTest, AClosedFormTakesNoClicks) {
     EXPECT_FALSE(form.RaiseUnload());
     button.RaiseClick();
     refuse = false;
+    OptionButton option{form, "option", {}};
+    option.Click = button.Click;
     EXPECT_TRUE(form.RaiseUnload());
     button.RaiseClick();
+    option.RaiseClick();
     EXPECT_EQ(clicks, 1);
 }
 

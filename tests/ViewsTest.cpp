@@ -13,6 +13,13 @@ TEST_F(ViewsTest, DeadCellsAreRedWhileTheirNumberIsShown) {
     Meanwhile([&] { EXPECT_EQ(Seen({12, 30}), ".:red .:red"); });
     TELLS(Click("lblDeadEnd"), "Box(|Dead cells = 2|- OK)");
     EXPECT_EQ(Seen({12, 30}), ". .");
+    // Only those that are dead at the end get their background back.
+    Meanwhile([&] { At(75).SetValue(0); });
+    Click("lblDeadEnd");
+    EXPECT_EQ(Seen({12, 30}), ".:red .:red");
+    Meanwhile([&] { window.Close(); });
+    Click("lblDeadEnd");
+    EXPECT_TRUE(platform.Closed);
 }
 
 TEST_F(ViewsTest, NeighboursAreYellowWhileTheirNumberIsShown) {
@@ -38,6 +45,7 @@ TEST_F(ViewsTest, FreedomsShowHowManyValuesAreFree) {
     Meanwhile([&] {
         EXPECT_EQ(Seen({1, 19}), "0:red/normal:Arial 12 1:green/red:Arial 12");
         EXPECT_EQ(Seen({80, 9}), "2:yellow/red:Arial 12 8:green");
+        EXPECT_EQ(window.lblField(1).AccessibleName(), "row 1, column 1: empty, locked, freedom 0");
     });
     TELLS(Click("mnuViewFreedom"), "Box(|Freedoms of fields|- OK)");
     EXPECT_EQ(Seen({1, 19, 80, 9}), ". . . 8:green");
