@@ -59,7 +59,8 @@ public:
         platform.TellsErrors = false;
         platform.EachPump = [this] { PassMoment(false); };
         Commands["esc"] = [this] { mPlatform.EscPresses.push_front(true); };
-        Commands["refuse"] = [this] { mPlatform.Answers = {"No"}; };
+        // Not Yes; a dialog takes it for a new file.
+        Commands["refuse"] = [this] { mPlatform.Answers = {msFolder + "new"}; };
         Commands["import"] = [this] {
             mPlatform.Answers = {File(Csv())};
             mArguments = std::istringstream("mnuFileImportCSV");

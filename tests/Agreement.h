@@ -23,7 +23,7 @@ constexpr bool WithWindow = true;
 ///     enter 7 1, playnext 1, playlock, solve, reset, trace 1
 ///     importcsv LINES, importsdk ROWS  from a file
 ///     esc                              ESC is pressed
-///     refuse                           the next box is answered No
+///     refuse                           the next box is answered No, the next dialog by a new file
 ///     click CONTROL, import LINES, activate, close, tick
 ///     throw                            the handler of an event fails
 std::string Disagreement(const Script& script, bool withWindow);

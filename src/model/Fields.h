@@ -86,7 +86,7 @@ public:
     /// leaves the grid unchanged. Throws TypeMismatchError or std::overflow_error for an item that
     /// is no number of 32 bits, and std::out_of_range for items past the last field; what was
     /// loaded before stays. Raises Init only.
-    void SetTextSDK(std::string_view MyTextCSV);
+    void SetTextSDK(std::string_view MyTextSDK);
 
     /// Locks or unlocks every field with a value above 0.
     void SetLockAll(bool LockState);

@@ -39,7 +39,6 @@ int HeldValues::Freedom(const Field& field) const {
     return freedom;
 }
 
-// None for a number that is no value of the grid.
 HeldValues::Word HeldValues::BitOf(int value, int word) const {
     if (value < 1 || value > mlNumbers || value / BitsInWord != word) return 0;
     return Word{1} << value % BitsInWord;

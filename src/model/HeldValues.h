@@ -12,8 +12,9 @@ namespace tessarin {
 class Field;
 class Group;
 
-/// The values that the groups of Grid() hold when the object is created, and so those that are free
-/// for its fields: one look at the grid answers for all of them.
+/// The values that the groups of the board hold when the object is created, and so those that are
+/// free for the fields of Grid(): one look at the grid answers for all of them. To be used before
+/// the grid changes: a field's own value and groups are read when it is asked about.
 class HeldValues {
 public:
     HeldValues();
@@ -30,7 +31,8 @@ private:
     static constexpr int BitsInWord = 64;
     int WordCount() const { return mlNumbers / BitsInWord + 1; }
 
-    // Of a value, of a group's values or of those taken for a field: the bits in that word.
+    // Each returns bits of the given word: the bit of a value (none if the grid has no such value),
+    // those of the values that a group holds, those of the values that are taken for a field.
     Word BitOf(int value, int word) const;
     Word HeldBy(const Group& group, int word) const;
     Word TakenFor(const Field& field, int word) const;

@@ -80,9 +80,9 @@ std::string Fields::TextSDK() const {
     return text;
 }
 
-void Fields::SetTextSDK(std::string_view MyTextCSV) {
-    if (FirstLine(MyTextCSV) != HeaderSDK) return;
-    TextItems lines(MyTextCSV, LineBreak);
+void Fields::SetTextSDK(std::string_view MyTextSDK) {
+    if (FirstLine(MyTextSDK) != HeaderSDK) return;
+    TextItems lines(MyTextSDK, LineBreak);
     const int dimension = DimensionOfLines(CountItems(lines));
     if (dimension == 0) return;
     Init(dimension);

@@ -50,7 +50,7 @@ private:
     QtPlatform& mPlatform;
 };
 
-/// The same of controls with a text.
+/// The same for controls with a text.
 class TextWidget : public ControlWidget {
 protected:
     TextWidget(TextControl& control, QWidget& widget, const Site& site)

@@ -122,8 +122,8 @@ private:
         return QDir::cleanPath(path);
     }
 
-    // A file to open may have no extension: the default one is tried only if the name as typed does
-    // not exist. A file to save always gets one.
+    // A name without extension gets the default one. But a file to open may have none: there the
+    // name as typed comes first, if it exists.
     void AcceptFile(QString path) {
         const bool isComplete = acceptMode() == AcceptOpen && QFileInfo::exists(path);
         if (!isComplete && !QFileInfo(path).fileName().contains('.'))

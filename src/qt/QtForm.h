@@ -52,7 +52,7 @@ private:
     QWidget mClient{this};
 
     bool mbClosed = false;
-    bool mbActivated = false;     // the window has been active
+    bool mbActivated = false;     // Activate has run
     bool mbLeftForOwnBox = false; // the window is inactive because of a box of its own
 };
 

@@ -54,7 +54,7 @@ void WindowFrame::ApplySizeOnWayland() {
     Qt::WindowStates states = mWindow.windowState();
     if (const QWindow* const native = mWindow.windowHandle()) states |= native->windowStates();
     if (states.testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen)) return;
-    const bool hasOwnSize = HasOwnSize();
+    const bool hasOwnSize = HasOwnSize(); // before the least size changes
     // A least size holds for maximised windows, too: on a small screen it leaves room for panels.
     mWindow.setMinimumSize(InnerSize().boundedTo(mWindow.screen()->size() * 0.75));
     if (hasOwnSize) {

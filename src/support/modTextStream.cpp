@@ -29,7 +29,7 @@ int Write(const std::string& FileName, const std::string& bytes, bool replaceExi
     const int writeError = isWritten ? 0 : errno;
     const int closeError = std::fclose(file) == 0 ? 0 : errno;
     const int error = isWritten ? closeError : writeError;
-    // The file is new. Left behind, it would refuse the next export to its name.
+    // The file is new. Left behind, it would make the next export to its name fail.
     if (error != 0 && !replaceExisting) std::remove(FileName.c_str());
     return error;
 }

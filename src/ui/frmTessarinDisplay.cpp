@@ -49,14 +49,14 @@ void frmTessarin::ShowState(int index, const FieldState& state) {
     lblField(index).SetAccessibleName(SpokenName(state));
 }
 
-// Shows the state and keeps the current label, which has arrow keys, focus and screen reader, where
-// the cursor is.
+// Shows the state, and keeps the current label where the cursor is: the arrow keys start at it, and
+// the focus and the screen reader follow it.
 //
-// When the field that the cursor has left is painted, the cursor's label becomes current first: a
-// screen reader announces a new name only where the focus is, so it announces only the move.
+// If this is the field that the cursor has left, the cursor's label becomes current first: a screen
+// reader announces a new name only where the focus is, so it announces only the move.
 //
-// When the field that the cursor has reached is painted, another one may still look current: a
-// click has moved the cursor there in the middle of this move. That one is shown as it is now.
+// If this is the field that the cursor has reached, another field may still look current: a click
+// in the middle of this move had taken the cursor to it. It is shown again, as it is now.
 void frmTessarin::ShowStateAndCurrent(int index, const FieldState& state) {
     const Fields& grid = *moGame->Fields;
     if (index == PaintedCurrent && !state.IsCursor) {

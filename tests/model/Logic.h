@@ -318,7 +318,8 @@ struct Logic {
     public:
         explicit Play(Game& g) : game(g) {}
 
-        std::optional<vector<int>> History; // the fields filled while tracing, oldest first
+        std::optional<vector<int>>
+            History; // filled while tracing, or where a solve began; oldest first
         int Retries = 0;
 
         void Reset() {
@@ -345,7 +346,9 @@ struct Logic {
 
         int Value() const { return Cursor() ? Cursor()->Value() : 0; }
 
-        /// 0 clears the field or, if it is empty, goes to the newest entry of the history.
+        /// 0 clears the field. While tracing, the field then leaves the history, and the cursor
+        /// goes to the newest entry; from an empty field it only goes there. autoValue takes the
+        /// next free value.
         void SetValue(int value, bool autoValue = false) {
             const auto field = Cursor();
             if (!field) return;

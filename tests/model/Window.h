@@ -34,10 +34,11 @@ public:
     }
     Window(const Window&) = delete;
 
-    /// Called after the window's own handling of an event; for a file dialog, "" when cancelled; at
-    /// the end.
+    /// Called after the window has handled an event itself.
     std::function<void(const string& event, int index)> Told = [](const string&, int) {};
+    /// Asks for a file; "" when cancelled.
     std::function<string(const string& title)> Dialog;
+    /// Called when the window has closed.
     std::function<void()> TellClosed;
 
     Game moGame;
@@ -209,7 +210,7 @@ private:
         Controls["fraAction"].Enabled = Controls["fraNumPad"].Enabled = enabled;
     }
 
-    /// A step that fails is skipped, and the next one runs.
+    /// A step that fails ends there, and the next one runs all the same.
     static void RunAll(const vector<std::function<void()>>& steps) {
         for (const auto& step : steps) {
             try {
