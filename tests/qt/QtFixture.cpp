@@ -80,13 +80,13 @@ QWidget& QtFixture::Top() {
 
 void QtFixture::LookForBox() {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || dialog == mSeen) return;
+    if (dialog == nullptr || dialog->property("seen").isValid()) return;
     // Only an active box can be answered. A window manager would activate it.
     if (!dialog->isActiveWindow()) {
         dialog->activateWindow();
         return;
     }
-    mSeen = dialog;
+    dialog->setProperty("seen", true);
     // Fires again although this handler has not ended.
     mEyes.start();
     if (const auto* const box = qobject_cast<const QMessageBox*>(dialog)) {

@@ -89,7 +89,6 @@ private:
     void AnswerBox(QDialog& dialog);
 
     QTimer mEyes;
-    QPointer<QDialog> mSeen;
 };
 
 } // namespace tessarin
