@@ -36,13 +36,15 @@ make_cookie() {
     )
 }
 
-# start_display <width>x<height>: starts an X server on a free number and a small window manager.
+# start_display <width>x<height>: starts an X server on a free number and a small window manager. With
+# -noreset the server does not start anew when its only client ends, which would throw out whoever
+# connects at that moment.
 start_display() {
     # shellcheck disable=SC2154 # lib.sh has been sourced before
     need "${display_packages[@]}"
     make_cookie
-    start_process Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -auth "$XAUTHORITY" \
-        3>"$scratch/number" 2>"$scratch/Xvfb.log"
+    start_process Xvfb -displayfd 3 -screen 0 "$1x24" -noreset -nolisten tcp \
+        -auth "$XAUTHORITY" 3>"$scratch/number" 2>"$scratch/Xvfb.log"
     wait_until 20 "virtual display" test -s "$scratch/number"
     DISPLAY=:$(<"$scratch/number")
     export DISPLAY
