@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What mouse and keys do to the controls, also during an automatic solve.
+// What mouse and keys do to the controls, also during an automatic solve. The fixture looks at
+// window and keyboard after each step.
 #include "QtFixture.h"
 
 namespace tessarin {
@@ -7,71 +8,77 @@ namespace tessarin {
 using InputTest = QtFixture;
 
 TEST_F(InputTest, EachLeftClickAnswersOnce) {
+    Click("btnInfo");
     TellClicks();
+    // Selected already.
+    TELLS(Pace("0"), "optChill(1)");
     const std::string field = "lblField(40)";
-    TELLS(Mouse(QTest::MouseClick, field, Qt::RightButton), "");
+    const auto mouse = [&](QTest::MouseAction action, const std::string& control,
+                           Qt::MouseButton button = Qt::LeftButton) {
+        const QPoint place = Widget(control).mapTo(form, QPoint(9, 9));
+        QTest::mouseEvent(action, form->windowHandle(), button, {}, place);
+    };
+    TELLS(mouse(QTest::MouseClick, field, Qt::RightButton), "");
     Focus("btnSolve");
-    Mouse(QTest::MousePress, field);
+    mouse(QTest::MousePress, field);
     // Beside it.
-    TELLS(Mouse(QTest::MouseRelease, "lblField(41)"), "");
+    TELLS(mouse(QTest::MouseRelease, "lblField(41)"), "");
+    mouse(QTest::MousePress, field);
+    TELLS(mouse(QTest::MouseClick, field, Qt::RightButton), "");
     EXPECT_EQ(Focused(), "btnSolve");
-    Mouse(QTest::MousePress, field);
-    TELLS(Mouse(QTest::MouseClick, field, Qt::RightButton), "");
-    TELLS(Mouse(QTest::MouseRelease, field), "field 40");
-    TELLS(Mouse(QTest::MouseDClick, field), "field 40 field 40");
+    TELLS(mouse(QTest::MouseRelease, field), field);
+    TELLS(mouse(QTest::MouseDClick, field), field + " " + field);
     // A screen reader hears only of the field that the click makes the current one.
     Focus("btnSolve");
-    window.lblField.Click = [&](int) { EXPECT_EQ(Focused(), "btnSolve"); };
+    window.lblField(40).Click = [&] { EXPECT_EQ(Focused(), "btnSolve"); };
     Click(40);
 }
 
 TEST_F(InputTest, ArrowsMoveFromTheCurrentField) {
     grid.SetIndex(41);
-    Key("Left");
-    EXPECT_EQ(Focused(), "lblField(40)");
     const std::pair<const char*, int> moves[] = {
-        {"Num+Down", 49}, {"Home", 46}, {"Up", 37},       {"End", 45},       {"Right", 45},
-        {"Ctrl+Home", 1}, {"Up", 1},    {"Ctrl+End", 81}, {"Shift+Left", 81}};
+        {"Left", 40},  {"Num+Down", 49}, {"Home", 46}, {"Up", 37},       {"End", 45},
+        {"Right", 45}, {"Ctrl+Home", 1}, {"Up", 1},    {"Ctrl+End", 81}, {"Shift+Left", 81}};
     for (const auto& [key, field] : moves) {
         Key(key);
         EXPECT_EQ(grid.Index(), field) << key;
     }
+}
+
+TEST_F(InputTest, KeysClickTheControlsThatCanBeClicked) {
     TellClicks();
-    TELLS(Key("Space"), "field 81");
-    TELLS(Key("Enter"), "field 81");
-}
-
-TEST_F(InputTest, ACharacterClicksTheButtonWithThisCaption) {
-    Key("5");
-    EXPECT_EQ(Grid(), "1;5;0");
-    Key("Num+7");
-    Key("Ctrl+3");
-    EXPECT_EQ(Grid(), "1;7;0");
-    Key("F");
-    Key("X");
-    // Is disabled for a locked field.
-    Key("C");
-    EXPECT_EQ(Grid(), "1;8;1");
-    Key("X");
-    Key("C");
+    At(1).SetValue(5);
+    // Now the key 6 is hidden.
     At(2).SetValue(6);
-    // Is hidden, because 6 stands in the row.
-    Key("6");
-    EXPECT_EQ(Grid(), "2;6;0");
-    grid.SetIndex(81);
-    Key("Shift+>");
-    EXPECT_EQ(grid.Index(), 1);
+    const std::pair<const char*, const char*> clicks[] = {{"Space", "lblField(1)"},
+                                                          {"Enter", "lblField(1)"},
+                                                          {"Num+7", "btnNumPad(7)"},
+                                                          {"Ctrl+7", ""},
+                                                          {"6", ""},
+                                                          {"X", "btnNumPad(10)"},
+                                                          {"Delete", "btnNumPad(11)"},
+                                                          {"Backspace", "btnNumPad(11)"},
+                                                          {"Shift+>", "btnNextFree"},
+                                                          {"F", "btnNextFreeValue"},
+                                                          {"PgDown", "btnNextFreeAuto"},
+                                                          {"PgUp", "btnGoBackToFreedom"},
+                                                          {"Ctrl+O", "mnuFileImportCSV"},
+                                                          {"Ctrl+S", "mnuFileExportCSV"},
+                                                          {"Ctrl+Q", "mnuFileQuit"}};
+    for (const auto& [key, control] : clicks)
+        EXPECT_EQ(Told([this, key = key] { Key(key); }), control) << key;
+    At(1).SetLocked(true);
+    TELLS(Key("C"), "");
 }
 
-TEST_F(InputTest, ACharacterInAMenuOrABoxClicksNoButton) {
+TEST_F(InputTest, ACharacterInABoxOrAMenuClicksNoButton) {
+    Meanwhile([&] { Key("4"); });
+    Click("lblDeadEnd");
     Key("Alt");
     Key("4");
     Key("Down");
     Key("4");
     Key("Esc");
-    EXPECT_EQ(Focused(), "lblField(1)");
-    Meanwhile([&] { Key("4"); });
-    Click("lblDeadEnd");
     EXPECT_EQ(Grid(), "");
 }
 
@@ -79,13 +86,13 @@ TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
     TellClicks();
     Focus("btnInfo");
     Down(1000, "Space");
-    TELLS(Repeat(1600, "Space"), "info");
+    TELLS(Repeat(1600, "Space"), "btnInfo");
     TELLS(Repeat(1640, "Space"), "");
     TELLS(Up(1650, "Space"), "");
-    TELLS(Key("Return"), "info");
+    TELLS(Key("Return"), "btnInfo");
     Focus("lblField(1)");
-    TELLS(Down(4000, "Right"), "field 2");
-    TELLS(Repeat(4600, "Right"), "field 2");
+    TELLS(Down(4000, "Right"), "lblField(2)");
+    TELLS(Repeat(4600, "Right"), "lblField(2)");
 }
 
 // The release of a key is lost if a box opens or closes while it is down.
@@ -95,29 +102,26 @@ TEST_F(InputTest, EveryPressCountsWithoutARelease) {
         Down(1300, "Return");
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
         TellClicks();
-        Focus("lblField(1)");
-        TELLS(Down(1500, "Return"), "field 1");
+        TELLS(Down(1500, "Return"), "lblDeadEnd");
         TELLS(Repeat(2100, "Return"), "");
-        TELLS(Down(2101, "Return"), "field 1");
+        TELLS(Down(2101, "Return"), "lblDeadEnd");
     });
     Down(1000, "Return");
 }
 
-TEST_F(InputTest, AClickBesideTheGridLeavesTheKeyboardThere) {
-    Click("btnNumPad(5)");
-    Click("btnInfo");
-    Pace("200");
-    Click("lblDeadEnd");
-    EXPECT_EQ(Focused(), "lblField(1)");
+// The fixture expects that it comes to the grid and stays there.
+TEST_F(InputTest, AButtonThatEndsItselfGivesTheKeyboardBack) {
     Focus("btnNumPad(6)");
-    // The key hides itself, and gives the keyboard back.
+    // Hides this key.
     Key("Space");
-    EXPECT_EQ(Focused(), "lblField(1)");
-    // For good, if it was disabled.
     Focus("btnNumPad(0)");
     Key("X");
     Key("X");
-    EXPECT_EQ(Focused(), "lblField(1)");
+    // The solve has the keyboard wait for a key that it hides.
+    FullBut({1});
+    Focus("btnNumPad(1)");
+    Key("S");
+    Key("C");
 }
 
 TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {
@@ -126,29 +130,24 @@ TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {
         FullBut({1, 11, 21});
         Focus("btnSolve");
         Meanwhile(meanwhile);
-        Key("Space");
+        Down(1000, "Space");
+        Up(1100, "Space");
         return Focused();
     };
-    EXPECT_EQ(afterSolve([] {}), "btnSolve");
+    const auto lookAround = [&] {
+        Click("mnuAbout");
+        EXPECT_NE(Picture("lblField(1)").pixelColor(2, 2), Qt::white) << "a ring in the grid";
+    };
+    EXPECT_EQ(afterSolve(lookAround), "btnSolve");
     // In the grid, where the last move has led.
     EXPECT_EQ(afterSolve([&] { Click(5); }), "lblField(21)");
+    EXPECT_EQ(afterSolve([&] { Key("Right"); }), "lblField(21)");
     EXPECT_EQ(afterSolve([&] { Focus("optChill(1)"); }), "optChill(1)");
-    EXPECT_EQ(afterSolve([&] {
-                  Key("Tab");
-                  Key("Shift+Tab");
-              }),
-              "lblField(21)");
-}
-
-TEST_F(InputTest, AKeyThatIsHiddenAfterASolveDoesNotGetTheFocusLater) {
-    FullBut({1});
-    Focus("btnNumPad(1)");
-    Key("S");
-    platform.PumpEvents(Pump::Now);
-    const QPoint ring = Widget("lblField(1)").mapTo(form, QPoint(2, 20));
-    EXPECT_EQ(form->screen()->grabWindow(form->winId()).toImage().pixelColor(ring), Qt::white);
-    Key("C");
-    EXPECT_EQ(Focused(), "lblField(1)");
+    const auto leaveAndReturn = [&] {
+        Key("Tab");
+        Key("Shift+Tab");
+    };
+    EXPECT_EQ(afterSolve(leaveAndReturn), "lblField(21)");
 }
 
 TEST_F(InputTest, LeavingTheMenuBarGivesTheFocusBack) {
@@ -168,119 +167,85 @@ TEST_F(InputTest, LeavingTheMenuBarGivesTheFocusBack) {
     EXPECT_EQ(Focused(), "lblField(5)");
 }
 
-TEST_F(InputTest, AltWithAClickIsNoTapOnAlt) {
+TEST_F(InputTest, AltWithAClickOrAtTheEndIsNoTapOnAlt) {
     Down(9000, "Alt");
     Click(5);
     Up(9100, "Alt");
     EXPECT_EQ(Focused(), "lblField(5)");
-}
-
-TEST_F(InputTest, CommandsHaveKeys) {
-    At(1).SetValue(5);
-    Key("Delete");
-    EXPECT_EQ(Grid(), "");
-    At(1).SetValue(5);
-    Key("Backspace");
-    EXPECT_EQ(Grid(), "");
-    Key("PgDown");
-    Trace({1});
-    TELLS(Key("Ctrl+O"), "Import File");
-    TELLS(Key("Ctrl+S"), "Export File");
-    EXPECT_EQ(Grid(), "1;1;0");
-    TELLS(Key("PgUp"), "-1");
-    Key("Ctrl+Q");
-    EXPECT_FALSE(form->isVisible());
+    FullBut({1, 11});
+    Meanwhile([&] {
+        Down(9500, "Alt");
+        // By Alt+F4, of which some desktops keep the F4. The solve refuses.
+        form->close();
+        Up(9600, "Alt");
+        EXPECT_EQ(Focused(), "lblField(1)");
+    });
+    Click("btnSolve");
+    EXPECT_TRUE(form->isVisible());
 }
 
 TEST_F(InputTest, KeysOpenTheMenus) {
-    Load("1;5;0");
-    Key("Alt");
-    Key("Down");
-    TELLS(Key("Return"), "Import File");
-    Key("Alt+E");
-    // "Lock All" is the last entry, "Set" its first one.
-    Key("Up");
-    Key("Right");
-    Key("Return");
-    EXPECT_EQ(Seen({1}), "5:green/red");
     // From its first entry again, although a box has been open.
     for (int i = 0; i < 2; ++i) {
         Key("Alt+V");
         TELLS(Key("Return"), "Box(Velmora Sudoku Solver|Freedoms of fields|-)");
     }
+    TellClicks();
+    Key("Alt");
+    Key("Down");
+    TELLS(Key("Return"), "mnuFileImportCSV");
+    Key("Alt+E");
+    // "Lock All" is the last entry, "Set" its first one.
+    Key("Up");
+    Key("Right");
+    TELLS(Key("Return"), "mnuEditLockAllSet");
     Key("Alt+Shift+?");
-    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
-    Key("Esc");
+    TELLS(Key("Return"), "mnuAbout");
+    const auto bar = [&] { return form->findChild<QMenuBar*>()->grab().toImage(); };
+    const QImage plain = bar();
     Key("F10");
-    EXPECT_TRUE(MenuBar().hasFocus());
+    EXPECT_NE(bar(), plain) << "the keyboard is not seen there";
     Key("F10");
     EXPECT_EQ(Focused(), "lblField(1)");
 }
 
-TEST_F(InputTest, TabStopsOnceInTheGrid) {
-    // The side column is hidden.
+TEST_F(InputTest, AHeldTabGoesThroughThePanelsRowByRow) {
+    At(1).SetValue(5);
+    QStringList captions;
+    Down(1000, "Tab");
+    for (int time = 1500; time < 1519; ++time) {
+        captions << form->focusWidget()->property("text").toString();
+        Repeat(time, "Tab");
+    }
+    // "DeadEnd" has no text. The side column is hidden, and so is the 5.
+    EXPECT_EQ(captions.join(" "), "1 2 3 4 6 7 8 9 C 0 X > >I S < << F  I");
+    EXPECT_EQ(Focused(), "lblField(1)");
+    Click("btnInfo");
     Key("Shift+Tab");
-    EXPECT_EQ(Focused(), "btnInfo");
-    Key("Space");
+    EXPECT_EQ(Focused(), "optChill(1)");
     Pace("200");
     Pace("0");
     Click(12);
-    Key("Tab");
-    EXPECT_EQ(Focused(), "btnNumPad(1)");
-    Key("Shift+Tab");
     Key("Shift+Tab");
     EXPECT_EQ(Focused(), "optChill(1)");
     Key("Tab");
     EXPECT_EQ(Focused(), "lblField(12)");
-    Focus("btnNextFreeValue");
-    Key("Tab");
-    EXPECT_EQ(Focused(), "lblDeadEnd");
 }
 
-TEST_F(InputTest, ASolveDisablesPanelsAndKeepsTheWindow) {
-    FullBut({1, 11, 21, 31});
-    Meanwhile([&] {
-        for (const char* const refused :
-             {"btnInfo", "btnGoBack", "lblDeadEnd", "btnNumPad(11)", "mnuFileQuit"})
-            TELLS(Click(refused), "");
-        EXPECT_FALSE(window.InfoVisible());
-        // Some desktops keep the F4 of Alt+F4.
-        Down(9000, "Alt");
-        form->close();
-        Up(9100, "Alt");
-        EXPECT_FALSE(MenuBar().hasFocus());
-        EXPECT_EQ(grid.FreeCount(), 3);
-        Click(5);
-        EXPECT_EQ(grid.Index(), 5);
-    });
-    Click("btnSolve");
-    EXPECT_EQ(grid.FreeCount(), 0);
-    EXPECT_FALSE(HasHourglass());
-    EXPECT_TRUE(form->isVisible());
-}
-
-TEST_F(InputTest, ABoxInASolveHasTheUsualPointer) {
-    FullBut({1, 11});
-    Meanwhile([&] {
-        Meanwhile([] { EXPECT_FALSE(HasHourglass()); });
-        Click("mnuAbout");
-        EXPECT_TRUE(HasHourglass());
-    });
-    Click("btnSolve");
-}
-
+// The fixture expects that no ESC has asked for an end.
 TEST_F(InputTest, AnEscThatClosesSomethingDoesNotAsk) {
+    At(1).SetValue(5);
     Key("Alt+E");
     Key("Right");
     // Closes the submenu alone: the next keys go to its menu.
     Key("Esc");
     Key("Right");
     platform.Answers = {"Esc"};
-    Key("Return");
+    TELLS(Key("Return"), "Box(Velmora Sudoku Solver|Clear Free?|?)");
+    EXPECT_EQ(Grid(), "1;5;0");
     Click("mnuFileExportCSV", "Esc");
     Key("Alt");
     Key("Esc");
-    EXPECT_FALSE(platform.EscPressed());
 }
 
 TEST_F(InputTest, APressOfEscCountsOnce) {
@@ -291,7 +256,6 @@ TEST_F(InputTest, APressOfEscCountsOnce) {
     Down(1900, "Esc");
     Up(1910, "Esc");
     EXPECT_TRUE(platform.EscPressed());
-    EXPECT_FALSE(platform.EscPressed());
 }
 
 // Neither ESC nor an arrow key, which would go from Yes to No.
@@ -303,17 +267,22 @@ TEST_F(InputTest, RepeatsOfAHeldKeyDoNotAnswerAQuestion) {
         Repeat(1640, "Esc");
         Repeat(1650, "Right");
     });
-    TELLS(Click("btnSolve", "Return"), "+1 Box(ESC gedrückt|Abbrechen?|-)");
+    // "Yes" ends the solve.
+    Click("btnSolve", "Return");
+    EXPECT_NE(grid.FreeCount(), 0);
 }
 
 TEST_F(InputTest, TheRotorTurnsInThePausesOfASolveThatBeginsInATick) {
     platform.ReallySleeps = true;
-    int shown = -1, turns = 0;
+    int turns = 0;
+    QImage shown;
+    bool begins = false, solved = false;
     platform.EachPump = [&] {
-        int picture = -1;
-        for (int i = 0; i < 12; ++i)
-            if (!Widget("Image1(" + std::to_string(i) + ")").isHidden()) picture = i;
+        const QImage picture = Picture("ctlRotor1");
         turns += std::exchange(shown, picture) == picture ? 0 : 1;
+        if (!std::exchange(begins, false)) return;
+        Click("btnSolve");
+        solved = true;
     };
     FullBut({1, 11, 21});
     Click("btnInfo");
@@ -322,15 +291,10 @@ TEST_F(InputTest, TheRotorTurnsInThePausesOfASolveThatBeginsInATick) {
     time.start();
     window.ctlRotor1.SetRunning(true);
     // The first tick of the rotor pumps, and the solve begins in there.
-    bool solved = false;
-    AtPump(1, [&] {
-        Click("btnSolve");
-        solved = true;
-    });
+    begins = true;
     EXPECT_TRUE(QTest::qWaitFor([&] { return solved; }));
-    // Seven fields are painted, each with a pause; at the end no picture is left.
+    // Seven fields are painted, each with a pause.
     EXPECT_GE(turns, 7);
-    EXPECT_EQ(shown, -1);
     EXPECT_GE(time.elapsed(), 600);
 }
 

@@ -4,7 +4,6 @@
 
 #include "Program.h"
 #include "WindowUser.h"
-#include "qt/QtForm.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtToolkit.h"
 
@@ -36,17 +35,39 @@ public:
     void ReportError(const std::string& what) override { ADD_FAILURE() << what; }
 };
 
-using QtParts = WindowParts<SpyPlatform, qt::QtToolkit>;
+/// The real toolkit, which knows the controls that it has made, and what their clicks run.
+class SpyToolkit final : public qt::QtToolkit {
+    auto Note(auto& control) {
+        Controls.push_back(&control);
+        if constexpr (requires { control.Click; }) Clicks.emplace(&control, control.Click);
+        return QtToolkit::Create(control);
+    }
+
+public:
+    using QtToolkit::QtToolkit;
+
+    std::vector<const Control*> Controls;
+    std::map<const Control*, std::function<void()>&> Clicks;
+
+    using QtToolkit::Create;
+    std::unique_ptr<ControlPeer> Create(CommandButton& button) override { return Note(button); }
+    std::unique_ptr<ControlPeer> Create(Frame& frame) override { return Note(frame); }
+    std::unique_ptr<LabelPeer> Create(Label& label) override { return Note(label); }
+    std::unique_ptr<ControlPeer> Create(MenuItem& item) override { return Note(item); }
+    std::unique_ptr<OptionPeer> Create(OptionButton& option) override { return Note(option); }
+};
+
+using QtParts = WindowParts<SpyPlatform, SpyToolkit>;
 
 /// The window, shown and active. What the user does returns when its command has ended and its
-/// boxes are answered: those without an answer by their only button, dialogs by ESC. "Esc" and
-/// "Return" are answers, too.
+/// boxes are answered: by the path of a file, else by a key, "Esc" if there is no answer. After
+/// each step, each box and each test ExpectOrder looks at the window.
 class QtFixture : public testing::Test, protected QtParts, public WindowUser {
 protected:
     QWidget* const form = &platform.Window();
 
     QtFixture();
-    void TearDown() override { platform.ExpectNothingLeft(); }
+    void TearDown() override;
 
     /// Presses and releases a key, "Ctrl+Home", in the window that would get it.
     void Key(const QString& keys);
@@ -58,35 +79,35 @@ protected:
         Up(time, key);
         Down(time, key);
     }
-    /// Does something with the mouse near the corner of a control.
-    void Mouse(QTest::MouseAction action, const std::string& control,
-               Qt::MouseButton button = Qt::LeftButton);
     void Focus(const std::string& control) { Widget(control).setFocus(); }
+    /// "" for the menu bar.
     std::string Focused() { return form->focusWidget()->objectName().toStdString(); }
     /// The user returns to the window, if it is not behind a box.
     void Activate();
-    static bool HasHourglass();
-    /// From now on clicks on fields and on "I" are only told.
+    /// From now on clicks are only told, by the names of the controls.
     void TellClicks();
+    /// Fails unless the window shows what its controls say, and the keyboard is where it belongs.
+    void ExpectOrder();
 
     /// The file dialog that is open, when it has listed its folder.
     static QFileDialog& Dialog();
-    /// Types a name into it. While a path grows, the dialog itself selects rows of its list.
-    static void Type(const QString& name);
     /// Sends a click to the top window, so that modal boxes, open menus and disabled panels keep it
     /// from the controls as they do for a user.
     static void ClickAt(QWidget& widget, QPoint where);
 
     QWidget& Widget(const std::string& name);
-    QMenuBar& MenuBar() { return *form->findChild<QMenuBar*>(); }
+    QImage Picture(const char* control) { return Widget(control).grab().toImage(); }
 
 private:
-    // Clicks the middle of a control. An entry of a menu is triggered as by a key.
+    // Clicks a control near its corner. An entry of a menu is triggered as by a key.
     void ClickControl(const std::string& control) override;
-    QWidget& Top();
+    static QDialog* Box() { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
+    void Press(const QString& keys);
     void SendKey(QEvent::Type type, int time, const QString& key);
     void LookForBox();
-    void AnswerBox(QDialog& dialog);
+    void ExpectShown(const TextControl& control);
+    void ExpectFocusOnCurrentField();
+    void EndStep(const std::string& focusBefore);
 
     QTimer mEyes;
 };
