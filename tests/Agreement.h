@@ -15,16 +15,17 @@ constexpr bool WithWindow = true;
 ///
 ///     value 5 7, lock 5 1, next 5 1    field 5 gets a value, a lock, its next free value
 ///     free 5                           its free values, groups and neighbours
-///     csv LINES, sdk ROWS, texts       loads the grid, writes it; lines are separated by "|"
+///     csv TEXT, sdk TEXT, texts        loads the grid, writes it; "|" stands for a line break
 ///     init 5, index 5, count, clear 1 (those that are not locked), lockall 1
 ///     group 5 9 1                      a group of field 9 for field 5; 1: as its only one
 ///     regroup 5, widen 9               the last group once more; with field 9, too
 ///     goto 1, back 1, freedom 1        the player, with AutoValue
-///     enter 7 1, playnext 1, playlock, solve, reset, trace 1
-///     importcsv LINES, importsdk ROWS  from a file
+///     enter 7 1, playnext 1, playlock, solve, reset
+///     trace 1, remember 600            traces the history; a new entry of it
+///     importcsv TEXT, importsdk TEXT   from a file
 ///     esc                              ESC is pressed
 ///     refuse                           the next box is answered No, the next dialog by a new file
-///     click CONTROL, import LINES, activate, close, tick
+///     click CONTROL, import TEXT, activate, close, tick
 ///     throw                            the handler of an event fails
 std::string Disagreement(const Script& script, bool withWindow);
 

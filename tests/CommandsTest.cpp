@@ -1,106 +1,81 @@
 // SPDX-License-Identifier: MIT
-// The commands of buttons and menus, and the automatic solve.
+// Stories of the window. What they leave out is in its model: see AgreementTest.cpp.
 #include "FakeWindow.h"
 
 namespace tessarin {
 
-using CommandsTest = WindowFixture;
+class CommandsTest : public testing::Test, protected FakeWindow {
+    void TearDown() override { platform.ExpectNothingLeft(); }
+};
 
 TEST_F(CommandsTest, APuzzleIsWorkedByHand) {
     // 7, 8 and 9 are left for the row.
-    Import("2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1");
+    const std::string given = "2;1;1|3;2;1|4;3;1|5;4;1|6;5;1|7;6;1";
+    const std::string file = Import(given);
+    EXPECT_EQ(window.lblFile.Caption(), file);
     Click(50);
     Click("btnNextFree");
     EXPECT_EQ(grid.Index(), 1);
-    TELLS(Click("btnNextFreeAuto"), "+1");
-    TELLS(Click("btnNextFreeAuto"), "+8");
-    Click("btnNextFreeValue");
-    EXPECT_EQ(Seen({1, 8}), "7 9:green");
-    TELLS(Click("btnGoBack"), "-8");
-    Click("btnNextFreeValue");
-    EXPECT_EQ(Seen({1, 8}), "8:green .");
-    Click(8);
-    TELLS(Click("btnNumPad(7)"), "+8");
-    TELLS(Click("btnGoBackToFreedom"), "-8");
-    TELLS(Click("btnGoBackToFreedom"), "-1 Beep");
-}
-
-TEST_F(CommandsTest, ClearingAsksFirst) {
-    const std::string file = Import("1;5;1|2;3;0");
     Click("btnNextFreeAuto");
-    Click("mnuEditClearFree", "No");
+    Click("btnNextFreeAuto");
+    Click("btnNextFreeValue");
+    EXPECT_EQ(Grid(), "1;7;0|" + given + "|8;9;0");
+    // Empties field 8, and goes back to the one before.
+    Click("btnGoBack");
+    Click("btnNextFreeValue");
+    EXPECT_EQ(Grid(), "1;8;0|" + given);
+    Click(8);
+    Click("btnNumPad(7)");
+    Click("btnGoBackToFreedom");
+    TELLS(Click("btnGoBackToFreedom"), "Beep");
     Click("mnuEditClearAll", "No");
-    EXPECT_EQ(Seen({1, 2}), "5/red 3");
-    // Keeps the history.
     TELLS(Click("mnuEditClearFree", "Yes"), "Box(|Clear Free?|? Yes No)");
-    EXPECT_EQ(Grid(), "1;5;1");
-    EXPECT_EQ(window.lblFile.Caption(), file);
-    Click("mnuEditClearAll", "Yes");
-    EXPECT_EQ(Seen({1, 2}), ".:green .");
-    EXPECT_EQ(window.lblFile.Caption(), "");
-}
-
-TEST_F(CommandsTest, TheLightsStayUntilTheNextEventOrImport) {
-    FullBut({81});
-    At(81).SetValue(8);
-    Click("mnuEditClearAll", "Yes");
-    EXPECT_EQ(Lights(), "normal green");
-    Fill(".12345678");
-    At(10).SetValue(9);
-    EXPECT_EQ(Lights(), "red green");
-    // Cancelled, and yet:
-    TELLS(Click("mnuFileImportCSV"), "Import File");
-    EXPECT_EQ(Lights(), "normal normal");
-    EXPECT_EQ(Seen({2}), "1");
-}
-
-TEST_F(CommandsTest, WhatCanBeReadOfABadFileIsShown) {
-    At(81).SetValue(7);
-    Import("12;3;0|13;x;0|14;4;0");
-    EXPECT_EQ(Grid(), "12;3;0");
-    EXPECT_EQ(Seen({1, 12, 81}), ".:green 3 .");
-    Click("mnuFileImportCSV", folder + "missing.csv");
-    EXPECT_EQ(window.lblFile.Caption(), folder + "missing.csv");
-    EXPECT_EQ(Grid(), "");
-}
-
-TEST_F(CommandsTest, AnExportWritesANewFileAndStartsTheHistory) {
-    At(1).SetValue(5);
+    EXPECT_EQ(Grid(), given);
     TELLS(Click("mnuFileExportCSV", folder + "new.csv"), "Export File");
-    EXPECT_EQ(window.lblFile.Caption(), "");
-    EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|1;5;0");
-    TELLS(Click("btnNumPad(9)"), "+1");
-    // Keeps it.
-    TELLS(Click("mnuFileExportCSV", folder + "again.csv"), "Export File");
-}
-
-TEST_F(CommandsTest, AnImportKeepsItsNameInSpiteOfANestedDialog) {
-    const std::string good = Write("good.csv", "Index;Value;Locked|1;5;1");
-    AtPump(1, [&] { Import("2;5;1"); });
-    Click("mnuFileImportCSV", good);
-    EXPECT_EQ(window.lblFile.Caption(), good);
-    EXPECT_EQ(Grid(), "1;5;1");
-}
-
-TEST_F(CommandsTest, APaceForgetsTheCancelOfAStep) {
-    FullBut({1, 11, 21});
-    Pace("Step");
-    Meanwhile([&] { Pace("0"); });
-    TELLS(Click("btnSolve"), "+1 +11 +21");
-}
-
-TEST_F(CommandsTest, APaceThatIsChosenWhileAStepIsPaintedCounts) {
-    FullBut({1, 11, 21});
-    Pace("Step");
-    AtPump(1, [&] { Pace("0"); });
-    TELLS(Click("btnSolve"), "+1 +11 +21");
+    EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|" + given);
 }
 
 TEST_F(CommandsTest, AnErrorLeavesAUsableWindow) {
     FullBut({1, 11, 21});
     Meanwhile([] { throw "something that is no exception"; });
-    TELLS(Click("btnSolve"), "+1 ! an error of an unknown kind");
-    TELLS(Click("btnSolve"), "+11 +21");
+    TELLS(Click("btnSolve"), "! an error of an unknown kind");
+    EXPECT_EQ(grid.FreeCount(), 2);
+    Click("btnSolve");
+    EXPECT_EQ(grid.FreeCount(), 0);
+}
+
+TEST_F(CommandsTest, ARotorThatRunsMayStartAnew) {
+    window.ctlRotor1.SetRunning(true);
+    Tick();
+    Tick();
+    window.ctlRotor1.SetRunning(true);
+    Tick();
+    EXPECT_TRUE(toolkit.Named("Image1(1)").Visible());
+}
+
+TEST_F(CommandsTest, AScreenReaderSaysWhatAPaceIsAndThatALightIsOff) {
+    EXPECT_EQ(window.PaceOption("Quiet").AccessibleName(), "only show result");
+    EXPECT_EQ(window.PaceOption("0").AccessibleName(), "pause 0 milliseconds");
+    EXPECT_EQ(window.lblWinner.AccessibleName(), "winner: not lit");
+}
+
+TEST_F(CommandsTest, WhatCanBeClickedHasANameAndAPlaceOfItsOwn) {
+    std::vector<TextControl*> controls;
+    for (const auto& name : toolkit.Names())
+        if (auto* const control = dynamic_cast<TextControl*>(&toolkit.Named(name)))
+            if (toolkit.IsClickable(name)) controls.push_back(control);
+    for (const TextControl* const control : controls) {
+        const std::string& name = control->AccessibleName();
+        EXPECT_TRUE(name.size() > 1 || control->Name().starts_with("btnNumPad")) << name;
+        for (const TextControl* const other : controls) {
+            if (other == control || other->Container() != control->Container()) continue;
+            EXPECT_TRUE(control->Left() >= other->Left() + other->Width() ||
+                        other->Left() >= control->Left() + control->Width() ||
+                        control->Top() >= other->Top() + other->Height() ||
+                        other->Top() >= control->Top() + control->Height())
+                << control->Name() << " and " << other->Name();
+        }
+    }
 }
 
 } // namespace tessarin

@@ -5,7 +5,6 @@
 #include "WindowUser.h"
 
 #include <map>
-#include <regex>
 
 namespace tessarin {
 
@@ -20,20 +19,16 @@ public:
         if (!mControls.contains(name)) throw std::invalid_argument("no control " + name);
         return *mControls.at(name).first;
     }
-    void Click(const std::string& name) { Named(name).RaiseClick(); }
-    /// The interval of the rotor's timer has passed.
-    void Tick() {
-        auto& timer = dynamic_cast<Timer&>(Named("Timer1"));
-        if (timer.Enabled()) timer.RaiseTick();
-    }
-    /// The names of all controls that can be clicked: one field and one digit stand for all.
-    std::vector<std::string> Commands() const {
-        std::vector<std::string> names{"lblField(50)", "btnNumPad(5)"};
-        const std::regex alike("lblField.*|btnNumPad.[0-9].");
+    std::vector<std::string> Names() const {
+        std::vector<std::string> names;
         for (const auto& [name, control] : mControls)
-            if (control.second && *control.second && !std::regex_match(name, alike))
-                names.push_back(name);
+            names.push_back(name);
         return names;
+    }
+    /// Whether the user can click it.
+    bool IsClickable(const std::string& name) const {
+        const auto& [control, click] = mControls.at(name);
+        return control->Visible() && click && *click;
     }
 
     std::unique_ptr<FormPeer> Create(Form& form) override {
@@ -99,27 +94,20 @@ private:
 /// The window, active, on the toolkit that shows nothing.
 class FakeWindow : public WindowParts<ScriptedPlatform, FakeToolkit>, public WindowUser {
 public:
-    FakeWindow() : WindowUser(platform, OwnWindow) {
+    FakeWindow() : WindowUser(platform, window) {
         window.Show();
         window.RaiseActivate();
         platform.Record.clear();
     }
 
-    /// Clicks a control. An import has a file to read; the dialog to save is cancelled.
-    void Do(const std::string& command) {
-        if (command == "mnuFileImportCSV")
-            Import("3;7;1|41;4;0");
-        else
-            Click(command);
+    /// The time of the rotor's timer has come.
+    void Tick() {
+        auto& timer = dynamic_cast<Timer&>(toolkit.Named("Timer1"));
+        if (timer.Enabled()) timer.RaiseTick();
     }
 
 protected:
-    void ClickControl(const std::string& control) override { toolkit.Click(control); }
-};
-
-class WindowFixture : public testing::Test, protected FakeWindow {
-protected:
-    void TearDown() override { platform.ExpectNothingLeft(); }
+    void ClickControl(const std::string& control) override { toolkit.Named(control).RaiseClick(); }
 };
 
 } // namespace tessarin

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The two text formats of a grid, and their files.
 #include "GameFixture.h"
-#include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
 
 #include <csignal>
@@ -12,16 +11,9 @@ namespace tessarin {
 // An argument of WriteTextFile.
 constexpr bool Replace = true;
 
-class FilesTest : public GameFixture {
-protected:
-    /// Loads rows of SDK, each with a bar behind it, without their first line.
-    void LoadSDK(const std::string& rows) {
-        grid.SetTextSDK("\"Sudoku\"\r\n" + ReplaceAll(rows, "|", "\r\n"));
-    }
-};
+using FilesTest = GameFixture;
 
 TEST_F(FilesTest, ALineOfCSVHasIndexValueAndLock) {
-    Fill("123");
     Load("5;3;1|7;4;2|8;1;1;x|| 9 ;  +9 ; 0");
     EXPECT_EQ(Grid(), "5;3;1|7;4;0|8;1;1|9;9;0");
     EXPECT_EQ(At(1).TextCSV(/*WithEmpty=*/true), "1;0;0");
@@ -30,35 +22,8 @@ TEST_F(FilesTest, ALineOfCSVHasIndexValueAndLock) {
 }
 
 TEST_F(FilesTest, ABadLineOfCSVEndsTheLoad) {
-    TELLS(Load("5;3;1|7;4|9;9;0"), "! too few items in \"7;4\"");
+    TELLS(Load("5;3;1|7;4|9;9;0"), "Init 0 ! too few items in \"7;4\"");
     EXPECT_EQ(Grid(), "5;3;1|7;4;0");
-    TELLS(Load("5;3;1|82;x;1|9;9;0"), "! no item at position 82 of 81");
-    EXPECT_EQ(Grid(), "5;3;1");
-    // Changes are told again.
-    TELLS(At(9).SetValue(4), "9=4");
-    TELLS(Load("7;4;0x4|9;9;0"), "! \"0x4\" is not a whole number");
-    EXPECT_EQ(Grid(), "7;4;0");
-    TELLS(Load("7;4;-2147483649"), "! \"-2147483649\" is outside the 32-bit range");
-}
-
-TEST_F(FilesTest, OtherTextsOfCSVEmptyTheGrid) {
-    Load("1;5;1");
-    grid.SetTextCSV("index;value;locked\r\n5;3;1");
-    EXPECT_EQ(Grid(), "");
-    // "\n" alone ends no line.
-    grid.SetTextCSV("Index;Value;Locked\n1;5;1\r\n2;6;1");
-    EXPECT_EQ(Grid(), "");
-}
-
-TEST_F(FilesTest, RowsOfSDKTellTheDimension) {
-    At(1).SetValue(5);
-    // Refused: no line break behind the last row; another first line.
-    LoadSDK("1|0|0|0|0|0|0|0|0");
-    grid.SetTextSDK("\"sudoku\"\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n");
-    EXPECT_EQ(Grid(), "1;5;0");
-    LoadSDK("0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0,25|");
-    EXPECT_EQ(Grid(), "602;25;1");
-    EXPECT_EQ(grid.FreeCount(), 624);
 }
 
 TEST_F(FilesTest, AnExportNeverReplacesAFile) {
@@ -94,21 +59,11 @@ TEST_F(FilesTest, AnExportWithoutNameLiesBesideTheProgram) {
     EXPECT_EQ(Grid(), "1;5;1");
 }
 
-TEST_F(FilesTest, OnlyAWholeImportOfCSVResetsThePlayer) {
-    Trace({4});
-    game.FileExportSDK(folder + "rows");
-    TELLS(game.FileImportSDK(folder + "rows"), "");
-    TELLS(game.FileImportCSV(Write("bad", "Index;Value;Locked|1;9;1|x")),
-          "! \"x\" is not a whole number");
-    TELLS(game.FileImportCSV(Write("good", "Index;Value;Locked|2;9;1")), "-4");
-    EXPECT_EQ(Grid(), "2;9;1");
-}
-
 TEST_F(FilesTest, TheFirstBytesTellTheCharset) {
-    const std::pair<std::string, const char*> texts[] = {
-        {"\xFF\xFE", "unicode"}, {"\xEF\xBB\xBF", "utf-8"}, {"text", "x-ansi"}, {"", ""}};
-    for (const auto& [text, charset] : texts)
-        EXPECT_EQ(DetectCharset(Write("text", text)), charset);
+    EXPECT_EQ(DetectCharset(Write("text", "\xFF\xFE")), "unicode");
+    EXPECT_EQ(DetectCharset(Write("text", "\xEF\xBB\xBF")), "utf-8");
+    EXPECT_EQ(DetectCharset(Write("text", "text")), "x-ansi");
+    EXPECT_EQ(DetectCharset(Write("text", "")), "");
     // Two bytes for each character, without a mark.
     WriteTextFile(folder + "text", "AB", "unicode", Replace);
     EXPECT_EQ(ReadTextFile(folder + "text"), std::string("A\0B\0", 4));

@@ -18,77 +18,81 @@ std::string ToCode(const Script& script) {
 
 namespace {
 
-// %f stands for a field, %v for a value, %b for no or yes (0 or 1), %d for a dimension, %l for a
-// label of a field, %k for a key of the pad, %o for a pace, %c and %s for lines of the two puzzle
-// texts, separated by "|".
+// %f stands for a field, %v for a value, %d for a dimension, %l for a label of a field, %c and %s
+// for the two puzzle texts, with "|" for a line break; %1 for 0 or 1, %9 for 0 to 9.
 const std::vector<std::string> GameCommands{
-    "value %f %v",  "value %f 0",  "lock %f %b", "next %f %b",  "free %f",     "index %f",
-    "clear %b",     "lockall %b",  "count",      "init %d",     "csv %c",      "sdk %s",
-    "importcsv %c", "texts",       "reset",      "trace %b",    "goto %b",     "back %b",
-    "freedom %b",   "enter %v %b", "enter 0 0",  "playlock",    "playnext %b", "solve",
-    "solve",        "esc",         "refuse",     "importsdk %s"};
+    "index 0",  "value %f %v",  "value %f 0",  "lock %f %1", "next %f %1",  "free %f",
+    "index %f", "clear %1",     "lockall %1",  "count",      "init %d",     "csv %c",
+    "sdk %s",   "importcsv %c", "texts",       "reset",      "trace %1",    "goto %1",
+    "back %1",  "freedom %1",   "enter %v %1", "enter 0 0",  "playlock",    "playnext %1",
+    "solve",    "solve",        "esc",         "refuse",     "importsdk %s"};
+
+// What meets rarely if each is one of many.
+const std::vector<std::vector<std::string>> GameThemes{
+    {"value %f %v", "value %f 0", "free %f", "count"},
+    {"index %f", "enter %v 0", "enter 0 0", "freedom %1"}};
+const std::vector<std::vector<std::string>> WindowThemes{
+    {"click btnSolve", "click btnSolve", "click optChill(%6)", "click lblField(%l)", "tick"},
+    {"activate", "csv %c", "clear %1", "click lblField(%l)"},
+    {"click mnuViewFreedom", "click mnuViewNeighbours", "click lblDeadEnd", "value %f %v",
+     "click btnNextFree"}};
 
 // Nothing tells the grid of these, so they are not given inside others.
-const std::vector<std::string> GroupCommands{"group %f %f %b", "regroup %f", "widen %f"};
+const std::vector<std::string> GroupCommands{"group 1 %f %1", "regroup 1", "widen %f", "free 1"};
 
 struct RandomUser {
     Choose Choice;
+    const bool GroupsAreMade = OneIn(8);
     std::vector<std::string> Commands = {};
 
     bool OneIn(int number) const { return Choice(number - 1) == 0; }
-    const std::string& Pick(const std::vector<std::string>& texts) const {
-        return texts[static_cast<std::size_t>(Choice(static_cast<int>(texts.size()) - 1))];
+    template <class T>
+    T Pick(const std::vector<T>& items) const {
+        return items[static_cast<std::size_t>(Choice(static_cast<int>(items.size()) - 1))];
     }
-    // Mostly one of few, so that commands meet.
-    int Field() const { return OneIn(30) ? Choice(700) - 20 : 1 + Choice(OneIn(3) ? 80 : 11); }
+    std::string Pick(std::initializer_list<std::string> texts) const {
+        return Pick(std::vector(texts));
+    }
     int Value() const { return OneIn(9) ? Choice(30) - 9 : Choice(9); }
 
-    // Nearly full, or nearly empty; some values are wrong, and some lines are bad.
+    // Now and then a wrong item of a puzzle's text.
+    std::string Item(int usual) const {
+        if (OneIn(300))
+            return Pick({"", "x", "+-5", " +4 ", "5 5", "0x5", "5;", "5,", "9999999999"});
+        return std::to_string(OneIn(60) ? Value() : usual);
+    }
+    // Nearly full, or nearly empty.
     std::string Csv() const {
         const int percentEmpty = OneIn(3) ? 50 + Choice(50) : Choice(OneIn(2) ? 1 : 9);
-        std::string lines;
+        std::string lines = OneIn(40) ? "index;value;locked|" : "Index;Value;Locked|";
         for (int i = 0; i < 81; ++i) {
-            if (Choice(99) < percentEmpty) continue;
-            const int right = (i / 9 * 3 + i / 27 + i % 9) % 9 + 1;
-            lines += std::to_string(i + 1) + ";" + std::to_string(OneIn(60) ? Value() : right) +
-                     (OneIn(2) ? ";1|" : ";0|");
-            if (OneIn(400)) lines += Pick({"82;1;1", "5;3", "x;1;1", "5; +4 ;1;x", ""}) + "|";
+            const bool isEmpty = Choice(99) < percentEmpty;
+            if (isEmpty && !OneIn(20)) continue;
+            const int right = isEmpty ? 0 : (i / 9 * 3 + i / 27 + i % 9) % 9 + 1;
+            lines += Item(i + 1) + ";" + Item(right) + ";" + Item(Choice(OneIn(9) ? 2 : 1)) + "|";
         }
         return lines;
     }
     std::string Sdk() const {
-        const int count = std::stoi(Pick({"9", "9", "9", "25", "16", "8"}));
-        std::string rows;
-        for (int row = 0; row < count; ++row) {
+        std::string rows = OneIn(40) ? "sudoku|" : "\"Sudoku\"|";
+        for (int count = std::stoi(Pick({"9", "9", "9", "25", "16", "8"})); count > 0; --count) {
             for (int i = Choice(9); i > 0; --i)
-                rows += std::to_string(OneIn(3) ? Value() : 0).append(i > 1 ? "," : "");
-            if (OneIn(90)) rows += Pick({",", "x", " ", ",9999999999"});
+                rows += Item(OneIn(3) ? Value() : 0).append(i > 1 ? "," : "");
             rows += "|";
         }
         return rows;
     }
     std::string Word(char kind) const {
+        // A puzzle takes one choice, whatever its length.
         const RandomUser writer{Dice(static_cast<unsigned>(Choice(9999)))};
-        switch (kind) {
-        case 'f':
-            return std::to_string(Field());
-        case 'v':
-            return std::to_string(Value());
-        case 'b':
-            return std::to_string(Choice(1));
-        case 'd':
-            return OneIn(20) ? "7" : Pick({"0", "3", "3", "3", "3", "3", "5", "4", "-1", "217"});
-        case 'k':
-            return std::to_string(Choice(11));
-        case 'l':
-            return std::to_string(1 + Choice(80));
-        case 'o':
-            return std::to_string(Choice(6));
-        case 's':
-            return writer.Sdk();
-        default:
-            return writer.Csv();
-        }
+        if (kind == 'c') return writer.Csv();
+        if (kind == 's') return writer.Sdk();
+        if (kind == 'd') return Pick({"0", "3", "3", "3", "3", "3", "5", "7", "4", "-1", "217"});
+        if (kind == 'v') return std::to_string(Value());
+        if (kind == 'l') return std::to_string(1 + Choice(80));
+        if (kind != 'f') return std::to_string(Choice(kind - '0'));
+        // Mostly one of few, so that commands meet.
+        return std::to_string(OneIn(30) ? Choice(700) - 20 : 1 + Choice(OneIn(3) ? 80 : 11));
     }
     std::string Filled(std::string command) const {
         for (std::size_t at = 0; (at = command.find('%', at)) != std::string::npos;)
@@ -97,7 +101,8 @@ struct RandomUser {
     }
 
     Row Command(int depth) const {
-        Row row{.Command = Filled(Pick(depth == 0 && OneIn(8) ? GroupCommands : Commands))};
+        const bool ofGroups = GroupsAreMade && depth == 0 && OneIn(2);
+        Row row{.Command = Filled(Pick(ofGroups ? GroupCommands : Commands))};
         if (depth > 0) row.Moment = 1 + Choice(OneIn(3) ? 400 : 9);
         if (depth > 0 && OneIn(40)) row.Command = "throw";
         if (depth < 3 && OneIn(2)) row.Inside = Rows(depth + 1);
@@ -105,7 +110,7 @@ struct RandomUser {
     }
     Script Rows(int depth) const {
         Script rows;
-        for (int i = Choice(depth == 0 ? 12 : 2); i > 0; --i)
+        for (int i = Choice(depth > 0 ? 2 : GroupsAreMade ? 12 : 6); i > 0; --i)
             rows.push_back(Command(depth));
         std::ranges::stable_sort(rows, {}, &Row::Moment);
         return rows;
@@ -121,24 +126,32 @@ Choose Dice(unsigned seed) {
 }
 
 Script RandomScript(const Choose& choose, const std::vector<std::string>& windowCommands,
-                    const std::function<int(const Script&)>& momentsOfLast) {
-    // Few of all commands, so that they meet.
+                    const std::function<std::vector<int>(const Script&)>& momentsOfLast) {
     RandomUser user{choose};
     const bool withWindow = !windowCommands.empty();
+    // Few of all commands, so that they meet.
     for (int i = choose(7); i >= 0; --i)
         user.Commands.push_back(
             user.Pick(withWindow && !user.OneIn(3) ? windowCommands : GameCommands));
-    if (user.OneIn(6)) user.Commands = {"value %f %v", "value %f 0", "free %f", "count"};
-    if (withWindow && user.OneIn(2))
-        user.Commands.insert(user.Commands.end(), {"click btnSolve", "click optChill(%o)"});
+    if (user.OneIn(3)) user.Commands = user.Pick(GameThemes);
+    if (withWindow && user.OneIn(2)) user.Commands = user.Pick(WindowThemes);
+    if (user.OneIn(3)) user.Commands.push_back(user.Pick(GameCommands));
     Script script = user.Rows(0);
-    for (const char* const first : {"index %f", "csv %c"})
-        script.insert(script.begin(), {.Command = user.Filled(first)});
-    // One command more, with another near its end.
+    const auto begin = [&](std::initializer_list<const char*> commands) {
+        for (const char* const first : commands)
+            script.insert(script.begin(), {.Command = user.Filled(first)});
+    };
+    begin({"index %f", "csv %c"});
+    // An entry of the history that comes from a larger grid.
+    if (user.OneIn(6)) begin({"remember 600", "trace 1"});
+    // One command more, with others where something happens.
     script.push_back({.Command = user.Filled(user.Pick(user.Commands))});
-    Row inner = user.Command(1);
-    inner.Moment = std::max(1, momentsOfLast(script) - choose(5));
-    script.back().Inside = {inner};
+    const auto moments = momentsOfLast(script);
+    for (int i = moments.empty() ? 0 : 1 + choose(2); i > 0; --i) {
+        Row inner = user.Command(1);
+        inner.Moment = user.Pick(moments) + choose(2);
+        script.back().Inside.push_back(inner);
+    }
     return script;
 }
 

@@ -24,10 +24,10 @@ using Choose = std::function<int(int last)>;
 /// Choices that are the same for the same seed, with every library.
 Choose Dice(unsigned seed);
 
-/// Loads a grid and goes on with any commands, also inside of others. `momentsOfLast` tells how
-/// many events and pumps the last command of a script has.
+/// Loads a grid and goes on with any commands, also inside of others. `momentsOfLast` tells in
+/// which moments of the last command of a script something has just happened.
 Script RandomScript(const Choose& choose, const std::vector<std::string>& windowCommands,
-                    const std::function<int(const Script&)>& momentsOfLast);
+                    const std::function<std::vector<int>(const Script&)>& momentsOfLast);
 
 /// Leaves out every row without which the script still fails.
 Script Shortened(Script script, const std::function<bool(const Script&)>& fails);

@@ -15,10 +15,9 @@ public:
 
     std::deque<bool> EscPresses; ///< before the next cycles of a solve; none after them
     bool SaysYes = false;        ///< to all questions without an answer in Answers
-    std::string Folder = ".";
-    bool Hourglass = false;  ///< the mouse pointer
-    bool TellsErrors = true; ///< off: only that there was one
-    bool Closed = false;     ///< the window is closed: no pumps, sleeps and questions
+    bool Hourglass = false;      ///< the mouse pointer
+    bool TellsErrors = true;     ///< off: only that there was one
+    bool Closed = false;         ///< the window is closed: no pumps, sleeps and questions
 
     void PumpEvents(Pump /*pump*/) override {
         if (!Closed) Pumped();

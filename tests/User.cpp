@@ -19,30 +19,28 @@ static std::string WithLineBreaks(const std::string& text) {
     return ReplaceAll(text, "|", "\r\n");
 }
 
-void Recorder::TellText(const std::string& text) {
-    const UniqueNumbers history =
-        Player == nullptr ? UniqueNumbers() : Player->History.value_or(UniqueNumbers());
-    std::ostringstream told;
-    const auto tellMissing = [&](const auto& from, const auto& in, char sign) {
-        for (const int index : from)
-            if (!in.Contains(index)) told << sign << index << " ";
-    };
-    tellMissing(mHistory, history, '-');
-    tellMissing(history, mHistory, '+');
-    mHistory = history;
-    const int pumps = mPumps - std::exchange(mPumpsTold, mPumps);
-    if (TellsPumps && pumps > 0) told << "(" << pumps << ") ";
-    if (!text.empty()) told << text << " ";
-    Record += told.str();
+std::vector<Connection> Listen(Game& game, std::function<void(const std::string&, int)> handler) {
+    auto& events = game.Events;
+    std::vector<Connection> connections;
+    for (const auto& [event, name] : {std::pair(&events.BeforeIndexChanged, "BeforeIndexChanged"),
+                                      {&events.IndexChanged, "IndexChanged"},
+                                      {&events.StatusChanged, "StatusChanged"},
+                                      {&events.IsWinner, "IsWinner"},
+                                      {&events.IsDeadEnd, "IsDeadEnd"}})
+        connections.push_back(
+            event->Connect([handler, name = name](int index) { handler(name, index); }));
+    connections.push_back(game.Fields->Events.Init.Connect(
+        [handler, &grid = *game.Fields] { handler("Init", grid.Index()); }));
+    return connections;
 }
 
-void Recorder::Pumped() {
-    EachPump();
-    if (++mPumps == mPumpOfAction && mAtPump) std::exchange(mAtPump, nullptr)();
+Recorder::Recorder()
+    : Folder(testing::TempDir() + "tessarin." + std::to_string(std::random_device{}()) + "/") {
+    std::filesystem::create_directory(Folder);
 }
 
-void Recorder::Paused() {
-    if (mMeanwhile) std::exchange(mMeanwhile, nullptr)();
+Recorder::~Recorder() {
+    std::filesystem::remove_all(Folder);
 }
 
 std::string Recorder::TakeAnswer() {
@@ -53,7 +51,6 @@ std::string Recorder::TakeAnswer() {
 }
 
 void Recorder::ExpectNothingLeft() {
-    EXPECT_FALSE(mAtPump) << "there was no such pump";
     EXPECT_FALSE(mMeanwhile) << "there was no box, pause or change";
     EXPECT_EQ(testing::PrintToString(Answers), "{}") << "nobody asked";
 }
@@ -62,27 +59,20 @@ User::User(Recorder& recorder, Game& played)
     : game(played),
       grid(*game.Fields),
       play(*game.Play),
-      folder(testing::TempDir() + "tessarin." + std::to_string(std::random_device{}()) + "/"),
+      folder(recorder.Folder),
       mRecorder(recorder) {
-    std::filesystem::create_directory(folder);
-    recorder.Player = &play;
     mChanges = game.Events.StatusChanged.Connect([this](int) { mRecorder.Paused(); });
 }
 
-User::~User() {
-    std::filesystem::remove_all(folder);
-}
-
 std::string User::Told(const std::function<void()>& step) {
-    mRecorder.Tell("");
+    mRecorder.Tell();
     const std::string outer = std::exchange(mRecorder.Record, "");
     try {
         step();
     } catch (const std::exception& error) {
         mRecorder.Tell("! ", error.what());
     }
-    // What has changed without being told.
-    mRecorder.Tell("");
+    mRecorder.Tell();
     const std::string told = std::exchange(mRecorder.Record, outer);
     return ReplaceAll(WithBars(told.substr(0, told.find_last_of(' '))), folder, "");
 }

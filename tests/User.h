@@ -2,19 +2,14 @@
 // What all tests use: a record of what happens, commands inside other commands, and a user's hands
 // on the grid.
 //
-// TELLS(step, "7=5 to 4") does a step and expects that this is told of it, in this order:
-//     7=5         field 7 has got the value 5 (or a lock has changed: the current field's value)
-//     from 3      the cursor is about to leave field 3
-//     to 4        the cursor is on field 4 (0: nowhere)
-//     winner 81   an event of the game with its index; also: dead 12
-//                 (these four by GameFixture alone, for tests without a window)
-//     +3          field 3 has joined the history; -3: it has left it
-//     Beep        a call of the machine; also: Sleep(100); with Qt no calls are told
+// TELLS(step, "Beep") does a step and expects that this is told of it, in this order:
+//     IndexChanged 4      an event of the game with its index (in tests without a window)
+//     Beep                a call of the machine; also: Sleep(100); with Qt no calls are told
 //     Box(title|text|? Yes No)  a box with its buttons (with Qt without them); ?: with a question
-//                 icon, -: with none
-//     Import File the title of a file dialog
-//     (83)        so many pumps of window events, if TellsPumps is set
-//     ! text      the step, or a handler of the window, has ended with this error
+//                         icon, -: with none
+//     Import File         the title of a file dialog
+//     (83)                so many pumps of window events, if TellsPumps is set
+//     ! text              the step, or a handler of the window, has ended with this error
 // Line breaks are told as "|", paths of files without the test's folder.
 #pragma once
 
@@ -36,14 +31,20 @@
 
 namespace tessarin {
 
+/// Calls `handler` for each event of a game, while the connections live.
+std::vector<Connection> Listen(Game& game,
+                               std::function<void(const std::string& event, int index)> handler);
+
 /// The part of a test's platform that records what happens, and acts inside pumps and pauses.
 class Recorder {
 public:
-    /// Runs `action` inside the n-th pump from now, once.
-    void AtPump(int n, std::function<void()> action) {
-        mPumpOfAction = mPumps + n;
-        mAtPump = std::move(action);
-    }
+    Recorder();
+    ~Recorder();
+    Recorder(const Recorder&) = delete;
+
+    /// A temporary folder of its own, with "/" at the end.
+    const std::string Folder;
+
     /// Runs `action` in the next box, pause or change of a field, once.
     void Meanwhile(std::function<void()> action) { mMeanwhile = std::move(action); }
     /// Fails if something was prepared that has not been asked for.
@@ -52,29 +53,30 @@ public:
     std::string Record;              ///< what has been told, each item with a blank behind it
     std::deque<std::string> Answers; ///< to the next boxes: a button; to the next dialogs: a path
     bool TellsPumps = false;
-    const Play* Player = nullptr;           ///< whose history is told
     std::function<void()> EachPump = [] {}; ///< runs in each pump
 
-    /// Records a changed history, the pumps since the last call, and the text of all parts.
+    /// Records the pumps since the last call, and the text of all parts.
     void Tell(const auto&... parts) {
         std::ostringstream text;
-        (text << ... << parts);
-        TellText(text.str());
+        if (TellsPumps && mPumps > 0) text << "(" << mPumps << ") ";
+        mPumps = 0;
+        if constexpr (sizeof...(parts) > 0) (text << ... << parts) << " ";
+        Record += text.str();
     }
-    /// To be called in each pump; while a box is open and during a sleep.
-    void Pumped();
-    void Paused();
+    /// To be called in each pump.
+    void Pumped() {
+        EachPump();
+        ++mPumps;
+    }
+    /// To be called while a box is open and during a sleep.
+    void Paused() {
+        if (mMeanwhile) std::exchange(mMeanwhile, nullptr)();
+    }
     /// The next answer, "" if there is none.
     std::string TakeAnswer();
 
 private:
-    void TellText(const std::string& text);
-
-    UniqueNumbers mHistory; // as told last
-    int mPumps = 0;
-    int mPumpsTold = 0;
-    int mPumpOfAction = 0;
-    std::function<void()> mAtPump;
+    int mPumps = 0; // since the last that was told
     std::function<void()> mMeanwhile;
 };
 
@@ -84,15 +86,13 @@ public:
     Game& game;
     Fields& grid;
     Play& play;
-    /// A temporary folder of its own, with "/" at the end.
-    const std::string folder;
+    const std::string& folder; ///< of the recorder
 
     User(Recorder& recorder, Game& played);
-    virtual ~User();
+    virtual ~User() = default;
 
     /// Does a step and returns what is told of it.
     std::string Told(const std::function<void()>& step);
-    void AtPump(int n, std::function<void()> action) { mRecorder.AtPump(n, std::move(action)); }
     void Meanwhile(std::function<void()> action) { mRecorder.Meanwhile(std::move(action)); }
 
     Field& At(int index) { return *grid.Items.Item(index); }

@@ -19,16 +19,18 @@ namespace tessarin::model {
 
 using std::shared_ptr, std::string, std::to_string, std::vector;
 
-/// The item at a position from 1, none if there is no such position.
+/// Items at the positions from 1.
 template <class T>
-shared_ptr<T> Find(const vector<shared_ptr<T>>& items, int position) {
-    const bool exists = position > 0 && position <= std::ssize(items);
-    return exists ? *(items.begin() + position - 1) : nullptr;
-}
-
-inline bool Contains(const vector<int>& numbers, int number) {
-    return std::ranges::count(numbers, number) > 0;
-}
+struct Collection : vector<T> {
+    void Add(T item) { this->push_back(item); }
+    bool Contains(T item) const { return std::ranges::count(*this, item) > 0; }
+    bool Has(int position) const { return position > 0 && position <= std::ssize(*this); }
+    T Item(int position) const {
+        if (!Has(position)) throw std::out_of_range("no item " + to_string(position));
+        return this->begin()[position - 1];
+    }
+};
+using Indices = Collection<int>;
 
 inline bool IsAnsweredYes(Message question) {
     question.ButtonSet = Message::Buttons::YesNo;
@@ -62,7 +64,7 @@ struct Logic {
 
     struct Group {
         int Index = 0, Flavor = 0;
-        vector<int> Fields;
+        Indices Fields;
 
         string FlavorText() const {
             return Flavor == 1   ? "horizontal"
@@ -80,7 +82,7 @@ struct Logic {
 
         Game& game;
         int Index;
-        vector<int> Neighbours, InGroups;
+        Indices Neighbours, InGroups;
         int mlValue = 0;
         bool mbLocked = false;
 
@@ -105,10 +107,10 @@ struct Logic {
         }
 
         void GroupAdd(const Group& group) {
-            if (Contains(InGroups, group.Index)) throw std::invalid_argument("duplicate key");
-            InGroups.push_back(group.Index);
+            if (InGroups.Contains(group.Index)) throw std::invalid_argument("duplicate key");
+            InGroups.Add(group.Index);
             for (int i : group.Fields)
-                if (!Contains(Neighbours, i)) Neighbours.push_back(i);
+                if (!Neighbours.Contains(i)) Neighbours.Add(i);
         }
 
         std::set<int> FreeValues() const {
@@ -116,10 +118,9 @@ struct Logic {
             for (int value = 1; value <= game.Fields.Numbers(); ++value)
                 free.insert(value);
             for (int g : InGroups) {
-                const auto group = Find(game.Groups, g);
-                if (!group) continue;
-                for (int i : group->Fields)
-                    if (const auto field = Find(game.Fields.Items, i)) free.erase(field->mlValue);
+                if (!game.Groups.Has(g)) continue;
+                for (int i : game.Groups.Item(g)->Fields)
+                    if (game.Fields.Items.Has(i)) free.erase(game.Fields.Items.Item(i)->mlValue);
                 free.erase(mlValue);
             }
             return free;
@@ -149,8 +150,8 @@ struct Logic {
         explicit Fields(Game& g) : game(g) {}
 
         shared_ptr<Field> Cursor;
-        vector<shared_ptr<Field>> Items;
-        vector<int> DeadFields;
+        Collection<shared_ptr<Field>> Items;
+        Indices DeadFields;
 
         int Dimension() const { return mlDimension; }
         int Numbers() const { return mlDimension * mlDimension; }
@@ -166,8 +167,9 @@ struct Logic {
             Cursor = nullptr;
             Items.clear();
             for (int k = 1; k <= Count(); ++k)
-                Items.push_back(std::make_shared<Field>(game, k));
+                Items.Add(std::make_shared<Field>(game, k));
             game.GroupsInit();
+            game.Raise("Init", Index());
             mbDirty = true;
             return "";
         }
@@ -196,7 +198,7 @@ struct Logic {
             for (size_t i = 1; i < lines.size(); ++i) {
                 if (lines[i].empty()) continue;
                 const auto items = Split(lines[i], ";");
-                const auto field = Item(ToNumber(items[0]));
+                const auto field = Items.Item(ToNumber(items[0]));
                 field->Set(0, false);
                 field->Set(ToNumber(items.at(1)), false);
                 field->Set(field->Value(), ToNumber(items.at(2)) == 1);
@@ -219,7 +221,7 @@ struct Logic {
                 if (lines[i].empty()) continue;
                 int position = (static_cast<int>(i) - 1) * Numbers();
                 for (const auto& item : Split(lines[i], ",")) {
-                    const auto field = Item(++position);
+                    const auto field = Items.Item(++position);
                     field->Set(0, false);
                     field->Set(ToNumber(item), ToNumber(item) != 0);
                 }
@@ -235,10 +237,10 @@ struct Logic {
         int Index() const { return Cursor ? Cursor->Index : 0; }
         void SetIndex(int index) {
             if (!Cursor && index < 1) return;
-            if (index != 0) Item(index); // an error before anything is told
+            if (index != 0) Items.Item(index); // an error before anything is told
             if (Cursor && Index() != index) Tell("BeforeIndexChanged", Index());
             if (Cursor && Index() == index) return;
-            Cursor = index == 0 ? nullptr : Item(index);
+            Cursor = index == 0 ? nullptr : Items.Item(index);
             Tell("IndexChanged", index);
         }
 
@@ -264,11 +266,6 @@ struct Logic {
         }
 
     private:
-        shared_ptr<Field> Item(int position) const {
-            if (const auto field = Find(Items, position)) return field;
-            throw std::out_of_range("no field " + to_string(position));
-        }
-
         /// The game relays the event and pumps, then the grid pumps.
         void Tell(const string& event, int index) {
             game.Raise(event, index);
@@ -294,7 +291,7 @@ struct Logic {
                 if (!isEmpty) continue;
                 ++mlFreeCount;
                 const int freedom = field->Freedom();
-                if (freedom == 0) DeadFields.push_back(field->Index);
+                if (freedom == 0) DeadFields.Add(field->Index);
                 if (freedom > 0 && freedom < smallest) {
                     smallest = freedom;
                     mlNextFreeField = field->Index;
@@ -318,7 +315,7 @@ struct Logic {
     public:
         explicit Play(Game& g) : game(g) {}
 
-        std::optional<vector<int>>
+        std::optional<Indices>
             History; // filled while tracing, or where a solve began; oldest first
         int Retries = 0;
 
@@ -422,7 +419,7 @@ struct Logic {
         size_t Entries() const { return History ? History->size() : 0; }
 
         void AddToHistory(int index) {
-            if (History && !Contains(*History, index)) History->push_back(index);
+            if (History && !History->Contains(index)) History->Add(index);
         }
 
         /// A field reached without a larger free value is cleared by the next walk.
@@ -443,29 +440,30 @@ struct Logic {
         Game(const Game&) = delete;
 
         Logic::Fields Fields{*this};
-        vector<shared_ptr<Group>> Groups;
+        Collection<shared_ptr<Group>> Groups;
         Logic::Play Play{*this};
         bool gbCancel = false; // ends a solve at its next cycle
-        std::function<void(const string& event, int index)> Raise;
+        vector<std::function<void(const string& event, int index)>> Listeners;
+
+        void Raise(const string& event, int index) const {
+            for (const auto& listener : Listeners)
+                listener(event, index);
+        }
 
         /// The rows, then the columns, then the boxes.
         void GroupsInit() {
             const int n = Fields.Numbers(), d = Fields.Dimension();
             Groups.clear();
             for (int g = 1; g <= 3 * n; ++g)
-                Groups.push_back(std::make_shared<Group>(Group{g,
-                                                               g <= n       ? 1
-                                                               : g <= 2 * n ? 2
-                                                                            : 4,
-                                                               {}}));
+                Groups.Add(std::make_shared<Group>(Group{g, g <= n ? 1 : g <= 2 * n ? 2 : 4, {}}));
             for (int k = 1; k <= n * n; ++k) {
                 const int row = (k - 1) / n, column = (k - 1) % n, box = row / d * d + column / d;
                 for (int g : {1 + row, 1 + n + column, 1 + 2 * n + box})
-                    Find(Groups, g)->Fields.push_back(k);
+                    Groups.Item(g)->Fields.Add(k);
             }
             for (const auto& group : Groups)
                 for (int k : group->Fields)
-                    Find(Fields.Items, k)->GroupAdd(*group);
+                    Fields.Items.Item(k)->GroupAdd(*group);
         }
 
         /// Answered No, the next ESC asks again.

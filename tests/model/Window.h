@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the main window does and shows, written a second time, plainly, to compare the program with.
+// Which controls there are, and what they look like before the first command, is given.
 #pragma once
 
 #include "Logic.h"
@@ -9,10 +10,18 @@
 
 namespace tessarin::model {
 
+/// Takes back what was set for a time, also when an error ends it.
+struct AtEnd {
+    std::function<void()> TakeBack;
+    ~AtEnd() { TakeBack(); }
+};
+
+/// What is seen and heard of a control.
 struct Control {
-    string Caption, Spoken, Font, Back = "face", Fore = "text";
+    string Caption, Spoken, Font, Back, Fore;
     bool Enabled = true, Visible = true;
 };
+using Controls = std::map<string, Control>;
 
 inline void ShowBox(const string& prompt, const string& title = "") {
     Platform::Current().ShowMessage({.Prompt = prompt, .Title = title});
@@ -24,28 +33,27 @@ inline string Name(const string& controls, int index) {
 
 class Window {
 public:
-    Window() {
-        moGame.Raise = [this](const string& event, int index) {
-            Handle(event, index);
-            Told(event, index);
-        };
-        LayoutWindow();
+    explicit Window(const model::Controls& layout) : Controls(layout) {
+        moGame.Listeners.push_back([this](const string& e, int index) { Handle(e, index); });
         Activate();
     }
     Window(const Window&) = delete;
 
-    /// Called after the window has handled an event itself.
-    std::function<void(const string& event, int index)> Told = [](const string&, int) {};
     /// Asks for a file; "" when cancelled.
     std::function<string(const string& title)> Dialog;
     /// Called when the window has closed.
     std::function<void()> TellClosed;
 
     Game moGame;
-    std::map<string, Control> Controls;
-    float Width = 8850;
-    bool Hourglass = false, Closed = false;
-    int Keyboard = 0; // the field whose label the keyboard and the screen reader follow
+    model::Controls Controls;
+
+    float Width() const { return InfoVisible ? 8850.0F + 2775.0F : 8850.0F; }
+    const model::Controls& Looks() const { return Controls; }
+    const Control& Look(const string& control) const { return Controls.at(control); }
+    /// The label that the keyboard and the screen reader follow.
+    string Keyboard() const { return Name("lblField", Current); }
+
+    // ---- What the user does ----
 
     void Click(const string& control) {
         const size_t open = control.find('(');
@@ -55,18 +63,41 @@ public:
         if (name == "btnNumPad") frame = "fraNumPad";
         if (name.starts_with("mnu")) frame = name.substr(0, 7); // mnuFile, mnuEdit, mnuView
         if (Closed || !IsUsable(control) || !IsUsable(frame)) return;
-        Run(name, open == string::npos ? 0 : std::stoi(control.substr(open + 1)));
+        const int index = open == string::npos ? 0 : std::stoi(control.substr(open + 1));
+        Guarded([&] { Run(name, index); });
     }
 
     void Activate() {
         if (Closed || Activating) return;
         Activating = true;
-        Finally(
-            [&] {
-                ShowInTaskBar();
-                RefreshAll();
-            },
-            [&] { Activating = false; });
+        const AtEnd ended{[&] { Activating = false; }};
+        Guarded([&] {
+            ShowInTaskBar();
+            RefreshAll();
+        });
+    }
+
+    void Close() {
+        if (Closed || Solving) return;
+        moGame.gbCancel = true; // a solve in step mode can still be under way
+        Closed = true;
+        TellClosed();
+    }
+
+    void Tick() {
+        if (Closed || !Look("Timer1").Enabled) return;
+        FrameIndex = (FrameIndex + 1) % 12;
+        Guarded([&] { ShowFrame(); });
+    }
+
+private:
+    /// No error leaves the window.
+    static void Guarded(const std::function<void()>& handler) {
+        try {
+            handler();
+        } catch (const std::exception& error) {
+            Platform::Current().ReportError(error.what());
+        }
     }
 
     /// A taskbar entry is bit 0x40000 of the extended style, which has the index -20.
@@ -80,58 +111,9 @@ public:
         platform.LockWindowUpdate(0);
     }
 
-    void Unload() {
-        if (Closed || Solving) return;
-        moGame.gbCancel = true; // a solve in step mode can still be under way
-        Closed = true;
-        TellClosed();
-    }
-
-    void Tick() {
-        if (Closed || FrameIndex < 0) return;
-        FrameIndex = (FrameIndex + 1) % 12;
-        ShowFrame();
-    }
-
-private:
-    void LayoutWindow() {
-        for (int k = 1; k <= 81; ++k)
-            Controls[Name("lblField", k)].Font = "Arial Black 20";
-        for (int key = 0; key < 12; ++key) {
-            Control& button = Controls[Name("btnNumPad", key)];
-            button.Caption = key == 10 ? "X" : key == 11 ? "C" : to_string(key);
-            button.Font = "Arial 20";
-        }
-        Controls["fraNumPad"].Back = Controls["fraAction"].Back = "normal";
-        Controls["lblFile"] = Controls["lblInfo"] = {};
-        for (const string menu : {"File", "Edit", "View"})
-            Controls["mnu" + menu].Caption = menu;
-        for (int i = 0; i < 12; ++i)
-            Controls[Name("Image1", i)].Visible = false;
-        for (int i = 0; i < 7; ++i)
-            Controls[Name("optChill", i)].Spoken =
-                i == 0   ? "only show result"
-                : i == 6 ? "stop after every move / continue with solve"
-                         : "pause " + to_string(ChillDelays[i]) + " milliseconds";
-        Indicate("lblDeadEnd", "normal");
-        Indicate("lblWinner", "normal");
-    }
-
     bool IsUsable(const string& control) const {
         const auto found = Controls.find(control);
         return found == Controls.end() || (found->second.Enabled && found->second.Visible);
-    }
-
-    /// Runs the steps. What they set for a time is taken back, also when an error ends them.
-    template <class Steps, class TakeBack>
-    static void Finally(Steps steps, TakeBack takeBack) {
-        try {
-            steps();
-        } catch (...) {
-            takeBack();
-            throw;
-        }
-        takeBack();
     }
 
     // ---- Commands ----
@@ -144,7 +126,7 @@ private:
         if (name == "mnuAbout") ShowAbout();
         if (name == "mnuFileImportCSV") Import();
         if (name == "mnuFileExportCSV") Export();
-        if (name == "mnuFileQuit") Unload();
+        if (name == "mnuFileQuit") Close();
         if (name == "mnuEditClearFree" &&
             IsAnsweredYes({.Prompt = "Clear Free?", .QuestionIcon = true})) {
             fields.Clear(true);
@@ -169,10 +151,7 @@ private:
         if (name == "btnGoBackToFreedom") play.GoBackToFreedom();
         if (name == "btnNextFreeValue") play.NextFreeValue(true);
         if (name == "btnSolve") Solve();
-        if (name == "btnInfo") {
-            InfoVisible = !InfoVisible;
-            Width += InfoVisible ? 2775.0F : -2775.0F;
-        }
+        if (name == "btnInfo") InfoVisible = !InfoVisible;
         if (name == "btnNumPad" && index == 10)
             play.SetLocked(!play.Locked());
         else if (name == "btnNumPad")
@@ -194,16 +173,16 @@ private:
     void Solve() {
         StartRotor();
         EnableFrames(false);
-        Finally(
-            [&] {
-                Solving = true;
-                Finally([&] { moGame.Play.Solve(); }, [&] { Solving = false; });
-                if (ChillDelay == -1) RefreshAll();
-            },
-            [&] {
-                EnableFrames(true);
-                StopRotor();
-            });
+        const AtEnd ended{[&] {
+            EnableFrames(true);
+            StopRotor();
+        }};
+        {
+            const AtEnd solved{[&] { Solving = false; }};
+            Solving = true;
+            moGame.Play.Solve();
+        }
+        if (ChillDelay == -1) RefreshAll();
     }
 
     void EnableFrames(bool enabled) {
@@ -245,7 +224,8 @@ private:
 
     void View(void (Window::*view)()) {
         SetViewRunning(true);
-        Finally([&] { (this->*view)(); }, [&] { SetViewRunning(false); });
+        const AtEnd ended{[&] { SetViewRunning(false); }};
+        (this->*view)();
     }
 
     void SetViewRunning(bool running) {
@@ -331,7 +311,7 @@ private:
     /// None for a field that the window was not laid out for.
     Control* Label(int field) {
         const auto found = Controls.find(Name("lblField", field));
-        return found == Controls.end() ? nullptr : &found->second;
+        return field < 1 || found == Controls.end() ? nullptr : &found->second;
     }
 
     void RefreshAll() {
@@ -342,8 +322,7 @@ private:
         RefreshNumPad();
     }
 
-    /// A copy of the list, as each painting can pump.
-    void PaintFields(const vector<int> fields, bool marked) {
+    void PaintFields(const vector<int>& fields, bool marked) {
         for (int k : fields)
             PaintField(k, marked);
     }
@@ -355,17 +334,17 @@ private:
         const int cursor = fields.Index();
         if (index <= 0) index = cursor;
         if (!Label(index)) return;
-        ShowInfo(*Find(fields.Items, index));
+        ShowInfo(*fields.Items.Item(index));
         if (index == PaintedCurrent && index != cursor) {
             if (Control* label = Label(cursor)) {
                 label->Spoken = SpokenName(*fields.Cursor, false);
-                Keyboard = cursor;
+                Current = cursor;
             }
             PaintedCurrent = 0;
         }
         ShowField(index, marked);
         if (index == cursor) {
-            Keyboard = cursor;
+            Current = cursor;
             const int previous = std::exchange(PaintedCurrent, cursor);
             if (previous != cursor && Label(previous)) ShowField(previous, false);
         }
@@ -394,9 +373,9 @@ private:
 
     void ShowField(int index, bool marked) {
         Fields& fields = moGame.Fields;
-        const Field& field = *Find(fields.Items, index);
+        const Field& field = *fields.Items.Item(index);
         Control& label = *Label(index);
-        label.Font = "Arial Black 20";
+        label.Font = "Arial Black 20.0";
         label.Back = marked                        ? "yellow"
                      : index == fields.DeadField() ? "red"
                      : index == fields.Index()     ? "green"
@@ -425,7 +404,7 @@ private:
             Control* label = Label(field->Index);
             if (!label || field->Value() != 0) continue;
             const int freedom = field->Freedom();
-            label->Font = "Arial 12 italic";
+            label->Font = "Arial 12.0 italic";
             label->Caption = to_string(freedom);
             label->Back = freedom == 0 ? "red" : freedom == 1 ? "green" : "yellow";
             label->Fore = freedom == 0 ? "normal" : "red";
@@ -451,12 +430,14 @@ private:
 
     /// Empty until the first tick.
     void StartRotor() {
-        Hourglass = true;
+        Controls["Timer1"].Enabled = true;
+        Platform::Current().SetMousePointer(MousePointer::Hourglass);
         FrameIndex = 0;
     }
 
     void StopRotor() {
-        Hourglass = false;
+        Controls["Timer1"].Enabled = false;
+        Platform::Current().SetMousePointer(MousePointer::Default);
         FrameIndex = -1;
         ShowFrame();
     }
@@ -470,9 +451,10 @@ private:
     static constexpr int ChillDelays[] = {-1, 0, 100, 200, 400, 800, -2}; // quiet, ms, step
     int ChillDelay = 0;
     int PreviousIndex = 0;
-    int PaintedCurrent = 0;
-    int FrameIndex = -1; // while the rotor stands
-    bool Solving = false, ViewRunning = false, InfoVisible = false, Activating = false;
+    int PaintedCurrent = 0, Current = 0;
+    int FrameIndex = -1; // no picture
+    bool Solving = false, ViewRunning = false, InfoVisible = false, Activating = false,
+         Closed = false;
 };
 
 } // namespace tessarin::model
