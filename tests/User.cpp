@@ -104,13 +104,6 @@ void User::FullBut(const std::vector<int>& empty) {
     grid.SetIndex(empty.front());
 }
 
-void User::Trace(const std::vector<int>& history) {
-    play.Reset();
-    play.SetTracing(true);
-    for (const int index : history)
-        play.History->Add(index);
-}
-
 std::string User::Write(const std::string& name, const std::string& lines) {
     EXPECT_EQ(WriteTextFile(folder + name, WithLineBreaks(lines), "", true), "");
     return folder + name;

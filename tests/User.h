@@ -105,8 +105,6 @@ public:
     void Fill(std::string values);
     /// Loads a full grid but for these fields, and puts the cursor on the first of them.
     void FullBut(const std::vector<int>& empty);
-    /// Begins to trace, with this history: the oldest entry first.
-    void Trace(const std::vector<int>& history);
 
     /// Writes a file, whose lines are separated by "|". Returns its path.
     std::string Write(const std::string& name, const std::string& lines);

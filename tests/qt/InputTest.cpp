@@ -167,10 +167,14 @@ TEST_F(InputTest, LeavingTheMenuBarGivesTheFocusBack) {
     EXPECT_EQ(Focused(), "lblField(5)");
 }
 
-TEST_F(InputTest, AltWithAClickOrAtTheEndIsNoTapOnAlt) {
+TEST_F(InputTest, AltWithAClickOrAKeyOrAtTheEndIsNoTapOnAlt) {
     Down(9000, "Alt");
     Click(5);
     Up(9100, "Alt");
+    EXPECT_EQ(Focused(), "lblField(5)");
+    Down(9200, "Alt");
+    Down(9210, "4");
+    Up(9300, "Alt");
     EXPECT_EQ(Focused(), "lblField(5)");
     FullBut({1, 11});
     Meanwhile([&] {
