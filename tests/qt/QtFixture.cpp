@@ -19,14 +19,6 @@ QtFixture::QtFixture() : WindowUser(platform, window) {
     const auto look = [this] { ExpectFocusOnCurrentField(); };
     QObject::connect(qApp, &QApplication::focusChanged, form, look);
     platform.EachPump = look;
-    QAccessible::setActive(true);
-    static QHash<QObject*, QString> names;
-    names.clear();
-    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
-        if (event->type() != QAccessible::NameChanged) return;
-        const QString name = dynamic_cast<QWidget&>(*event->object()).accessibleName();
-        EXPECT_NE(std::exchange(names[event->object()], name), name) << "told again";
-    });
     // Else a window manager may let it reach beyond the screen.
     form->move(0, 0);
     window.Show();
