@@ -262,8 +262,8 @@ public:
         auto& pad = Add<QFrame>(*this, {}, "Arial", 27, 410, 28, 160, 420);
         for (int k = 0; k < 12; ++k)
             Add<QPushButton>(pad, QString::number(k), "Arial", 27, k % 3 * 50, k / 3 * 50);
-        for (const char* const caption : {">", ">I", "S", "<", "<<", "F", "I"})
-            Add<QPushButton>(pad, caption, "Arial", 19, 10, 220);
+        for (int k = 0; k < 7; ++k)
+            Add<QPushButton>(pad, QString::number(k), "Arial", 19, 10, 220);
         for (int k = 0; k < 2; ++k)
             Add<QLabel>(pad, "", "Arial", 19, 10 + 100 * k, 320);
         auto& side = Add<QGroupBox>(*this, "Chillout", "", 10, 590, 28, 169, 420);

@@ -31,7 +31,7 @@ TEST_F(CommandsTest, APuzzleIsWorkedByHand) {
     Click("mnuEditClearAll", "No");
     TELLS(Click("mnuEditClearFree", "Yes"), "Box(|Clear Free?|? Yes No)");
     EXPECT_EQ(Grid(), given);
-    TELLS(Click("mnuFileExportCSV", folder + "new.csv"), "Export File");
+    TELLS(Click("mnuFileExportCSV", folder + "new.csv"), "Export File to save");
     EXPECT_EQ(Read("new.csv"), "Index;Value;Locked|" + given);
 }
 
@@ -67,6 +67,10 @@ TEST_F(CommandsTest, WhatCanBeClickedHasANameAndAPlaceOfItsOwn) {
     for (const TextControl* const control : controls) {
         const std::string& name = control->AccessibleName();
         EXPECT_TRUE(name.size() > 1 || control->Name().starts_with("btnNumPad")) << name;
+        if (const auto* const panel = dynamic_cast<const Frame*>(control->Container())) {
+            EXPECT_LE(control->Left() + control->Width(), panel->Width()) << name;
+            EXPECT_LE(control->Top() + control->Height(), panel->Height()) << name;
+        }
         for (const TextControl* const other : controls) {
             if (other == control || other->Container() != control->Container()) continue;
             EXPECT_TRUE(control->Left() >= other->Left() + other->Width() ||

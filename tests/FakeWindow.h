@@ -47,8 +47,9 @@ public:
     std::unique_ptr<ControlPeer> Create(Picture& picture) override { return Add(picture); }
     std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
     std::optional<std::string> RunFileDialog(const CommonDialog& dialog,
-                                             FileDialogKind /*kind*/) override {
-        mPlatform.Tell(dialog.DialogTitle);
+                                             FileDialogKind kind) override {
+        mPlatform.Tell(dialog.DialogTitle, kind == FileDialogKind::Save ? " to save" : "",
+                       dialog.FileMustExist ? " which exists" : "");
         const std::string path = mPlatform.TakeAnswer();
         return path.empty() ? std::nullopt : std::optional(path);
     }

@@ -31,6 +31,9 @@ TEST_F(FilesTest, AnExportNeverReplacesAFile) {
     game.FileExportCSV(Write("mine", "my text"));
     game.FileExportSDK(folder + "mine");
     EXPECT_EQ(Read("mine"), "my text");
+    // A backslash belongs to the name.
+    game.FileExportCSV(folder + "new\\grid");
+    EXPECT_EQ(Read("new\\grid"), "Index;Value;Locked|1;5;0");
     // Nor does it report that it cannot write.
     TELLS(game.FileExportCSV(folder + "no folder/grid"), "");
 }

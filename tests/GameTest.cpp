@@ -36,6 +36,12 @@ TEST_F(GridTest, LargeGridsHaveMoreValuesThanFitIntoAWord) {
     EXPECT_EQ(grid.NextFreeField(), 10);
 }
 
+TEST_F(GridTest, AListenerOfInitCountsTheNewGrid) {
+    FullBut({2});
+    const Connection init = grid.Events.Init.Connect([&] { EXPECT_EQ(grid.FreeCount(), 81); });
+    grid.Init();
+}
+
 TEST_F(GridTest, WinnerAndDeadEndComeAndGo) {
     FullBut({81});
     grid.SetIndex(3);

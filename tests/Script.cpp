@@ -32,10 +32,12 @@ const std::vector<std::vector<std::string>> GameThemes{
     {"value %f %v", "value %f 0", "free %f", "count"},
     {"index %f", "enter %v 0", "enter 0 0", "freedom %1"}};
 const std::vector<std::vector<std::string>> WindowThemes{
-    {"click btnSolve", "click btnSolve", "click optChill(%6)", "click lblField(%l)", "tick"},
+    {"click btnSolve", "click btnSolve", "click optChill(%6)", "click lblField(%l)", "tick",
+     "close"},
     {"activate", "csv %c", "clear %1", "click lblField(%l)"},
-    {"click mnuViewFreedom", "click mnuViewNeighbours", "click lblDeadEnd", "value %f %v",
-     "click btnNextFree"}};
+    {"click mnuViewFreedom", "click mnuViewNeighbours", "click mnuViewGroups", "value %f %v",
+     "click btnNextFree", "activate", "close"},
+    {"value %f %v", "value %f 0", "click lblDeadEnd", "click mnuFileImportCSV"}};
 
 // Nothing tells the grid of these, so they are not given inside others.
 const std::vector<std::string> GroupCommands{"group 1 %f %1", "regroup 1", "widen %f", "free 1"};
@@ -43,6 +45,7 @@ const std::vector<std::string> GroupCommands{"group 1 %f %1", "regroup 1", "wide
 struct RandomUser {
     Choose Choice;
     const bool GroupsAreMade = OneIn(8);
+    const int OneWrongIn = OneIn(2) ? 60 : 9; // items of a puzzle
     std::vector<std::string> Commands = {};
 
     bool OneIn(int number) const { return Choice(number - 1) == 0; }
@@ -58,8 +61,9 @@ struct RandomUser {
     // Now and then a wrong item of a puzzle's text.
     std::string Item(int usual) const {
         if (OneIn(300))
-            return Pick({"", "x", "+-5", " +4 ", "5 5", "0x5", "5;", "5,", "9999999999"});
-        return std::to_string(OneIn(60) ? Value() : usual);
+            return Pick(
+                {"", "x", "+-5", " +4 ", "5 5", "0x5", "5;", "5,", "9999999999", "9999999999x"});
+        return std::to_string(OneIn(OneWrongIn) ? Value() : usual);
     }
     // Nearly full, or nearly empty.
     std::string Csv() const {
@@ -130,7 +134,7 @@ Script RandomScript(const Choose& choose, const std::vector<std::string>& window
     RandomUser user{choose};
     const bool withWindow = !windowCommands.empty();
     // Few of all commands, so that they meet.
-    for (int i = choose(7); i >= 0; --i)
+    for (int i = choose(user.OneIn(2) ? 7 : 2); i >= 0; --i)
         user.Commands.push_back(
             user.Pick(withWindow && !user.OneIn(3) ? windowCommands : GameCommands));
     if (user.OneIn(3)) user.Commands = user.Pick(GameThemes);
@@ -141,7 +145,8 @@ Script RandomScript(const Choose& choose, const std::vector<std::string>& window
         for (const char* const first : commands)
             script.insert(script.begin(), {.Command = user.Filled(first)});
     };
-    begin({"index %f", "csv %c"});
+    if (!user.OneIn(5)) begin({"index %f"});
+    begin({"csv %c"});
     // An entry of the history that comes from a larger grid.
     if (user.OneIn(6)) begin({"remember 600", "trace 1"});
     // One command more, with others where something happens.

@@ -5,8 +5,8 @@
 // TELLS(step, "Beep") does a step and expects that this is told of it, in this order:
 //     IndexChanged 4      an event of the game with its index (in tests without a window)
 //     Beep                a call of the machine; also: Sleep(100); with Qt no calls are told
-//     Box(title|text|? Yes No)  a box with its buttons (with Qt without them); ?: with a question
-//                         icon, -: with none
+//     Box(title|text|? Yes No)  a box with its buttons (with Qt without them). Without a question
+//                         icon it has a "-": Box(title|text|- OK)
 //     Import File         the title of a file dialog
 //     (83)                so many pumps of window events, if TellsPumps is set
 //     ! text              the step, or a handler of the window, has ended with this error

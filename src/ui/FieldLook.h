@@ -24,7 +24,7 @@ struct FieldState {
     bool IsCursor = false;
     bool IsDead = false;
     bool IsLocked = false;
-    bool IsMarked = false; ///< as a neighbour or a member of the shown group
+    bool IsMarked = false; ///< by a view
 };
 
 struct FieldLook {

@@ -206,7 +206,7 @@ private:
     }
 
     void Import() {
-        const string path = ChooseFile("Import File");
+        const string path = ChooseFile("Import File which exists");
         if (!path.empty())
             RunAll({[&] { moGame.Fields.Clear(); }, [&] { RefreshAll(); },
                     [&] { Controls["lblFile"].Caption = ""; }, [&] { moGame.FileImportCSV(path); },
@@ -217,7 +217,7 @@ private:
     }
 
     void Export() {
-        const string path = ChooseFile("Export File");
+        const string path = ChooseFile("Export File to save");
         if (!path.empty())
             RunAll({[&] { moGame.FileExportCSV(path); }, [&] { moGame.Play.SetTracing(true); }});
     }

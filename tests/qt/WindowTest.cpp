@@ -255,13 +255,13 @@ TEST_F(WindowTest, APathThatIsTooLongIsShortenedAndHasATip) {
     const int seen = label.parentWidget()->width() - label.x();
     QString path;
     while (label.fontMetrics().horizontalAdvance(path) <= seen)
-        path += "a/";
+        path += "a&/";
     window.lblFile.SetCaption(path.toStdString());
     Click("btnInfo");
     // The side column is shown, so there is room for the path.
     EXPECT_EQ(tip(), "");
     Click("btnInfo");
-    EXPECT_EQ(tip(), path);
+    EXPECT_EQ(tip(), path.toHtmlEscaped());
     const auto& lines = *label.findChild<QLabel*>();
     EXPECT_LT(lines.height(), 3 * lines.fontMetrics().height()) << "not in two lines";
     const QImage shown = Picture("lblFile");
