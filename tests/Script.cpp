@@ -67,7 +67,7 @@ struct RandomUser {
     }
     // Nearly full, or nearly empty.
     std::string Csv() const {
-        const int percentEmpty = OneIn(3) ? 50 + Choice(50) : Choice(OneIn(2) ? 1 : 9);
+        const int percentEmpty = OneIn(3) ? 50 + Choice(50) : Choice(OneIn(2) ? 1 : 12);
         std::string lines = OneIn(40) ? "index;value;locked|" : "Index;Value;Locked|";
         for (int i = 0; i < 81; ++i) {
             const bool isEmpty = Choice(99) < percentEmpty;
@@ -154,7 +154,7 @@ Script RandomScript(const Choose& choose, const std::vector<std::string>& window
     const auto moments = momentsOfLast(script);
     for (int i = moments.empty() ? 0 : 1 + choose(2); i > 0; --i) {
         Row inner = user.Command(1);
-        inner.Moment = user.Pick(moments) + choose(2);
+        inner.Moment = user.Pick(moments) + (user.OneIn(2) ? choose(2) : 0);
         script.back().Inside.push_back(inner);
     }
     return script;
