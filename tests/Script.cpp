@@ -65,10 +65,13 @@ struct RandomUser {
                 {"", "x", "+-5", " +4 ", "5 5", "0x5", "5;", "5,", "9999999999", "9999999999x"});
         return std::to_string(OneIn(OneWrongIn) ? Value() : usual);
     }
+    std::string Header(const std::string& usual) const {
+        return (OneIn(40) ? Pick({"", "index;value;locked", usual + ";"}) : usual) + "|";
+    }
     // Nearly full, or nearly empty.
     std::string Csv() const {
         const int percentEmpty = OneIn(3) ? 50 + Choice(50) : Choice(OneIn(2) ? 1 : 12);
-        std::string lines = OneIn(40) ? "index;value;locked|" : "Index;Value;Locked|";
+        std::string lines = Header("Index;Value;Locked");
         for (int i = 0; i < 81; ++i) {
             const bool isEmpty = Choice(99) < percentEmpty;
             if (isEmpty && !OneIn(20)) continue;
@@ -78,7 +81,7 @@ struct RandomUser {
         return lines;
     }
     std::string Sdk() const {
-        std::string rows = OneIn(40) ? "sudoku|" : "\"Sudoku\"|";
+        std::string rows = Header("\"Sudoku\"");
         for (int count = std::stoi(Pick({"9", "9", "9", "25", "16", "8"})); count > 0; --count) {
             for (int i = Choice(9); i > 0; --i)
                 rows += Item(OneIn(3) ? Value() : 0).append(i > 1 ? "," : "");
@@ -140,11 +143,14 @@ Script RandomScript(const Choose& choose, const std::vector<std::string>& window
     if (user.OneIn(3)) user.Commands = user.Pick(GameThemes);
     if (withWindow && user.OneIn(2)) user.Commands = user.Pick(WindowThemes);
     if (user.OneIn(3)) user.Commands.push_back(user.Pick(GameCommands));
+    const bool isLarge = user.OneIn(40);
+    if (isLarge) user.Commands = {"index %f", "index 600", "value %f %v", "value 30 1"};
     Script script = user.Rows(0);
     const auto begin = [&](std::initializer_list<const char*> commands) {
         for (const char* const first : commands)
             script.insert(script.begin(), {.Command = user.Filled(first)});
     };
+    if (isLarge) begin({"init 5"});
     if (!user.OneIn(5)) begin({"index %f"});
     begin({"csv %c"});
     // An entry of the history that comes from a larger grid.

@@ -108,6 +108,9 @@ TEST_F(ToolkitTest, TicksNestFourDeep) {
     };
     timer.RaiseTick();
     EXPECT_EQ(ticks, 4);
+    timer.Tick = [] { throw std::runtime_error("failed"); };
+    timer.RaiseTick();
+    EXPECT_EQ(platform.Record, "! failed ");
 }
 
 } // namespace tessarin
