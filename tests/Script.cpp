@@ -45,7 +45,6 @@ const std::vector<std::string> GroupCommands{"group 1 %f %1", "regroup 1", "wide
 struct RandomUser {
     Choose Choice;
     const bool GroupsAreMade = OneIn(8);
-    const int OneWrongIn = OneIn(2) ? 60 : 9; // items of a puzzle
     std::vector<std::string> Commands = {};
 
     bool OneIn(int number) const { return Choice(number - 1) == 0; }
@@ -59,24 +58,26 @@ struct RandomUser {
     int Value() const { return OneIn(9) ? Choice(30) - 9 : Choice(9); }
 
     // Now and then a wrong item of a puzzle's text.
-    std::string Item(int usual) const {
+    std::string Item(int usual, int oneWrongIn = 500) const {
         if (OneIn(300))
             return Pick(
                 {"", "x", "+-5", " +4 ", "5 5", "0x5", "5;", "5,", "9999999999", "9999999999x"});
-        return std::to_string(OneIn(OneWrongIn) ? Value() : usual);
+        return std::to_string(OneIn(oneWrongIn) ? Value() : usual);
     }
     std::string Header(const std::string& usual) const {
         return (OneIn(40) ? Pick({"", "index;value;locked", usual + ";"}) : usual) + "|";
     }
-    // Nearly full, or nearly empty.
+    // Nearly full, or nearly empty; right but for a few values, or not.
     std::string Csv() const {
+        const int oneWrongIn = OneIn(2) ? 60 : 9;
         const int percentEmpty = OneIn(3) ? 50 + Choice(50) : Choice(OneIn(2) ? 1 : 12);
         std::string lines = Header("Index;Value;Locked");
         for (int i = 0; i < 81; ++i) {
             const bool isEmpty = Choice(99) < percentEmpty;
             if (isEmpty && !OneIn(20)) continue;
             const int right = isEmpty ? 0 : (i / 9 * 3 + i / 27 + i % 9) % 9 + 1;
-            lines += Item(i + 1) + ";" + Item(right) + ";" + Item(Choice(OneIn(9) ? 2 : 1)) + "|";
+            lines += Item(i + 1) + ";" + Item(right, oneWrongIn) + ";" +
+                     Item(Choice(OneIn(9) ? 2 : 1)) + "|";
         }
         return lines;
     }
