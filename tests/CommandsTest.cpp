@@ -44,6 +44,28 @@ TEST_F(CommandsTest, AnErrorLeavesAUsableWindow) {
     EXPECT_EQ(grid.FreeCount(), 0);
 }
 
+// The step has asked for the end of the solve by then.
+TEST_F(CommandsTest, APaceThatIsChosenWhenTheRotorOfAStepStopsGoesOn) {
+    FullBut({1, 11, 21});
+    Pace("Step");
+    bool chosen = false;
+    platform.EachPump = [&] {
+        if (!window.ctlRotor1.Running() && !std::exchange(chosen, true)) Pace("0");
+    };
+    Click("btnSolve");
+    EXPECT_EQ(grid.FreeCount(), 0);
+}
+
+TEST_F(CommandsTest, WhatOnlyCodeAsksFor) {
+    const float width = window.Width();
+    window.SetInfoVisible(false); // as it is
+    EXPECT_EQ(window.Width(), width);
+    Click(50);
+    window.PaintField(1);
+    window.PaintField(-1); // the current field
+    EXPECT_TRUE(window.lblInfo.Caption().starts_with("Index=50"));
+}
+
 TEST_F(CommandsTest, ARotorThatRunsMayStartAnew) {
     window.ctlRotor1.SetRunning(true);
     Tick();

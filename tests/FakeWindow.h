@@ -49,7 +49,8 @@ public:
     std::optional<std::string> RunFileDialog(const CommonDialog& dialog,
                                              FileDialogKind kind) override {
         mPlatform.Tell(dialog.DialogTitle, kind == FileDialogKind::Save ? " to save" : "",
-                       dialog.FileMustExist ? " which exists" : "");
+                       dialog.FileMustExist ? " which exists" : "",
+                       dialog.PathMustExist ? "" : " in any folder");
         const std::string path = mPlatform.TakeAnswer();
         return path.empty() ? std::nullopt : std::optional(path);
     }

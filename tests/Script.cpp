@@ -37,7 +37,8 @@ const std::vector<std::vector<std::string>> WindowThemes{
     {"activate", "csv %c", "clear %1", "click lblField(%l)"},
     {"click mnuViewFreedom", "click mnuViewNeighbours", "click mnuViewGroups", "value %f %v",
      "click btnNextFree", "activate", "close"},
-    {"value %f %v", "value %f 0", "click lblDeadEnd", "click mnuFileImportCSV"}};
+    {"value %f %v", "value %f 0", "click lblDeadEnd", "click mnuFileImportCSV"},
+    {"index 1", "import %c", "refuse", "reset", "click mnuFileExportCSV", "click mnuEditClearAll"}};
 
 // Nothing tells the grid of these, so they are not given inside others.
 const std::vector<std::string> GroupCommands{"group 1 %f %1", "regroup 1", "widen %f", "free 1"};
@@ -142,7 +143,11 @@ Script RandomScript(const Choose& choose, const std::vector<std::string>& window
         user.Commands.push_back(
             user.Pick(withWindow && !user.OneIn(3) ? windowCommands : GameCommands));
     if (user.OneIn(3)) user.Commands = user.Pick(GameThemes);
-    if (withWindow && user.OneIn(2)) user.Commands = user.Pick(WindowThemes);
+    if (withWindow && user.OneIn(2)) {
+        user.Commands = user.Pick(WindowThemes);
+        for (int i = choose(2); i > 0; --i)
+            user.Commands.push_back(user.Pick(windowCommands));
+    }
     if (user.OneIn(3)) user.Commands.push_back(user.Pick(GameCommands));
     const bool isLarge = user.OneIn(40);
     if (isLarge) user.Commands = {"index %f", "index 600", "value %f %v", "value 30 1"};
