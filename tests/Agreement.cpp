@@ -7,7 +7,6 @@
 #include "platform/ScopedValue.h"
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
-#include "ui/Colors.h"
 
 #include <memory>
 #include <sstream>
@@ -240,9 +239,9 @@ std::string NameOf(Color color) {
     return color == WindowBackground ? "normal"
            : color == ButtonText     ? "text"
            : color == ButtonFace     ? "face"
-           : color == Red            ? "red"
-           : color == Green          ? "green"
-           : color == Yellow         ? "yellow"
+           : color == 0xFF           ? "red"
+           : color == 0xFF00         ? "green"
+           : color == 0xFFFF         ? "yellow"
                                      : std::to_string(color);
 }
 
