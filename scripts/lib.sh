@@ -7,7 +7,7 @@
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 
 version=$(sed -n 's/^project(Tessarin VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
-title=$(sed -n 's/.*{\.Caption = "\(.*\)",$/\1/p' src/ui/frmTessarin.cpp) # of the window
+title=$(sed -n 's/.*{\.Caption = "\([^"]*\)",.*/\1/p' src/ui/frmTessarin.cpp) # of the window
 
 build_packages=(g++ cmake ninja-build)
 window_packages=(qt6-base-dev)
@@ -27,6 +27,8 @@ fail() {
     echo "$0: $*" >&2
     exit 1
 }
+
+[[ $title ]] || fail 'no title in src/ui/frmTessarin.cpp'
 
 # wait_until <seconds> <name> <command...>: waits until the command succeeds; fails with "no <name>".
 wait_until() {
