@@ -7,4 +7,4 @@ source "$(dirname "$0")/lib.sh"
 
 need "${build_packages[@]}" "${window_packages[@]}" "${test_packages[@]}"
 configure_and_build test
-run_tests test "$@"
+run_tests test --parallel "$(nproc)" "$@"
