@@ -241,7 +241,7 @@ class UntilFirstPaint : public QObject {
     }
 };
 
-// The same kinds and numbers of controls in the same fonts, made only of Qt's widgets.
+// As many controls of each kind in the same fonts, made only of Qt's widgets; with simpler menus.
 class BareWindow : public QWidget {
 public:
     BareWindow() {

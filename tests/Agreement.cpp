@@ -110,6 +110,7 @@ public:
             {"solve", [&] { play.Solve(); }},
             {"importcsv", [&, this] { game.FileImportCSV(File(Rest())); }},
             {"importsdk", [&, this] { game.FileImportSDK(File(Rest())); }},
+            {"look", [] {}},
             {"esc", [this] { mPlatform.EscPresses.push_front(true); }},
             // Not Yes; a dialog takes it for a new file.
             {"refuse", [this] { mPlatform.Answers = {mPlatform.Folder + "new"}; }},
@@ -185,6 +186,8 @@ private:
         if (mPlatform.Closed) return; // nobody can work a closed window
         const ScopedValue<const Row*> running(mRunning, &row);
         const ScopedValue<int> moment(mlMoment, 0);
+        if (row.Moment > 0)
+            mPlatform.Tell("\n", mState()); // what is seen in the midst of the outer one
         mPlatform.Tell("\n>", row.Command);
         mArguments = std::istringstream(row.Command);
         std::string word;

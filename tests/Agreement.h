@@ -27,6 +27,7 @@ constexpr bool WithWindow = true;
 ///     refuse                           the next box is answered No, the next dialog by a new file
 ///     click CONTROL, import TEXT, activate, close, tick
 ///     throw                            the handler of an event fails
+///     look                             nothing: an inner command tells the state before it, too
 std::string Disagreement(const Script& script, bool withWindow);
 
 /// A user who makes these choices: see Script.h.

@@ -42,7 +42,8 @@ public:
     }
     std::unique_ptr<ControlPeer> Create(MenuItem& item) override { return Add(item); }
     std::unique_ptr<OptionPeer> Create(OptionButton& option) override {
-        return Add<QuietOption>(option);
+        Add(option);
+        return std::make_unique<QuietOption>(mPlatform);
     }
     std::unique_ptr<ControlPeer> Create(Picture& picture) override { return Add(picture); }
     std::unique_ptr<ControlPeer> Create(Timer& timer) override { return Add(timer); }
@@ -71,7 +72,9 @@ private:
         Label& mLabel;
     };
     struct QuietOption : Quiet<OptionPeer> {
-        void Select() override {}
+        explicit QuietOption(ScriptedPlatform& platform) : mPlatform(platform) {}
+        void Select() override { mPlatform.Tell("selected"); }
+        ScriptedPlatform& mPlatform;
     };
     struct QuietForm : Quiet<FormPeer> {
         QuietForm(ScriptedPlatform& platform, Form& form) : mPlatform(platform), mForm(form) {}
@@ -81,12 +84,11 @@ private:
         Form& mForm;
     };
 
-    template <class Peer = Quiet<ControlPeer>, class KindOfControl>
-    std::unique_ptr<Peer> Add(KindOfControl& control) {
+    std::unique_ptr<ControlPeer> Add(auto& control) {
         std::function<void()>* click = nullptr;
         if constexpr (requires { control.Click; }) click = &control.Click;
         mControls[control.Name()] = {&control, click};
-        return std::make_unique<Peer>();
+        return std::make_unique<Quiet<ControlPeer>>();
     }
 
     ScriptedPlatform& mPlatform;

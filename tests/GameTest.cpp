@@ -74,10 +74,10 @@ TEST_F(GridTest, EventsAndPumpsHaveAnOrder) {
 
 TEST_F(GridTest, AWaitPumpsBeforeAndAfterItsSleep) {
     platform.TellsPumps = true;
-    TELLS(Wait(0), "(1)");
+    TELLS(Wait(0), "now (1)");
     int pause = 800;
     platform.EachPump = [&] { pause = 100; };
-    TELLS(Wait([&] { return pause; }), "(1) Sleep(100) (1)");
+    TELLS(Wait([&] { return pause; }), "now (1) Sleep(100) now (1)");
 }
 
 TEST_F(GridTest, AGameThatEndsLeavesANewerOneInItsPlace) {

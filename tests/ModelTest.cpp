@@ -18,17 +18,21 @@ static_assert(!std::is_copy_constructible_v<Connection> && std::is_move_assignab
 TEST(EventTest, HandlersMayConnectAndDisconnect) {
     Event<> event;
     std::string called;
-    Connection second, third;
+    Connection second, third, fourth;
     const Connection first = event.Connect([&] {
         called += "1";
-        second = {};                                                      // is not called any more
-        if (called == "1") third = event.Connect([&] { called += "3"; }); // nor is this one yet
+        if (called == "1") {
+            third = event.Connect([&] { called += "3"; }); // is not called yet
+        } else {
+            second = {}; // is not called any more
+            fourth = event.Connect([&] { called += "4"; });
+        }
     });
     second = event.Connect([&] { called += "2"; });
     event.Raise();
-    EXPECT_EQ(called, "1");
+    EXPECT_EQ(called, "12");
     event.Raise();
-    EXPECT_EQ(called, "113");
+    EXPECT_EQ(called, "1213");
 }
 
 TEST(EventTest, AHandlerMayReplaceItselfAndDestroyTheEvent) {

@@ -32,12 +32,13 @@ const std::vector<std::vector<std::string>> GameThemes{
     {"value %f %v", "value %f 0", "free %f", "count"},
     {"index %f", "enter %v 0", "enter 0 0", "freedom %1"}};
 const std::vector<std::vector<std::string>> WindowThemes{
-    {"click btnSolve", "click btnSolve", "click optChill(%6)", "click lblField(%l)", "tick",
-     "close"},
+    {"click btnSolve", "click btnSolve", "click optChill(%6)", "click lblField(%l)", "tick", "tick",
+     "activate", "close"},
     {"activate", "csv %c", "clear %1", "click lblField(%l)"},
     {"click mnuViewFreedom", "click mnuViewNeighbours", "click mnuViewGroups", "value %f %v",
      "click btnNextFree", "activate", "close"},
-    {"value %f %v", "value %f 0", "click lblDeadEnd", "click mnuFileImportCSV"},
+    {"value %f %v", "value %f 0", "click lblDeadEnd", "click mnuFileImportCSV",
+     "click mnuEditClearAll", "click mnuViewNeighbours"},
     {"index 1", "import %c", "refuse", "reset", "click mnuFileExportCSV", "click mnuEditClearAll"}};
 
 // Nothing tells the grid of these, so they are not given inside others.
@@ -61,8 +62,8 @@ struct RandomUser {
     // Now and then a wrong item of a puzzle's text.
     std::string Item(int usual, int oneWrongIn = 500) const {
         if (OneIn(300))
-            return Pick(
-                {"", "x", "+-5", " +4 ", "5 5", "0x5", "5;", "5,", "9999999999", "9999999999x"});
+            return Pick({"", "x", "+-5", " +4 ", "\t4", "5 5", "0x5", "5;", "5,", "9999999999",
+                         "9999999999x"});
         return std::to_string(OneIn(oneWrongIn) ? Value() : usual);
     }
     std::string Header(const std::string& usual) const {
@@ -89,6 +90,7 @@ struct RandomUser {
                 rows += Item(OneIn(3) ? Value() : 0).append(i > 1 ? "," : "");
             rows += "|";
         }
+        if (OneIn(20)) rows += Item(0); // after the last line break
         return rows;
     }
     std::string Word(char kind) const {
@@ -96,7 +98,8 @@ struct RandomUser {
         const RandomUser writer{Dice(static_cast<unsigned>(Choice(9999)))};
         if (kind == 'c') return writer.Csv();
         if (kind == 's') return writer.Sdk();
-        if (kind == 'd') return Pick({"0", "3", "3", "3", "3", "3", "5", "7", "4", "-1", "217"});
+        if (kind == 'd')
+            return Pick({"0", "3", "3", "3", "3", "3", "5", "7", "4", "-1", "216", "217"});
         if (kind == 'v') return std::to_string(Value());
         if (kind == 'l') return std::to_string(1 + Choice(80));
         if (kind != 'f') return std::to_string(Choice(kind - '0'));
@@ -112,7 +115,7 @@ struct RandomUser {
     Row Command(int depth) const {
         const bool ofGroups = GroupsAreMade && depth == 0 && OneIn(2);
         Row row{.Command = Filled(Pick(ofGroups ? GroupCommands : Commands))};
-        if (depth > 0) row.Moment = 1 + Choice(OneIn(3) ? 400 : 9);
+        if (depth > 0) row.Moment = 1 + Choice(OneIn(3) ? 400 : OneIn(2) ? 9 : 1);
         if (depth > 0 && OneIn(40)) row.Command = "throw";
         if (depth < 3 && OneIn(2)) row.Inside = Rows(depth + 1);
         return row;
@@ -169,6 +172,8 @@ Script RandomScript(const Choose& choose, const std::vector<std::string>& window
         inner.Moment = user.Pick(moments) + (user.OneIn(2) ? choose(2) : 0);
         script.back().Inside.push_back(inner);
     }
+    for (int i = moments.empty() ? 0 : 4; i > 0; --i)
+        script.back().Inside.push_back({user.Pick(moments), "look"});
     return script;
 }
 

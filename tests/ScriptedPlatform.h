@@ -19,8 +19,10 @@ public:
     bool TellsErrors = true;     ///< off: only that there was one
     bool Closed = false;         ///< the window is closed: no pumps, sleeps and questions
 
-    void PumpEvents(Pump /*pump*/) override {
-        if (!Closed) Pumped();
+    void PumpEvents(Pump pump) override {
+        if (Closed) return;
+        if (TellsPumps && pump == Pump::Now) Tell("now");
+        Pumped();
     }
     void Sleep(int milliseconds) override {
         if (Closed) return;

@@ -14,6 +14,7 @@ struct ToolkitTest : testing::Test {
 
     ToolkitTest() {
         button.Click = [this] { ++clicks; };
+        button.RaiseClick(); // does nothing: the form is not shown yet
         form.Show();
     }
     /// Does a step in the innermost of as many clicks as may nest: another click has to wait.
@@ -90,7 +91,9 @@ TEST_F(ToolkitTest, AnOptionAnswersAtOnce) {
     option.Select();
     EXPECT_EQ(clicks, 3);
     option.Click = [] { throw std::runtime_error("failed"); };
+    platform.Record.clear();
     EXPECT_THROW(option.Select(), std::runtime_error);
+    EXPECT_EQ(platform.Record, "selected ");
 }
 
 TEST_F(ToolkitTest, ACancelledDialogKeepsTheFileChosenBefore) {

@@ -8,7 +8,8 @@
 //     Box(title|text|? Yes No)  a box with its buttons (with Qt without them). Without a question
 //                         icon it has a "-": Box(title|text|- OK)
 //     Import File         the title of a file dialog
-//     (83)                so many pumps of window events, if TellsPumps is set
+//     (83)                so many pumps of window events, if TellsPumps is set; the one after
+//                         "now" must not be skipped
 //     ! text              the step, or a handler of the window, has ended with this error
 // Line breaks are told as "|", paths of files without the test's folder.
 #pragma once

@@ -259,9 +259,9 @@ private:
         const auto groups = moGame.Groups;
         for (const auto& group : groups) {
             PaintFields(group->Fields, true);
-            PumpEvents();
+            PumpEvents(Pump::Now);
             Platform::Current().Sleep(1000);
-            PumpEvents();
+            PumpEvents(Pump::Now);
             PaintFields(group->Fields, false);
         }
         RefreshAll();
@@ -349,10 +349,10 @@ private:
             if (previous != cursor && Label(previous)) ShowField(previous, false);
         }
         if (!PauseIsDue()) return;
-        PumpEvents();
+        PumpEvents(Pump::Now);
         if (!PauseIsDue()) return; // the pump can end the solve or choose another pace
         Platform::Current().Sleep(ChillDelay);
-        PumpEvents();
+        PumpEvents(Pump::Now);
     }
 
     bool PauseIsDue() const { return Solving && ChillDelay > 0; }
@@ -445,7 +445,7 @@ private:
     void ShowFrame() {
         for (int i = 0; i < 12; ++i)
             Controls[Name("Image1", i)].Visible = i == FrameIndex;
-        PumpEvents();
+        PumpEvents(Pump::Now);
     }
 
     static constexpr int ChillDelays[] = {-1, 0, 100, 200, 400, 800, -2}; // quiet, ms, step
