@@ -213,7 +213,7 @@ private:
         // A solve that takes long is cancelled.
         auto& presses = mPlatform.EscPresses;
         if (presses.empty()) presses = {false, false, false, false, false, false, true};
-        ++mlMoment;
+        if (++mlMoment == 1) mPlatform.Tell(mState()); // what the command has changed by now
         if (mPlatform.Record.size() != std::exchange(mTold, mPlatform.Record.size()))
             mMoments.push_back(mlMoment);
         for (const Row& inner : mRunning->Inside) {

@@ -8,7 +8,7 @@
 
 namespace tessarin {
 
-constexpr unsigned SeedsInABlock = 250;
+constexpr unsigned SeedsInABlock = 220;
 
 class AgreementTest : public testing::TestWithParam<std::tuple<unsigned, bool>> {};
 INSTANTIATE_TEST_SUITE_P(BlocksOfSeeds, AgreementTest,

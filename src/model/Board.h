@@ -17,7 +17,8 @@ struct Board {
 /// The board of the one game. Set and cleared with goGame, whose header lies above the model.
 inline Board* goBoard = nullptr;
 
-/// The grid of goBoard. Fields, groups and player hold no reference to the grid: they find it here.
+/// The grid of goBoard. A field, a group and the player hold no reference to the grid: they
+/// find it here.
 inline Fields& Grid() {
     return *goBoard->Fields;
 }

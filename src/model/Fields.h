@@ -23,9 +23,9 @@ namespace tessarin {
 /// grid or read counts themselves; every read returns the counts of the grid as it then is.
 class Fields {
 public:
-    /// Which event follows StatusChanged.
+    /// Which event follows StatusChanged: the one of a winner before the one of a dead end.
     enum Report : int {
-        WinnerToReport = 0,  ///< the grid is full, or was so at the count before and is no longer
+        WinnerToReport = 0,  ///< the grid is full, or was so at the count before
         NothingToReport = 1, ///< neither
         DeadEndToReport = 2  ///< there is a dead field, or was one at the count before
     };
@@ -47,8 +47,8 @@ public:
     struct GridEvents {
         Event<int> BeforeIndexChanged; ///< index of the field that the cursor is about to leave
         Event<int> IndexChanged;       ///< the new cursor index, 0 when there is no cursor now
-        Event<int> StatusChanged;      ///< the changed field; for a lock the cursor's index
-        Event<int> IsWinner;           ///< as StatusChanged; 0: no longer full
+        Event<int> StatusChanged;      ///< the changed field; for a lock the cursor's index or 0
+        Event<int> IsWinner;           ///< as StatusChanged; 0 also if it is no longer full
         Event<int> IsDeadEnd;          ///< the lowest dead field; 0: there is none any more
         Event<> Init;                  ///< the grid has new fields, which have no groups yet
     };
@@ -75,17 +75,19 @@ public:
     /// The grid as text: "Index;Value;Locked" and a line for each field with a value (or for all).
     std::string TextCSV(bool WithEmpty = false) const;
     /// Rebuilds the grid with dimension 3 from such a text; ignores WithEmpty. A text with another
-    /// first line leaves it empty. Throws TypeMismatchError or std::overflow_error for an item that
-    /// is no number of 32 bits, and std::out_of_range for too few items in a line or an index
-    /// outside 1 to 81; what was loaded before stays. Raises Init only.
+    /// first line leaves it empty. Skips empty lines and what follows the third item of a line.
+    /// Throws TypeMismatchError or std::overflow_error for an item that is no number of 32 bits,
+    /// and std::out_of_range for too few items in a line or an index outside 1 to 81; what was
+    /// loaded before stays. Raises Init only.
     void SetTextCSV(std::string_view MyTextCSV, bool WithEmpty = false);
-    /// The grid as text: "\"Sudoku\"" and a line of values for each row.
+    /// The grid as text: "\"Sudoku\"" and a line of values for each row. A line break ends each of
+    /// them, the last one too.
     std::string TextSDK() const;
     /// Rebuilds the grid from such a text and locks all values but 0. Values past the end of a row
-    /// belong to the next one. A text with another first line, or with other than 9 or 25 rows,
-    /// leaves the grid unchanged. Throws TypeMismatchError or std::overflow_error for an item that
-    /// is no number of 32 bits, and std::out_of_range for items past the last field; what was
-    /// loaded before stays. Raises Init only.
+    /// belong to the next one. A text with another first line, or with other than 9 or 25 such
+    /// lines, leaves the grid unchanged. Throws TypeMismatchError or std::overflow_error for an
+    /// item that is no number of 32 bits, and std::out_of_range for items past the last field; what
+    /// was loaded before stays. Raises Init only.
     void SetTextSDK(std::string_view MyTextSDK);
 
     /// Locks or unlocks every field with a value above 0.

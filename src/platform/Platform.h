@@ -18,7 +18,7 @@ struct DateTime {
     bool operator==(const DateTime&) const = default;
 };
 
-/// The program's name and version, as the About box shows them.
+/// The program's description, copyright, address and version, as the About box shows them.
 struct VersionRecord {
     std::string FileDescription;
     std::string LegalNotice;
@@ -91,8 +91,7 @@ public:
     virtual void ReportError(const std::string& what);
 
     // The window-style calls of ShowInTaskBar. `handle` is the window's native handle. By default
-    // they do nothing, and every style is 0: here a window has its entry anyway, and hiding the
-    // window would lose its place and focus.
+    // they do nothing, and every style is 0.
     static constexpr int HideCommand = 0;
     static constexpr int ShowCommand = 5; ///< shows and activates the window
     static constexpr int ExtendedStyle = -20;

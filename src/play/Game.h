@@ -18,7 +18,7 @@ class Play;
 /// new fields. There is one game, goGame.
 class Game : public Board {
 public:
-    /// The grid's events, with the same names and arguments.
+    /// The grid's events but Init, with the same names and arguments.
     struct GameEvents {
         Event<int> BeforeIndexChanged;
         Event<int> IndexChanged;

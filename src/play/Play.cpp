@@ -8,7 +8,7 @@
 namespace tessarin {
 
 void Play::Reset() {
-    History.reset();
+    SetTracing(false);
 }
 
 void Play::SetTracing(bool MyTracing) {

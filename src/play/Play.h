@@ -14,7 +14,7 @@ class Field;
 /// cursor field, keeps a history of the fields it filled, goes back along it, and solves by itself.
 ///
 /// It ignores locks. What cannot be done (a value that is not free, no next free field, an empty
-/// history, no cursor) changes nothing; only GoBackToFreedom then beeps. Every change raises the
+/// history, no cursor) changes nothing, but see GoBackToFreedom. Every change raises the
 /// grid's events, in which any other command may run and move the cursor: each step reads the
 /// cursor again, but SetValue keeps the field that it began with.
 class Play {
@@ -24,12 +24,13 @@ public:
     Play(const Play&) = delete;
     Play& operator=(const Play&) = delete;
 
-    /// The indices of the fields filled while tracing, oldest first; none while tracing is off.
+    /// The indices of the fields filled while tracing, or current when a solve began, oldest first;
+    /// none while tracing is off.
     std::optional<UniqueNumbers> History;
     /// How often GoBackToFreedom has run since Solve last started.
     int Retries = 0;
 
-    /// Drops the history and switches tracing off.
+    /// The same as SetTracing(false).
     void Reset();
 
     /// Whether filled fields are recorded.
@@ -41,14 +42,14 @@ public:
     /// value.
     void GotoNextFreeField(bool AutoValue = false);
 
-    /// Empties the cursor field and moves to the newest remaining history entry; from an empty
-    /// field only moves there. With AutoValue the field under the cursor then takes its next free
-    /// value.
+    /// The same as SetValue(0). With AutoValue the field that is then under the cursor takes its
+    /// next free value.
     void GoBack(bool AutoValue = false);
 
     /// Goes back until the cursor field has another free value or the history is used up. With
     /// AutoValue the cursor field then takes its next free value. Returns whether the cursor is on
-    /// another field than before; if not, its value is restored and the system beeps.
+    /// another field than before. If not, its value is restored, but not its place in the history,
+    /// and the system beeps.
     bool GoBackToFreedom(bool AutoValue = false);
 
     /// The cursor field's value, 0 without a cursor. AutoValue is ignored.
@@ -67,11 +68,12 @@ public:
     /// the history stays as it is.
     int NextFreeValue(bool SetValue = false);
 
-    /// Fills the grid by itself. In each cycle the next free field takes its smallest free value;
-    /// if that leads to a dead end, one retreat goes back along the history to a field with a
-    /// larger free value. Ends when the grid is full, when a dead end remains after the retreat or
-    /// when a cancel is requested, which is checked once a cycle. An ESC that was pressed before
-    /// the start counts.
+    /// Fills the grid by itself. Switches tracing on, to stay on, with the cursor field as an entry
+    /// of the history, and takes back a cancel that was requested before. In each cycle the next
+    /// free field takes its smallest free value; if that leads to a dead end, one retreat goes back
+    /// along the history to a field with a larger free value. Ends when the grid is full, when a
+    /// dead end remains after the retreat or when a cancel is requested, which is checked once a
+    /// cycle. An ESC that was pressed before the start counts.
     void Solve();
 
 private:

@@ -9,7 +9,8 @@ namespace tessarin {
 class Game;
 
 /// The game: set first of all in its constructor, cleared last in its destructor. A program has
-/// one; of several the newest counts. What needs only the grid takes Grid() of model/Board.h.
+/// one; of several the newest counts, and once it has ended none. What needs only the grid takes
+/// Grid() of model/Board.h.
 extern Game* goGame;
 
 /// The text that ShowAbout builds.

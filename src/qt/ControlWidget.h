@@ -23,7 +23,7 @@ class ControlWidget {
 public:
     virtual ~ControlWidget() = default;
 
-    /// Shows the control as it is now. No constructor does: as soon as a widget has a name, a
+    /// Shows the control as it is now. No constructor calls this: as soon as a widget has a name, a
     /// screen reader may ask for all of it.
     void ShowAll();
 

@@ -56,7 +56,7 @@ void KeyboardFocus::ToGrid() {
     mWaiting.clear();
     if (Current() == nullptr) return;
     Current()->setFocus();
-    Current()->update(); // its frame was not shown while a control waited
+    Current()->update(); // its focus ring was not shown while a control waited
 }
 
 void KeyboardFocus::SetVisible(QWidget& widget, bool visible) {
@@ -79,7 +79,7 @@ void KeyboardFocus::GiveBack() {
     mWaiting.clear();
     const bool userHasMovedIt = mWindow.focusWidget() != Current();
     if (userHasMovedIt) return;
-    ToGrid(); // shows the frame there, if the control cannot take the focus
+    ToGrid(); // shows the focus ring there, if the control cannot take the focus
     if (waiting->isEnabled() && waiting->isVisible()) waiting->setFocus();
 }
 

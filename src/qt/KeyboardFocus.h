@@ -19,7 +19,7 @@ namespace tessarin::qt {
 
 /// Where the keyboard is in a form. It belongs to the form's grid of labels, in which the arrow
 /// keys move on from the current label. The whole grid is one stop of the Tab key, which alone
-/// takes the focus to a control elsewhere.
+/// takes the focus to another control.
 ///
 /// A control that loses the focus because its panel is disabled waits for it: the grid has the
 /// focus meanwhile, without showing it, and the control gets it back.

@@ -16,7 +16,7 @@ public:
     QtCommandButton(CommandButton& button, const Site& site);
 
     void Changed(Property property) override { Apply(property); }
-    /// Whether the key clicks the button: it is its caption or one of its shortcuts.
+    /// Whether the key clicks the button: it is the whole caption or one of the shortcuts.
     bool IsClickedBy(const QKeyEvent& key) const;
 
 protected:

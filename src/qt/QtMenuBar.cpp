@@ -85,7 +85,7 @@ bool QtMenuBar::Open(const QString& letter) {
     return false;
 }
 
-// Sends QMenuBar the events of a tap on Alt. Before that the pointer seems to leave it, because it
+// Sends QMenuBar the events of a tap on Alt. First it is told that the pointer has left, else it
 // would start at the title under the pointer.
 void QtMenuBar::Toggle() {
     QEvent pointerLeaves(QEvent::Leave);

@@ -46,8 +46,8 @@ protected:
         if (!mArea.isEmpty()) setAttribute(Qt::WA_Moved);
         QMessageBox::showEvent(event);
         if (mArea.isEmpty()) return;
-        // With room for a frame: some window managers take the place for that of the box without
-        // it.
+        // With room for a frame: some window managers put the frame at that place, others the box
+        // itself.
         const QMargins frame = mWindow.windowHandle()->frameMargins();
         const QRect screen = mWindow.screen()->availableGeometry();
         move(PlaceBeside(mArea.marginsAdded(frame), size().grownBy(frame), screen));

@@ -49,7 +49,8 @@ bool QtPlatform::IsPumpDue() {
 }
 
 // Sleeps in slices, so that the window is painted and activated meanwhile. What the user does,
-// closing the window included, waits for the next pump; so do the timers.
+// closing the window included, waits for the next pump; so do the timers. Only an activation may
+// pump.
 void QtPlatform::Sleep(int milliseconds) {
     constexpr qint64 SliceMilliseconds = 20;
     const QDeadlineTimer end(milliseconds);

@@ -11,8 +11,8 @@ class QtPlatform;
 /// Makes the controls of one form out of Qt's widgets.
 ///
 /// Each widget has two owners, its control and, in Qt, its parent widget. The control is always the
-/// one that deletes it: controls are members of what contains them, so they end before the parent
-/// widget, and a widget that is deleted leaves its parent's list.
+/// one that deletes it: a control is declared after the one that contains it, so that it ends
+/// first, and a widget that is deleted leaves its parent's list.
 class QtToolkit : public Toolkit {
 public:
     explicit QtToolkit(QtPlatform& platform) : mPlatform(platform) {}

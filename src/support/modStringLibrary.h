@@ -19,6 +19,7 @@ std::string PadLeft(std::string_view text, std::optional<std::int16_t> length = 
 /// The decimal digits of `number`, a minus sign in front when negative, through PadLeft; an empty
 /// pad character means "0". 7 with width 4 gives 0007, 12345 gives 2345.
 std::string PadNumber(int number, std::int16_t width, std::string_view padCharacter);
+/// The same for 16 bits.
 std::string PadInteger(std::int16_t number, std::int16_t width, std::string_view padCharacter);
 
 /// `text` with every occurrence of `find` replaced, from left to right; the replacement is not

@@ -21,7 +21,7 @@ std::string WriteTextFile(const std::string& FileName, const std::string& text,
                           const std::string& charset, bool replaceExisting);
 
 /// "unicode" or "utf-8" by the file's byte-order mark, "x-ansi" without one, "" when it is empty or
-/// cannot be read.
+/// ReadTextFile would not read it.
 std::string DetectCharset(const std::string& FileName);
 
 std::string BomUnicode(); ///< the codes 255, 254

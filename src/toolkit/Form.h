@@ -10,8 +10,8 @@
 
 namespace tessarin {
 
-/// A window, hidden until Show. The program sets its size; where the desktop allows that, the user
-/// cannot change it.
+/// A window, hidden until Show. The program sets its size; the user cannot change it, unless the
+/// desktop insists.
 class Form : public Control {
 public:
     Form(Toolkit& toolkit, std::string name, const FormProperties& design);
@@ -42,7 +42,7 @@ public:
     /// The native handle for the window-style calls of Platform.
     int Handle() { return mFormPeer.Handle(); }
 
-    /// For the toolkit: the window has become active. Ignores re-entrant activations: Activate
+    /// For the toolkit: the window has become active. Does nothing while Activate runs, which
     /// pumps events.
     void RaiseActivate();
     /// For the toolkit: the window is about to close. Returns whether it may; if so, no later click

@@ -18,7 +18,7 @@ class OptionButton;
 class Picture;
 class Timer;
 
-/// The properties of a control whose changes a toolkit is told.
+/// The properties whose changes a control tells its peer.
 enum class Property {
     Bounds,
     Texts, ///< caption and accessible name

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The fixed colours of the window.
+// The fixed colours of the window: blue, green, red from the highest byte.
 #pragma once
 
 #include "toolkit/Properties.h"

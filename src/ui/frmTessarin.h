@@ -38,7 +38,8 @@ public:
     ~frmTessarin() override;
 
     /// Counts the grid, which pumps, then paints a field (0 or less: the current one) in the state
-    /// that it has then, and shows its data in the information panel. Either mark makes it yellow.
+    /// that it has then, and shows its data in the information panel. Either mark makes it yellow;
+    /// they look the same.
     /// During a solve, waits for the pause that is chosen, whoever paints. Ignores a field that has
     /// no label.
     void PaintField(int index, bool neighbourMark = false, bool groupMark = false);
@@ -58,7 +59,8 @@ public:
     void SetInfoVisible(bool MyInfoVisible);
     bool InfoVisible() const { return mbInfoVisible; }
 
-    // The controls and their design; menu entries in the order of their menu.
+    // The controls and their design, each after the one that contains it; menu entries in the order
+    // of their menu.
     Label lblFile{
         *this, "lblFile", {.Place = {.Top = 120, .Width = 8535, .Height = 255}, .Font = PlainFont}};
     ControlArray<Label> lblField{*this,
@@ -221,7 +223,7 @@ private:
     std::array<Connection, 5> mConnections;
     bool Solving = false;
     int ChillDelay = 0;     // the Delay of the chosen pace
-    int PreviousIndex = 0;  // the index of the last BeforeIndexChanged
+    int PreviousIndex = 0;  // the index of the last BeforeIndexChanged; 0 before the first
     int PaintedCurrent = 0; // the field that is painted as the current one; 0 for none
     bool mbViewRunning = false;
     bool mbInfoVisible = false;

@@ -139,7 +139,7 @@ void frmTessarin::btnNumPad_Click(int Index) {
 }
 
 void frmTessarin::optChill_Click(int Index) {
-    ClearCancel();
+    ClearCancel(); // a solve that has just ended itself, at the pace Step, goes on
     ChillDelay = Paces.at(static_cast<std::size_t>(Index)).Delay;
 }
 
@@ -173,6 +173,7 @@ void frmTessarin::mnuFileImportCSV_Click() {
     // A copy, because a command that runs meanwhile may use the dialog again.
     const std::string fileName = chosen ? CommonDialog1.FileName : "";
     if (!fileName.empty()) {
+        // The user sees an empty grid while the file is read.
         RunIgnoringErrors([this] { moGame->Fields->Clear(); });
         RunIgnoringErrors([this] { RefreshAll(); });
         lblFile.SetCaption("");

@@ -55,8 +55,8 @@ void frmTessarin::ShowState(int index, const FieldState& state) {
 // If this is the field that the cursor has left, the cursor's label becomes current first: a screen
 // reader announces a new name only where the focus is, so it announces only the move.
 //
-// If this is the field that the cursor has reached, another field may still look current: a click
-// in the middle of this move had taken the cursor to it. It is shown again, as it is now.
+// If this is the field that the cursor has reached, a third field may still look current: one that
+// was clicked in the middle of this move. That one is shown again, as it is now.
 void frmTessarin::ShowStateAndCurrent(int index, const FieldState& state) {
     const Fields& grid = *moGame->Fields;
     if (index == PaintedCurrent && !state.IsCursor) {
@@ -119,8 +119,8 @@ void frmTessarin::RefreshNumPad() {
     if (!cursor) return;
     const bool locked = cursor->Locked();
     const std::string freeValues = cursor->FreeValuesList();
+    const bool canLock = locked || cursor->Value() != 0;
     for (int key = 0; key <= ClearKey; ++key) {
-        const bool canLock = locked || cursor->Value() != 0;
         btnNumPad(key).SetEnabled(key == LockKey ? canLock : !locked);
         const bool isValue = key >= 1 && key <= 9;
         const bool isFree = freeValues.find(std::to_string(key) + ";") != std::string::npos;

@@ -13,16 +13,9 @@ namespace {
 constexpr int Pictures = 12;
 constexpr int TickMilliseconds = 5;
 constexpr float PictureSide = 480;
-constexpr int PicturesInColumn = 4;
 
-// The pictures lie side by side in the design; UserControl_Resize puts them on top of each other.
 PictureProperties PictureAt(int index) {
-    const int column = index / PicturesInColumn;
-    const int row = index % PicturesInColumn;
-    return {.Place = {.Left = PictureSide * static_cast<float>(column),
-                      .Top = PictureSide * static_cast<float>(row),
-                      .Width = PictureSide,
-                      .Height = PictureSide},
+    return {.Place = {.Width = PictureSide, .Height = PictureSide},
             .File = "rotor-" + std::to_string(index) + ".png",
             .Visible = false};
 }
