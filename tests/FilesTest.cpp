@@ -4,6 +4,7 @@
 #include "support/modTextStream.h"
 
 #include <csignal>
+#include <filesystem>
 #include <sys/resource.h>
 
 namespace tessarin {
@@ -76,6 +77,8 @@ TEST_F(FilesTest, FilesKeepEveryByteAndAreReadWhole) {
     const std::string bytes = BomUtf8() + "a\r\nb\n\xFF\r" + std::string(200'000, '\0');
     EXPECT_EQ(WriteTextFile(folder + "all", bytes, "utf-8", Replace), "");
     EXPECT_EQ(ReadTextFile(folder + "all"), bytes);
+    std::filesystem::create_symlink(folder + "all", folder + "link");
+    EXPECT_EQ(ReadTextFile(folder + "link"), bytes);
     // A device is not read, because it may never end; a film that is chosen by mistake neither.
     EXPECT_EQ(ReadTextFile("/dev/zero"), "");
     EXPECT_EQ(ReadTextFile(Write("film", std::string(17'000'000, 'x'))), "");

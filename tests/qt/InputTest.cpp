@@ -57,6 +57,7 @@ TEST_F(InputTest, KeysClickTheControlsThatCanBeClicked) {
                                                           {"6", ""},
                                                           {"X", "btnNumPad(10)"},
                                                           {"Delete", "btnNumPad(11)"},
+                                                          {"Num+Del", "btnNumPad(11)"},
                                                           {"Backspace", "btnNumPad(11)"},
                                                           {"Shift+>", "btnNextFree"},
                                                           {"F", "btnNextFreeValue"},
@@ -148,6 +149,9 @@ TEST_F(InputTest, AfterASolveTheFocusComesBackUnlessTheUserHasMovedIt) {
         Key("Shift+Tab");
     };
     EXPECT_EQ(afterSolve(leaveAndReturn), "lblField(21)");
+    QWidget other;
+    other.show();
+    EXPECT_EQ(afterSolve([&] { other.activateWindow(); }), "btnSolve");
 }
 
 TEST_F(InputTest, LeavingTheMenuBarGivesTheFocusBack) {
@@ -211,6 +215,11 @@ TEST_F(InputTest, KeysOpenTheMenus) {
     EXPECT_NE(bar(), plain) << "the keyboard is not seen there";
     Key("F10");
     EXPECT_EQ(Focused(), "lblField(1)");
+    // Always from the first menu.
+    PointAtMenu("Edit");
+    Key("F10");
+    Key("Down");
+    TELLS(Key("Return"), "mnuFileImportCSV");
 }
 
 TEST_F(InputTest, AHeldTabGoesThroughThePanelsRowByRow) {
@@ -257,6 +266,7 @@ TEST_F(InputTest, APressOfEscCountsOnce) {
     EXPECT_TRUE(platform.EscPressed());
     Repeat(1600, "Esc");
     EXPECT_FALSE(platform.EscPressed());
+    PointAtMenu("Edit");
     Down(1900, "Esc");
     Up(1910, "Esc");
     EXPECT_TRUE(platform.EscPressed());

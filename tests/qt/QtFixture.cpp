@@ -114,6 +114,13 @@ void QtFixture::SendKey(QEvent::Type type, int time, const QString& key) {
     QCoreApplication::sendEvent((Box() ? Box() : form)->windowHandle(), &event);
 }
 
+void QtFixture::PointAtMenu(const QString& title) {
+    const auto& menus = *form->findChild<QMenuBar*>();
+    for (QAction* const entry : menus.actions())
+        if (entry->text() == title)
+            QTest::mouseMove(form->windowHandle(), menus.actionGeometry(entry).center());
+}
+
 void QtFixture::Activate() {
     if (!form->isVisible() || Box()) return;
     form->activateWindow();
@@ -169,16 +176,17 @@ void QtFixture::LookForBox() {
         EXPECT_TRUE(box->screen()->geometry().contains(box->geometry()));
     }
     platform.Tell(told);
+    EXPECT_EQ(dialog->font(), platform.DesktopFont);
     EXPECT_FALSE(HasHourglass());
     ExpectOrder();
     platform.Paused();
     if (!dialog->isVisible()) return;
     const QString answer = QString::fromStdString(platform.TakeAnswer());
-    if (!answer.contains('/')) {
+    if (!answer.contains('.')) {
         Press(answer.isEmpty() ? "Esc" : answer);
         return;
     }
-    // The path of a file. While it grows, the dialog itself selects rows of its list.
+    // The name of a file. While it grows, the dialog itself selects rows of its list.
     auto* const line = Dialog().findChild<QLineEdit*>("fileNameEdit");
     for (const QChar c : answer) {
         line->insert(c);

@@ -22,7 +22,8 @@ class SpyPlatform final : public qt::QtPlatform, public Recorder {
 public:
     SpyPlatform() : QtPlatform(ProgramVersion) {}
 
-    bool ReallySleeps = false; ///< off: a sleep takes no time
+    bool ReallySleeps = false;                      ///< off: a sleep takes no time
+    const QFont DesktopFont = QApplication::font(); ///< as it was before the window
 
     void PumpEvents(Pump pump) override {
         Pumped();
@@ -60,8 +61,8 @@ public:
 using QtParts = WindowParts<SpyPlatform, SpyToolkit>;
 
 /// The window, shown and active. What the user does returns when its command has ended and its
-/// boxes are answered: by the path of a file, else by a key, "Esc" if there is no answer. After
-/// each step, each box and each test ExpectOrder looks at the window.
+/// boxes are answered: by the name of a file, which has a dot, or by a key, "Esc" if there is no
+/// answer. After each step, each box and each test ExpectOrder looks at the window.
 class QtFixture : public testing::Test, protected QtParts, public WindowUser {
 protected:
     QWidget* const form = &platform.Window();
@@ -79,6 +80,8 @@ protected:
         Up(time, key);
         Down(time, key);
     }
+    /// Moves the mouse pointer to the title of a menu.
+    void PointAtMenu(const QString& title);
     void Focus(const std::string& control) { Widget(control).setFocus(); }
     /// "" for the menu bar.
     std::string Focused() { return form->focusWidget()->objectName().toStdString(); }

@@ -98,10 +98,14 @@ TEST_F(WindowTest, FileNamesThatAreTypedToSave) {
               "Export File Box(Export File|no\nThis folder does not exist.|-)");
     TELLS(Click("mnuFileExportCSV", folder + QString(150, u'ä').toStdString()),
           "Export File Box(Export File|This file name is too long.|-)");
-    for (const std::string name : {"plain", "Rätsel für \"Größe\"' 数独"}) {
+    for (const std::string name : {"plain", " Rätsel für \"Größe\"' 数独 "}) {
         Click("mnuFileExportCSV", folder + name);
         EXPECT_EQ(Read(name + ".csv"), "Index;Value;Locked") << name;
     }
+    // A name, in the folder of the file before, and not the home of a user.
+    Import("");
+    Click("mnuFileExportCSV", "~new.csv");
+    EXPECT_EQ(Read("~new.csv"), "Index;Value;Locked");
     EXPECT_EQ(Read("plain"), "mine");
 }
 
@@ -114,13 +118,18 @@ TEST_F(WindowTest, ADialogOpensWhereTheFileIsEntersFoldersAndChangesNoFile) {
         EXPECT_EQ(opened.toStdString() + "/", folder);
         EXPECT_EQ(dialog.nameFilters().join("; "),
                   "CSV Dokumente (*.csv) (*.csv); Alle Dateien (*.*) (*)");
-        auto& list = *dialog.findChild<QTreeView*>("treeView");
-        const QPoint first(40, 9);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return list.indexAt(first).data() == "f"; }));
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, first);
-        Key("Delete");
-        Key("F2");
-        EXPECT_FALSE(list.findChild<QLineEdit*>() || list.dragEnabled());
+        const std::pair<const char*, const char*> views[] = {{"listModeButton", "listView"},
+                                                             {"detailModeButton", "treeView"}};
+        for (const auto& [button, name] : views) {
+            dialog.findChild<QToolButton*>(button)->click();
+            auto& list = *dialog.findChild<QAbstractItemView*>(name);
+            const QPoint first(20, 9);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return list.indexAt(first).data() == "f"; }));
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, first);
+            Key("Delete");
+            Key("F2");
+            EXPECT_FALSE(list.findChild<QLineEdit*>() || list.dragEnabled()) << name;
+        }
         for (const char* const action : {"qt_delete_action", "qt_rename_action"})
             EXPECT_FALSE(dialog.findChild<QAction*>(action)->isVisible());
         // Opens the folder that is selected.
@@ -160,10 +169,12 @@ TEST_F(WindowTest, AReturnRepaintsUnlessFromAnOwnBox) {
     EXPECT_EQ(window.lblField(81).Caption(), "3");
 }
 
-TEST_F(WindowTest, AScreenReaderMayPressAField) {
-    auto* const spoken = QAccessible::queryAccessibleInterface(&Widget("lblField(2)"));
-    spoken->actionInterface()->doAction(spoken->actionInterface()->actionNames().first());
-    EXPECT_EQ(grid.Index(), 2);
+TEST_F(WindowTest, AScreenReaderMayPressALabelThatCanBeClicked) {
+    TellClicks();
+    for (const char* const control : {"lblField(2)", "lblDeadEnd"}) {
+        auto& spoken = *QAccessible::queryAccessibleInterface(&Widget(control))->actionInterface();
+        TELLS(spoken.doAction(spoken.actionNames().value(0)), control);
+    }
 }
 
 TEST_F(WindowTest, AFieldCanBeReadInEveryColourAndTheme) {
