@@ -8,6 +8,7 @@
 #include "support/modStringLibrary.h"
 #include "support/modTextStream.h"
 
+#include <cmath>
 #include <memory>
 #include <sstream>
 
@@ -142,10 +143,13 @@ public:
         mState = [&, ofGame = mState, this] {
             std::string state = ofGame() + "\nwide " + std::to_string(window.Width()) +
                                 (mPlatform.Hourglass ? " busy" : "");
-            for (const auto& [name, look] : window.Looks())
+            for (const auto& [name, look] : window.Looks()) {
+                if (mLooks[name] == look) continue;
+                mLooks[name] = look;
                 state += "\n" + name + ": " + look.Caption + "/" + look.Fore + "/" + look.Back +
                          "/" + look.Font + "/" + look.Spoken + (look.Enabled ? "" : " disabled") +
                          (look.Visible ? "" : " hidden");
+            }
             return state;
         };
     }
@@ -231,6 +235,7 @@ private:
     std::function<std::string()> mState;                      // told after each command
     std::function<std::string()> mGlance = [] { return ""; }; // told whenever it changes
     std::string msSeen;                                       // at the last glance
+    model::Controls mLooks;                                   // as told last
     std::istringstream mArguments;
     const Row* mRunning = nullptr; // the innermost command
     int mlMoment = 0;              // the events and pumps of it so far
@@ -267,7 +272,7 @@ public:
         look.Enabled = control.Enabled();
         look.Visible = control.Visible();
         if (const auto* const text = dynamic_cast<const TextControl*>(&control)) {
-            look.Font = text->Font().Name + " " + std::to_string(text->Font().Size).substr(0, 4) +
+            look.Font = text->Font().Name + " " + std::to_string(std::lround(text->Font().Size)) +
                         (text->Font().Italic ? " italic" : "");
             look.Caption = text->Caption();
             if (text->AccessibleName() != look.Caption) look.Spoken = text->AccessibleName();

@@ -8,7 +8,7 @@
 
 namespace tessarin {
 
-constexpr unsigned SeedsInABlock = 220;
+constexpr unsigned SeedsInABlock = 200;
 
 class AgreementTest : public testing::TestWithParam<std::tuple<unsigned, bool>> {};
 INSTANTIATE_TEST_SUITE_P(BlocksOfSeeds, AgreementTest,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Stories of the window. What they leave out is in its model: see AgreementTest.cpp.
 #include "FakeWindow.h"
+#include "support/modTaskBar.h"
 
 namespace tessarin {
 
@@ -64,6 +65,10 @@ TEST_F(CommandsTest, WhatOnlyCodeAsksFor) {
     window.PaintField(1);
     window.PaintField(-1); // the current field
     EXPECT_TRUE(window.lblInfo.Caption().starts_with("Index=50"));
+    EXPECT_THROW(window.PaceOption("8"), std::out_of_range);
+    window.ctlRotor1.SetHeight(9); // it always has the size of a picture
+    EXPECT_EQ(window.ctlRotor1.Height(), 480);
+    TELLS(ShowInTaskBar(5, false), "Lock(77) Hide(5) Style(5|0x10) Show(5) Lock(0)");
 }
 
 TEST_F(CommandsTest, ARotorThatRunsMayStartAnew) {

@@ -58,12 +58,21 @@ TEST(UniqueNumbersTest, RefuseANumberThatIsThere) {
 TEST(StringLibraryTest, PadsAndPositions) {
     // As long as with its blanks.
     EXPECT_EQ(PadLeft(" ab "), "  ab");
+    EXPECT_EQ(PadLeft("ab", 3, "xy"), "xab");
+    EXPECT_EQ(PadLeft("abc", 2, ""), "bc");
+    EXPECT_EQ(PadLeft("abc", -1), "");
+    // The sign is a character like the others.
+    EXPECT_EQ(PadNumber(-7, 4, ""), "00-7");
+    EXPECT_EQ(PadInteger(7, 3, " "), "  7");
+    EXPECT_EQ(ReplaceAll("aaab", "aa", "a"), "aab");
+    EXPECT_EQ(JoinPath(" a b\\ ", " c "), "a b\\c");
     EXPECT_EQ(DeleteChars("abcdef", 2, 3), "aef");
     EXPECT_EQ(DeleteChars("abc", -1, 3), "bc");
     EXPECT_EQ(DeleteChars("abc", 2), "a");
     EXPECT_EQ(DeleteChars("abc", 4), "abc");
     EXPECT_EQ(InsertText("ab", "x", 3), "abx");
     EXPECT_EQ(InsertText("ab", "x", 4), "ab");
+    EXPECT_EQ(InsertText("ab", "x", 0), "ab");
 }
 
 } // namespace tessarin

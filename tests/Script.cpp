@@ -30,10 +30,13 @@ const std::vector<std::string> GameCommands{
 // What meets rarely if each is one of many.
 const std::vector<std::vector<std::string>> GameThemes{
     {"value %f %v", "value %f 0", "free %f", "count"},
-    {"index %f", "enter %v 0", "enter 0 0", "freedom %1"}};
+    {"index %f", "enter %v 0", "enter 0 0", "freedom %1"},
+    {"solve", "solve", "csv %c", "clear %1"}};
 const std::vector<std::vector<std::string>> WindowThemes{
     {"click btnSolve", "click btnSolve", "click optChill(%6)", "click lblField(%l)", "tick", "tick",
      "activate", "close"},
+    {"click btnSolve", "click btnSolve", "click optChill(6)", "click optChill(%6)"},
+    {"click btnSolve", "click btnSolve", "click optChill(%6)", "click mnuViewNeighbours"},
     {"activate", "csv %c", "clear %1", "click lblField(%l)"},
     {"click mnuViewFreedom", "click mnuViewNeighbours", "click mnuViewGroups", "value %f %v",
      "click btnNextFree", "activate", "close"},
@@ -62,7 +65,7 @@ struct RandomUser {
     // Now and then a wrong item of a puzzle's text.
     std::string Item(int usual, int oneWrongIn = 500) const {
         if (OneIn(300))
-            return Pick({"", "x", "+-5", " +4 ", "\t4", "5 5", "0x5", "5;", "5,", "9999999999",
+            return Pick({"", "x", "++5", " +4 ", "\t4", "5 5", "0x5", "5;", "5,", "9999999999",
                          "9999999999x"});
         return std::to_string(OneIn(oneWrongIn) ? Value() : usual);
     }
@@ -169,7 +172,7 @@ Script RandomScript(const Choose& choose, const std::vector<std::string>& window
     const auto moments = momentsOfLast(script);
     for (int i = moments.empty() ? 0 : 1 + choose(2); i > 0; --i) {
         Row inner = user.Command(1);
-        inner.Moment = user.Pick(moments) + (user.OneIn(2) ? choose(2) : 0);
+        inner.Moment = (user.OneIn(3) ? moments.back() : user.Pick(moments)) + choose(2);
         script.back().Inside.push_back(inner);
     }
     for (int i = moments.empty() ? 0 : 4; i > 0; --i)

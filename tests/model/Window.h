@@ -20,6 +20,8 @@ struct AtEnd {
 struct Control {
     string Caption, Spoken, Font, Back, Fore;
     bool Enabled = true, Visible = true;
+
+    bool operator==(const Control&) const = default;
 };
 using Controls = std::map<string, Control>;
 
@@ -375,7 +377,7 @@ private:
         Fields& fields = moGame.Fields;
         const Field& field = *fields.Items.Item(index);
         Control& label = *Label(index);
-        label.Font = "Arial Black 20.0";
+        label.Font = "Arial Black 20";
         label.Back = marked                        ? "yellow"
                      : index == fields.DeadField() ? "red"
                      : index == fields.Index()     ? "green"
@@ -404,7 +406,7 @@ private:
             Control* label = Label(field->Index);
             if (!label || field->Value() != 0) continue;
             const int freedom = field->Freedom();
-            label->Font = "Arial 12.0 italic";
+            label->Font = "Arial 12 italic";
             label->Caption = to_string(freedom);
             label->Back = freedom == 0 ? "red" : freedom == 1 ? "green" : "yellow";
             label->Fore = freedom == 0 ? "normal" : "red";
