@@ -72,6 +72,8 @@ import_puzzle() {
     sleep 0.5
 }
 
+has_window_manager() { xdotool get_num_desktops >"$scratch/desktops" 2>&1; }
+
 open_window() {
     main=none
     start_process env --chdir="$HOME" QT_QPA_PLATFORM=xcb "$program"
@@ -91,6 +93,8 @@ mkdir -p build/tour
 rm -f build/tour/*.png
 program=$PWD/build/release/src/Tessarin
 start_display 1280x960
+# A window that opens before would get no frame for the first pictures.
+wait_until 10 'window manager' has_window_manager
 export HOME=$scratch XDG_CONFIG_HOME=$scratch # the file dialog keeps its state there
 cp puzzles/hard-1.csv puzzles/dead-end.csv "$HOME"
 
