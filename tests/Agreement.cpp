@@ -190,8 +190,7 @@ private:
         if (mPlatform.Closed) return; // nobody can work a closed window
         const ScopedValue<const Row*> running(mRunning, &row);
         const ScopedValue<int> moment(mlMoment, 0);
-        if (row.Moment > 0)
-            mPlatform.Tell("\n", mState()); // what is seen in the midst of the outer one
+        if (row.Moment > 0) mPlatform.Tell("\n", mState());
         mPlatform.Tell("\n>", row.Command);
         mArguments = std::istringstream(row.Command);
         std::string word;
@@ -217,7 +216,7 @@ private:
         // A solve that takes long is cancelled.
         auto& presses = mPlatform.EscPresses;
         if (presses.empty()) presses = {false, false, false, false, false, false, true};
-        if (++mlMoment == 1) mPlatform.Tell(mState()); // what the command has changed by now
+        if (++mlMoment == 1) mPlatform.Tell(mState());
         if (mPlatform.Record.size() != std::exchange(mTold, mPlatform.Record.size()))
             mMoments.push_back(mlMoment);
         for (const Row& inner : mRunning->Inside) {
@@ -232,7 +231,7 @@ private:
     ScriptedPlatform& mPlatform;
     std::vector<Connection> mEvents;
     std::map<std::string, std::function<void()>> mCommands;
-    std::function<std::string()> mState;                      // told after each command
+    std::function<std::string()> mState;                      // see Disagreement
     std::function<std::string()> mGlance = [] { return ""; }; // told whenever it changes
     std::string msSeen;                                       // at the last glance
     model::Controls mLooks;                                   // as told last

@@ -9,9 +9,9 @@ constexpr bool WithWindow = true;
 
 /// Gives the commands to the program and to its model. If they do not do the same, returns the rows
 /// that show it, as code for a test, and the first line of what is told that differs; otherwise "".
-/// Told are events, pumps, calls of the machine, results and errors in their order; after each
-/// command values, locks, cursor, history and dead fields; with a window all that is seen and
-/// heard.
+/// Told are events, pumps, calls of the machine, results and errors in their order; in the first
+/// moment of each command and after it, and before an inner one, values, locks, cursor, history and
+/// dead fields; with a window also what has changed of all that is seen and heard.
 ///
 ///     value 5 7, lock 5 1, next 5 1    field 5 gets a value, a lock, its next free value
 ///     free 5                           its free values, groups and neighbours
@@ -27,7 +27,7 @@ constexpr bool WithWindow = true;
 ///     refuse                           the next box is answered No, the next dialog by a new file
 ///     click CONTROL, import TEXT, activate, close, tick
 ///     throw                            the handler of an event fails
-///     look                             nothing: an inner command tells the state before it, too
+///     look                             nothing, but the state is told
 std::string Disagreement(const Script& script, bool withWindow);
 
 /// A user who makes these choices: see Script.h.
