@@ -65,8 +65,8 @@ struct RandomUser {
     // Now and then a wrong item of a puzzle's text.
     std::string Item(int usual, int oneWrongIn = 500) const {
         if (OneIn(300))
-            return Pick({"", "x", "++5", " +4 ", "\t4", "5 5", "0x5", "5;", "5,", "9999999999",
-                         "9999999999x"});
+            return Pick({"", "x", "+-5", "++5", " +4 ", "\t4", "5 5", "0x5", "5;", "5,",
+                         "9999999999", "9999999999x"});
         return std::to_string(OneIn(oneWrongIn) ? Value() : usual);
     }
     std::string Header(const std::string& usual) const {

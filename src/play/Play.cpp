@@ -8,7 +8,7 @@
 namespace tessarin {
 
 void Play::Reset() {
-    SetTracing(false);
+    History.reset();
 }
 
 void Play::SetTracing(bool MyTracing) {
@@ -16,7 +16,7 @@ void Play::SetTracing(bool MyTracing) {
     if (MyTracing)
         History.emplace();
     else
-        History.reset();
+        Reset();
 }
 
 void Play::GotoNextFreeField(bool AutoValue) {

@@ -13,9 +13,17 @@ namespace {
 constexpr int Pictures = 12;
 constexpr int TickMilliseconds = 5;
 constexpr float PictureSide = 480;
+constexpr int PicturesInColumn = 4;
 
+// In the design the pictures lie beside each other, to be looked at. The program never shows them
+// so: UserControl_Resize puts them on top of each other.
 PictureProperties PictureAt(int index) {
-    return {.Place = {.Width = PictureSide, .Height = PictureSide},
+    const int column = index / PicturesInColumn;
+    const int row = index % PicturesInColumn;
+    return {.Place = {.Left = PictureSide * static_cast<float>(column),
+                      .Top = PictureSide * static_cast<float>(row),
+                      .Width = PictureSide,
+                      .Height = PictureSide},
             .File = "rotor-" + std::to_string(index) + ".png",
             .Visible = false};
 }
