@@ -77,7 +77,10 @@ TEST_F(CommandsTest, ARotorThatRunsMayStartAnew) {
     Tick();
     window.ctlRotor1.SetRunning(true);
     Tick();
-    EXPECT_TRUE(toolkit.Named("Image1(1)").Visible());
+    const Control& picture = toolkit.Named("Image1(1)");
+    EXPECT_TRUE(picture.Visible());
+    platform.EachPump = [&] { EXPECT_FALSE(picture.Visible()) << "two pictures are seen"; };
+    Tick();
 }
 
 TEST_F(CommandsTest, WhatCanBeClickedHasANameAndAPlaceOfItsOwn) {
