@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const std::string load : {"csv ", "sdk "}) {
         const tessarin::Script script{{.Command = load + std::string(data, data + size)},
                                       {.Command = "texts"},
-                                      {.Command = "count"}};
+                                      {.Command = "count 0"}};
         const std::string disagreement = Disagreement(script, !tessarin::WithWindow);
         if (disagreement.empty()) continue;
         std::cerr << disagreement;

@@ -63,19 +63,26 @@ public:
             {"lock", [=, this] { field()->SetLocked(Flag()); }},
             {"next", [=, this] { say(field()->NextFreeValue(Flag())); }},
             {"free",
-             [=] {
+             [=, &groups] {
                  const auto asked = field();
                  say(asked->FreeValuesList(), asked->Freedom(), " in ", List(asked->InGroups),
                      "beside ", List(asked->Neighbours));
+                 for (const int group : asked->InGroups)
+                     say(groups.Item(group)->FlavorText());
              }},
             {"csv", [&, this] { grid.SetTextCSV(Rest()); }},
             {"sdk", [&, this] { grid.SetTextSDK(Rest()); }},
             {"texts", [=, &grid] { say(grid.TextCSV(), grid.TextSDK()); }},
             {"count",
-             [=, &grid] {
-                 say(List(std::initializer_list<int>{
-                     grid.FreeCount(), grid.LockedCount(), grid.SetCount(), grid.NextFreeField(),
-                     grid.IsWinner(), grid.IsDeadEnd(), grid.Status(), grid.DeadField()}));
+             [=, &grid, this] {
+                 const std::vector<std::function<int()>> counts{
+                     [&] { return grid.FreeCount(); }, [&] { return grid.LockedCount(); },
+                     [&] { return grid.SetCount(); },  [&] { return grid.NextFreeField(); },
+                     [&] { return grid.IsWinner(); },  [&] { return grid.IsDeadEnd(); },
+                     [&] { return grid.Status(); },    [&] { return grid.DeadField(); }};
+                 say(counts.at(Number())());
+                 for (const auto& count : counts)
+                     say(count());
              }},
             {"init", [=, &grid, this] { say(grid.Init(Number())); }},
             {"clear", [&, this] { grid.Clear(Flag()); }},
@@ -87,12 +94,13 @@ public:
                  const auto last = lastGroup();
                  const auto group = std::make_shared<std::decay_t<decltype(*last)>>();
                  group->Index = last->Index + 1;
+                 group->Flavor = group->Index % 6;
                  group->Fields.Add(Number());
-                 groups.Add(group);
-                 if (Flag()) owner->InGroups = {};
+                 if (Flag()) groups.Add(group);
                  owner->GroupAdd(*group);
-                 say(last->FlavorText(), owner->FreeValuesList());
+                 say(owner->FreeValuesList());
              }},
+            {"ungroup", [=] { field()->InGroups = {}; }},
             {"regroup", [=] { field()->GroupAdd(*lastGroup()); }},
             {"widen", [=, this] { lastGroup()->Fields.Add(Number()); }},
             {"reset", [&] { play.Reset(); }},
@@ -120,7 +128,8 @@ public:
             std::ostringstream state;
             state << "at " << grid.Index() << " retries " << play.Retries << " dead "
                   << grid.DeadCount() << " " << List(grid.DeadFields) << "history "
-                  << play.History.has_value() << " " << List(play.History) << play.Tracing() << "\n"
+                  << play.History.has_value() << " " << List(play.History) << play.Tracing()
+                  << play.Locked() << "\n"
                   << ReplaceAll(grid.TextCSV(true), "\r\n", "|")
                   << ReadTextFile(mPlatform.Folder + "new");
             return state.str();

@@ -16,9 +16,10 @@ constexpr bool WithWindow = true;
 ///     value 5 7, lock 5 1, next 5 1    field 5 gets a value, a lock, its next free value
 ///     free 5                           its free values, groups and neighbours
 ///     csv TEXT, sdk TEXT, texts        loads the grid, writes it; "|" stands for a line break
-///     init 5, index 5, count, clear 1 (those that are not locked), lockall 1
-///     group 5 9 1                      a group of field 9 for field 5; 1: as its only one
-///     regroup 5, widen 9               the last group once more; with field 9, too
+///     init 5, index 5, clear 1 (those that are not locked), lockall 1
+///     count 3                          that count first, from 0, then all
+///     group 5 9 1                      a group of field 9 for field 5; 1: the game has it, too
+///     ungroup 5, regroup 5, widen 9    no groups; the last one once more; with field 9, too
 ///     goto 1, back 1, freedom 1        the player, with AutoValue
 ///     enter 7 1, playnext 1, playlock, solve, reset
 ///     trace 1, remember 600            traces the history; a new entry of it

@@ -66,8 +66,10 @@ TEST_F(CommandsTest, WhatOnlyCodeAsksFor) {
     window.PaintField(-1); // the current field
     EXPECT_TRUE(window.lblInfo.Caption().starts_with("Index=50"));
     EXPECT_THROW(window.PaceOption("8"), std::out_of_range);
-    window.ctlRotor1.SetHeight(9); // it always has the size of a picture
-    EXPECT_EQ(window.ctlRotor1.Height(), 480);
+    // It always has the size of a picture.
+    window.ctlRotor1.SetWidth(9);
+    window.ctlRotor1.SetHeight(9);
+    EXPECT_EQ(window.ctlRotor1.Width() + window.ctlRotor1.Height(), 2 * 480);
     TELLS(ShowInTaskBar(5, false), "Lock(77) Hide(5) Style(5|0x10) Show(5) Lock(0)");
 }
 
@@ -77,8 +79,10 @@ TEST_F(CommandsTest, ARotorThatRunsMayStartAnew) {
     Tick();
     window.ctlRotor1.SetRunning(true);
     Tick();
-    const Control& picture = toolkit.Named("Image1(1)");
+    const auto& picture = dynamic_cast<const Picture&>(toolkit.Named("Image1(1)"));
     EXPECT_TRUE(picture.Visible());
+    EXPECT_EQ(picture.File, "rotor-1.png");
+    EXPECT_EQ(picture.Top(), 0);
     platform.EachPump = [&] { EXPECT_FALSE(picture.Visible()) << "two pictures are seen"; };
     Tick();
 }

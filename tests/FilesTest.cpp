@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The two text formats of a grid, and their files.
 #include "GameFixture.h"
+#include "model/Errors.h"
 #include "support/modTextStream.h"
 
 #include <csignal>
@@ -25,6 +26,7 @@ TEST_F(FilesTest, ALineOfCSVHasIndexValueAndLock) {
 TEST_F(FilesTest, ABadLineOfCSVEndsTheLoad) {
     TELLS(Load("5;3;1|7;4|9;9;0"), "Init 0 ! too few items in \"7;4\"");
     EXPECT_EQ(Grid(), "5;3;1|7;4;0");
+    EXPECT_THROW(Load("5;+-5;0"), TypeMismatchError);
 }
 
 TEST_F(FilesTest, AnExportNeverReplacesAFile) {
@@ -58,9 +60,11 @@ TEST_F(FilesTest, AnExportWithoutNameLiesBesideTheProgram) {
     game.FileExportCSV();
     EXPECT_EQ(Read("Tessarin-20230102-030405.csv"), "Index;Value;Locked|1;5;0");
     game.FileExportSDK();
+    game.FileExportSDK(folder + "named");
     At(1).SetValue(0);
     game.FileImportSDK(folder + "Tessarin-20230102-030405.sdk");
     EXPECT_EQ(Grid(), "1;5;1");
+    EXPECT_EQ(Read("named"), Read("Tessarin-20230102-030405.sdk"));
 }
 
 TEST_F(FilesTest, TheFirstBytesTellTheCharset) {
@@ -81,9 +85,13 @@ TEST_F(FilesTest, FilesKeepEveryByteAndAreReadWhole) {
     EXPECT_EQ(ReadTextFile(folder + "link"), bytes);
     // A device is not read, because it may never end; a film that is chosen by mistake neither.
     EXPECT_EQ(ReadTextFile("/dev/zero"), "");
-    EXPECT_EQ(ReadTextFile(Write("film", std::string(17'000'000, 'x'))), "");
-    // A full device is an error.
-    EXPECT_NE(WriteTextFile("/dev/full", "x", "", Replace), "");
+    const std::string large(16 << 20, 'x');
+    EXPECT_EQ(ReadTextFile(Write("large", large)), large);
+    EXPECT_EQ(ReadTextFile(Write("film", large + "x")), "");
+    EXPECT_EQ(ReadTextFile(std::string(300, 'x')), "") << "no system has such a name";
+    for (const std::string& text : {std::string("x"), bytes})
+        EXPECT_EQ(WriteTextFile("/dev/full", text, "", Replace),
+                  "File=/dev/full, Err=No space left on device");
 }
 
 } // namespace tessarin

@@ -2,6 +2,8 @@
 // Stories of the grid, the player by hand and the automatic solve. What they leave out is in the
 // model: see AgreementTest.cpp.
 #include "GameFixture.h"
+#include "model/Errors.h"
+#include "model/Groups.h"
 #include "support/modKbd.h"
 #include "support/modWait.h"
 
@@ -40,6 +42,7 @@ TEST_F(GridTest, AListenerOfInitCountsTheNewGrid) {
     FullBut({2});
     const Connection init = grid.Events.Init.Connect([&] { EXPECT_EQ(grid.FreeCount(), 81); });
     grid.Init();
+    EXPECT_THROW(game.Groups->Init(), DuplicateKeyError) << "each field has its groups";
 }
 
 TEST_F(GridTest, WinnerAndDeadEndComeAndGo) {
@@ -74,7 +77,7 @@ TEST_F(GridTest, EventsAndPumpsHaveAnOrder) {
 
 TEST_F(GridTest, AWaitPumpsBeforeAndAfterItsSleep) {
     platform.TellsPumps = true;
-    TELLS(Wait(0), "now (1)");
+    TELLS(Wait(-1), "now (1)");
     TELLS(Wait(), "now (1) Sleep(5) now (1)");
     int pause = 800;
     platform.EachPump = [&] { pause = 100; };
@@ -83,10 +86,13 @@ TEST_F(GridTest, AWaitPumpsBeforeAndAfterItsSleep) {
 
 TEST_F(GridTest, AGameThatEndsLeavesANewerOneInItsPlace) {
     auto older = std::make_unique<Game>();
-    const Game newer;
+    auto newer = std::make_unique<Game>();
     older.reset();
-    EXPECT_EQ(goGame, &newer);
-    EXPECT_EQ(goBoard, &newer);
+    EXPECT_EQ(goGame, newer.get());
+    EXPECT_EQ(goBoard, newer.get());
+    newer.reset();
+    EXPECT_EQ(goGame, nullptr);
+    EXPECT_EQ(goBoard, nullptr);
 }
 
 using PlayTest = GameFixture;

@@ -3,6 +3,7 @@
 #include "model/Errors.h"
 #include "model/Event.h"
 #include "model/UniqueNumbers.h"
+#include "support/modDateTime.h"
 #include "support/modStringLibrary.h"
 
 #include <gtest/gtest.h>
@@ -58,18 +59,30 @@ TEST(UniqueNumbersTest, RefuseANumberThatIsThere) {
 TEST(StringLibraryTest, PadsAndPositions) {
     // As long as with its blanks.
     EXPECT_EQ(PadLeft(" ab "), "  ab");
+    // A blank is the character 32 alone.
+    EXPECT_EQ(PadLeft("\tab ", 5), "  \tab");
+    EXPECT_EQ(PadLeft("  ", 1), " ");
     EXPECT_EQ(PadLeft("ab", 3, "xy"), "xab");
+    EXPECT_EQ(PadLeft("ab", 3, ""), " ab");
     EXPECT_EQ(PadLeft("abc", 2, ""), "bc");
     EXPECT_EQ(PadLeft("abc", -1), "");
     // The sign is a character like the others.
     EXPECT_EQ(PadNumber(-7, 4, ""), "00-7");
     EXPECT_EQ(PadInteger(7, 3, " "), "  7");
-    EXPECT_EQ(ReplaceAll("aaab", "aa", "a"), "aab");
+    EXPECT_EQ(DateTimeStamp({2023, 1, 2, 3, 4, 5}), "20230102 030405");
+    EXPECT_EQ(DateTimeStamp({}), "               ");
+    EXPECT_EQ(ReplaceAll("aaab", "aa", "ca"), "caab");
+    EXPECT_EQ(ReplaceAll("ab", "", "x"), "ab");
     EXPECT_EQ(JoinPath(" a b\\ ", " c "), "a b\\c");
+    EXPECT_EQ(JoinPath("a", "b"), "a\\b");
+    EXPECT_EQ(JoinPath("a\\", "\\b"), "a\\b");
     EXPECT_EQ(DeleteChars("abcdef", 2, 3), "aef");
     EXPECT_EQ(DeleteChars("abc", -1, 3), "bc");
     EXPECT_EQ(DeleteChars("abc", 2), "a");
+    EXPECT_EQ(DeleteChars("abc", 2, 32767), "a");
+    EXPECT_EQ(DeleteChars("abc", 3, 0), "abc");
     EXPECT_EQ(DeleteChars("abc", 4), "abc");
+    EXPECT_EQ(InsertText("ab", "x", 1), "xab");
     EXPECT_EQ(InsertText("ab", "x", 3), "abx");
     EXPECT_EQ(InsertText("ab", "x", 4), "ab");
     EXPECT_EQ(InsertText("ab", "x", 0), "ab");

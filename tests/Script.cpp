@@ -22,14 +22,14 @@ namespace {
 // for the two puzzle texts, with "|" for a line break; %1 for 0 or 1, %9 for 0 to 9.
 const std::vector<std::string> GameCommands{
     "index 0",  "value %f %v",  "value %f 0",  "lock %f %1", "next %f %1",  "free %f",
-    "index %f", "clear %1",     "lockall %1",  "count",      "init %d",     "csv %c",
+    "index %f", "clear %1",     "lockall %1",  "count %7",   "init %d",     "csv %c",
     "sdk %s",   "importcsv %c", "texts",       "reset",      "trace %1",    "goto %1",
     "back %1",  "freedom %1",   "enter %v %1", "enter 0 0",  "playlock",    "playnext %1",
     "solve",    "solve",        "esc",         "refuse",     "importsdk %s"};
 
 // What meets rarely if each is one of many.
 const std::vector<std::vector<std::string>> GameThemes{
-    {"value %f %v", "value %f 0", "free %f", "count"},
+    {"value %f %v", "value %f 0", "free %f", "count %7"},
     {"index %f", "enter %v 0", "enter 0 0", "freedom %1"},
     {"solve", "solve", "csv %c", "clear %1"}};
 const std::vector<std::vector<std::string>> WindowThemes{
@@ -45,7 +45,8 @@ const std::vector<std::vector<std::string>> WindowThemes{
     {"index 1", "import %c", "refuse", "reset", "click mnuFileExportCSV", "click mnuEditClearAll"}};
 
 // Nothing tells the grid of these, so they are not given inside others.
-const std::vector<std::string> GroupCommands{"group 1 %f %1", "regroup 1", "widen %f", "free 1"};
+const std::vector<std::string> GroupCommands{"group 1 %f %1", "regroup 1", "widen %f", "free 1",
+                                             "ungroup 1"};
 
 struct RandomUser {
     Choose Choice;
@@ -89,7 +90,7 @@ struct RandomUser {
     std::string Sdk() const {
         std::string rows = Header("\"Sudoku\"");
         for (int count = std::stoi(Pick({"9", "9", "9", "25", "16", "8"})); count > 0; --count) {
-            for (int i = Choice(9); i > 0; --i)
+            for (int i = Choice(OneIn(9) ? 12 : 9); i > 0; --i)
                 rows += Item(OneIn(3) ? Value() : 0).append(i > 1 ? "," : "");
             rows += "|";
         }

@@ -104,7 +104,7 @@ TEST_F(ToolkitTest, ACancelledDialogKeepsTheFileChosenBefore) {
     EXPECT_EQ(dialog.FileName, "/folder/file");
 }
 
-TEST_F(ToolkitTest, TicksNestFourDeep) {
+TEST_F(ToolkitTest, TicksNestFourDeepAndErrorsAreReported) {
     Timer timer{form, "timer"};
     int ticks = 0;
     timer.Tick = [&] {
@@ -112,9 +112,11 @@ TEST_F(ToolkitTest, TicksNestFourDeep) {
     };
     timer.RaiseTick();
     EXPECT_EQ(ticks, 4);
-    timer.Tick = [] { throw std::runtime_error("failed"); };
+    EXPECT_FALSE(timer.Enabled());
+    timer.Tick = form.Activate = [] { throw std::runtime_error("failed"); };
     timer.RaiseTick();
-    EXPECT_EQ(platform.Record, "! failed ");
+    form.RaiseActivate();
+    EXPECT_EQ(platform.Record, "! failed ! failed ");
 }
 
 } // namespace tessarin
