@@ -27,8 +27,9 @@ public:
         setStandardButtons(isQuestion ? Yes | No : Ok);
         // Unless it is set, the default button depends on the desktop.
         setDefaultButton(isQuestion ? Yes : Ok);
-        // Wide enough for its title, however short its text.
-        const int least = 19 * fontMetrics().height();
+        // However short its text, its title fits between the icon and the buttons of the frame,
+        // also where a desktop adds " <2>".
+        const int least = 23 * fontMetrics().height();
         if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
             grid->addItem(new QSpacerItem(least, 0), grid->rowCount(), 0, 1, grid->columnCount());
     }

@@ -170,6 +170,8 @@ void QtFixture::LookForBox() {
         told = "Box(" + told + "|" + box->text().toStdString() + (isQuestion ? "|?)" : "|-)");
         EXPECT_EQ(box->textFormat(), Qt::PlainText);
         EXPECT_EQ(box->size(), box->maximumSize());
+        const int title = box->fontMetrics().horizontalAdvance(box->windowTitle());
+        EXPECT_GT(box->width(), 2 * title) << "a frame would cut the title";
         const QRect fields(Widget("lblField(1)").mapToGlobal(QPoint()),
                            Widget("lblField(81)").mapToGlobal(QPoint(39, 39)));
         EXPECT_FALSE(box->parent() == form && box->geometry().intersects(fields));
