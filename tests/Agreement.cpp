@@ -360,9 +360,9 @@ Script RandomScript(const Choose& choose, bool withWindow) {
     static const auto commands = [] {
         std::vector<std::string> all{"activate",  "close",     "tick",
                                      "import %c", "import %c", "click lblField(%l)"};
-        FakeWindow user;
-        for (const auto& name : user.toolkit.Names())
-            if (user.toolkit.IsClickable(name) && !name.starts_with("lblField"))
+        for (const auto& name : FakeWindow().toolkit.Names())
+            if (name.starts_with("btn") || name.starts_with("opt") || name.starts_with("mnu") ||
+                name == "lblDeadEnd")
                 all.push_back("click " + name);
         return all;
     }();
