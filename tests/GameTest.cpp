@@ -38,10 +38,14 @@ TEST_F(GridTest, LargeGridsHaveMoreValuesThanFitIntoAWord) {
     EXPECT_EQ(grid.NextFreeField(), 10);
 }
 
-TEST_F(GridTest, AListenerOfInitCountsTheNewGrid) {
+TEST_F(GridTest, AListenerOfInitCountsTheNewGridAndChangesItSilently) {
     FullBut({2});
-    const Connection init = grid.Events.Init.Connect([&] { EXPECT_EQ(grid.FreeCount(), 81); });
-    grid.Init();
+    const Connection init = grid.Events.Init.Connect([&] {
+        EXPECT_EQ(grid.FreeCount(), 81);
+        At(1).SetValue(5);
+    });
+    TELLS(grid.Init(), "Init 0");
+    EXPECT_EQ(grid.FreeCount(), 80);
     EXPECT_THROW(game.Groups->Init(), DuplicateKeyError) << "each field has its groups";
 }
 
