@@ -72,6 +72,7 @@ TEST(StringLibraryTest, PadsAndPositions) {
     EXPECT_EQ(DateTimeStamp({2023, 1, 2, 3, 4, 5}), "20230102 030405");
     EXPECT_EQ(DateTimeStamp({}), "               ");
     EXPECT_EQ(ReplaceAll("aaab", "aa", "ca"), "caab");
+    EXPECT_EQ(ReplaceAll("aab", "a", ""), "b");
     EXPECT_EQ(ReplaceAll("ab", "", "x"), "ab");
     EXPECT_EQ(JoinPath(" a b\\ ", " c "), "a b\\c");
     EXPECT_EQ(JoinPath("a", "b"), "a\\b");

@@ -35,7 +35,7 @@ std::vector<Connection> Listen(Game& game, std::function<void(const std::string&
 }
 
 Recorder::Recorder()
-    : Folder(testing::TempDir() + "my tessarin." + std::to_string(std::random_device{}()) + "/") {
+    : Folder(testing::TempDir() + "my\\ tessarin." + std::to_string(std::random_device{}()) + "/") {
     std::filesystem::create_directory(Folder);
 }
 

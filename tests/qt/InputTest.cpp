@@ -282,7 +282,7 @@ TEST_F(InputTest, RepeatsOfAHeldKeyDoNotAnswerAQuestion) {
         Repeat(1650, "Right");
     });
     // "Yes" ends the solve.
-    Click("btnSolve", "Return");
+    TELLS(Click("btnSolve", "Return"), "Box(ESC gedrückt|Abbrechen?|-)");
     EXPECT_NE(grid.FreeCount(), 0);
 }
 
