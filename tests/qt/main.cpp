@@ -10,6 +10,8 @@ int main(int argc, char** argv) {
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
-    QApplication::setLayoutDirection(Qt::RightToLeft); // a desktop may have it
+    // A desktop may have them.
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    QApplication::setStyle("windows");
     return RUN_ALL_TESTS();
 }
