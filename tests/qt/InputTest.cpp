@@ -92,8 +92,10 @@ TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
     TELLS(Up(1650, "Space"), "");
     TELLS(Key("Return"), "btnInfo");
     Focus("lblField(1)");
-    TELLS(Down(4000, "Right"), "lblField(2)");
-    TELLS(Repeat(4600, "Right"), "lblField(2)");
+    for (const auto& [key, field] : {std::pair("Right", "lblField(2)"), {"Down", "lblField(10)"}}) {
+        TELLS(Down(4000, key), field);
+        TELLS(Repeat(4600, key), field);
+    }
 }
 
 // The release of a key is lost if a box opens or closes while it is down.

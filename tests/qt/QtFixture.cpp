@@ -68,6 +68,9 @@ void QtFixture::ExpectShown(const TextControl& control) {
     }
     EXPECT_EQ(widget.geometry(), QRect(pixels(control.Left()), pixels(control.Top()),
                                        pixels(control.Width()), pixels(control.Height())));
+    const QString family = qt::ToQt(control.Font().Name);
+    EXPECT_TRUE(family.isEmpty() || widget.font().families().contains(family));
+    EXPECT_EQ(widget.font().weight() == QFont::Black, family == "Arial Black");
     EXPECT_EQ(widget.font().pixelSize(), pixels(control.Font().Size * 20));
     EXPECT_EQ(widget.font().italic(), control.Font().Italic);
     EXPECT_EQ(widget.isEnabledTo(widget.parentWidget()), control.Enabled());
