@@ -80,7 +80,7 @@ public:
                      [&] { return grid.SetCount(); },  [&] { return grid.NextFreeField(); },
                      [&] { return grid.IsWinner(); },  [&] { return grid.IsDeadEnd(); },
                      [&] { return grid.Status(); },    [&] { return grid.DeadField(); }};
-                 say(counts.at(Number())());
+                 say(counts.at(static_cast<std::size_t>(Number()))());
                  for (const auto& count : counts)
                      say(count());
              }},

@@ -92,10 +92,12 @@ TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
     TELLS(Up(1650, "Space"), "");
     TELLS(Key("Return"), "btnInfo");
     Focus("lblField(1)");
-    for (const auto& [key, field] : {std::pair("Right", "lblField(2)"), {"Down", "lblField(10)"}}) {
-        TELLS(Down(4000, key), field);
-        TELLS(Repeat(4600, key), field);
-    }
+    const auto hold = [&](const char* arrow, const char* field) {
+        TELLS(Down(4000, arrow), field);
+        TELLS(Repeat(4600, arrow), field);
+    };
+    hold("Right", "lblField(2)");
+    hold("Down", "lblField(10)");
 }
 
 // The release of a key is lost if a box opens or closes while it is down.
