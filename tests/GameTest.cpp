@@ -88,6 +88,15 @@ TEST_F(GridTest, AWaitPumpsBeforeAndAfterItsSleep) {
     TELLS(Wait([&] { return pause; }), "now (1) Sleep(100) now (1)");
 }
 
+TEST(PlatformTest, IsNoneWhenItHasEnded) {
+    const Platform* ended = nullptr;
+    {
+        const ScriptedPlatform platform;
+        ended = &Platform::Current();
+    }
+    EXPECT_NE(&Platform::Current(), ended);
+}
+
 TEST_F(GridTest, AGameThatEndsLeavesANewerOneInItsPlace) {
     auto older = std::make_unique<Game>();
     auto newer = std::make_unique<Game>();
