@@ -17,7 +17,7 @@ constexpr bool WithWindow = true;
 ///     free 5                           its free values, groups and neighbours
 ///     csv TEXT, sdk TEXT, texts        loads the grid, writes it; "|" stands for a line break
 ///     init 5, index 5, clear 1 (those that are not locked), lockall 1
-///     count 3                          that count first, from 0, then all
+///     count 3                          the count with that number, from 0, then all
 ///     group 5 9 1                      a group of field 9 for field 5; 1: the game has it, too
 ///     ungroup 5, regroup 5, widen 9    no groups; the last one once more; with field 9, too
 ///     goto 1, back 1, freedom 1        the player, with AutoValue

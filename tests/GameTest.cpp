@@ -82,6 +82,7 @@ TEST_F(GridTest, EventsAndPumpsHaveAnOrder) {
 TEST_F(GridTest, AWaitPumpsBeforeAndAfterItsSleep) {
     platform.TellsPumps = true;
     TELLS(Wait(-1), "now (1)");
+    TELLS(Wait(0), "now (1)");
     TELLS(Wait(), "now (1) Sleep(5) now (1)");
     int pause = 800;
     platform.EachPump = [&] { pause = 100; };
