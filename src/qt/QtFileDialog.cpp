@@ -6,7 +6,9 @@
 #include "qt/QtToolkit.h"
 #include "toolkit/CommonDialog.h"
 
+#include <QAbstractItemView>
 #include <QAction>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
@@ -19,6 +21,7 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QTreeView>
+#include <QWindow>
 
 #include <climits>
 #include <utility>
@@ -87,6 +90,15 @@ public:
     QString Chosen() const { return msChosen; }
 
 protected:
+    void showEvent(QShowEvent* event) override {
+        QFileDialog::showEvent(event);
+        // Without a parent the list of names that match opens as a window of its own on Wayland,
+        // anywhere, each time after the first.
+        QWidget& names = *NameLine().completer()->popup();
+        names.winId(); // makes the window
+        names.windowHandle()->setTransientParent(windowHandle());
+    }
+
     // Qt disables the button by what the list has selected.
     bool eventFilter(QObject* button, QEvent* event) override {
         if (event->type() == QEvent::EnabledChange)

@@ -197,6 +197,8 @@ void QtFixture::LookForBox() {
         line->insert(c);
         QTest::qWait(1);
     }
+    EXPECT_EQ(line->completer()->popup()->windowHandle()->transientParent(), dialog->windowHandle())
+        << "Wayland would open the list of names anywhere";
     EXPECT_TRUE(dialog->findChild<QPushButton*>()->isEnabled());
     Press("Return");
     if (dialog->isVisible()) dialog->reject();
