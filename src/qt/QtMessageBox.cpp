@@ -14,6 +14,12 @@ namespace tessarin::qt {
 
 namespace {
 
+// There a modal dialog with a parent is fixed over the middle of it and darkens it, so that the
+// fields could not be seen. Without one it still stays above the windows of its program.
+bool IsOnGnome() {
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(':').contains("GNOME");
+}
+
 // Opens beside `area`, the part of its window that its text is about.
 class QtMessageBox : public QMessageBox {
 public:
@@ -45,6 +51,7 @@ protected:
     void showEvent(QShowEvent* event) override {
         // QDialog would first centre the box, and some window managers show it there.
         if (!mArea.isEmpty()) setAttribute(Qt::WA_Moved);
+        if (IsOnGnome() && !IsOnWayland()) windowHandle()->setTransientParent(nullptr);
         QMessageBox::showEvent(event);
         if (mArea.isEmpty()) return;
         // With room for a frame: some window managers put the frame at that place, others the box

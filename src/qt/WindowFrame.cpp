@@ -13,6 +13,12 @@ bool IsOnWayland() {
     return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
+QMargins WithoutShadow(const QMargins& frame) {
+    constexpr int ShadowWidth = 10;
+    const bool hasShadow = frame.bottom() > ShadowWidth;
+    return hasShadow ? frame - ShadowWidth : frame;
+}
+
 void WindowFrame::SetSize(QSize outer, int leastHeight) {
     mOuter = outer;
     mlLeastHeight = leastHeight;
@@ -33,7 +39,8 @@ bool WindowFrame::Follow(const QEvent& event) {
     if (isResize) ApplySize();
     if (!isPaint && !isResize && event.type() != QEvent::Move) return false;
     if (!mWindow.isVisible()) return false;
-    const QMargins margins = mWindow.windowHandle()->frameMargins();
+    QMargins margins = mWindow.windowHandle()->frameMargins();
+    if (IsOnWayland()) margins = WithoutShadow(margins);
     const bool isUnknown = margins.isNull() && (!isPaint || IsOnWayland());
     if (isUnknown || margins == mMargins) return false;
     mMargins = margins;

@@ -12,6 +12,10 @@ namespace tessarin::qt {
 /// There the desktop may give a window another size than it wants, and the window must take it.
 bool IsOnWayland();
 
+/// What is seen of a frame. On Wayland Qt draws the frame on GNOME, with a shadow on all sides, and
+/// counts the shadow as a part of it; all other frames are thinner than that at the bottom.
+QMargins WithoutShadow(const QMargins& frame);
+
 /// Keeps the outer size of a window fixed. Qt's sizes are without the frame, whose thickness
 /// depends on the desktop and is known only some milliseconds after the window is shown. Until then
 /// a thin one is assumed. On Wayland the window can also be larger: maximised, in a tile, or pulled

@@ -4,6 +4,7 @@
 #include "QtFixture.h"
 #include "qt/BoxPlace.h"
 #include "qt/QtLook.h"
+#include "qt/WindowFrame.h"
 #include "support/modDateTime.h"
 #include "ui/Colors.h"
 
@@ -74,6 +75,22 @@ TEST_F(WindowTest, ABoxOpensWhereTheScreenHasRoom) {
     // In the corner where it covers least, here of a second screen.
     const QRect screen(1920, 100, 1000, 800);
     EXPECT_EQ(qt::PlaceBeside({1940, 120, 960, 760}, {100, 50}, screen), QPoint(2820, 100));
+    // GNOME would fix a box with a parent over the fields.
+    for (const char* const desktop : {"ubuntu:GNOME", "KDE"}) {
+        qputenv("XDG_CURRENT_DESKTOP", desktop);
+        Meanwhile([&] {
+            const QWindow& box = *QApplication::activeModalWidget()->windowHandle();
+            EXPECT_EQ(box.transientParent() == nullptr, desktop != std::string("KDE"));
+        });
+        Click("lblDeadEnd");
+    }
+    qunsetenv("XDG_CURRENT_DESKTOP");
+}
+
+// That of Qt's frame on GNOME is 10 pixels wide.
+TEST_F(WindowTest, AShadowIsNoPartOfTheFrame) {
+    EXPECT_EQ(qt::WithoutShadow({11, 49, 11, 11}), QMargins(1, 39, 1, 1));
+    EXPECT_EQ(qt::WithoutShadow({3, 30, 3, 3}), QMargins(3, 30, 3, 3));
 }
 
 TEST_F(WindowTest, FileNamesThatAreTypedToOpen) {
