@@ -36,6 +36,7 @@ const std::vector<std::vector<std::string>> WindowThemes{
     {"click btnSolve", "click btnSolve", "click optChill(%6)", "click lblField(%l)", "tick", "tick",
      "activate", "close"},
     {"click btnSolve", "click btnSolve", "click optChill(6)", "click optChill(%6)"},
+    {"click btnSolve", "click btnSolve", "click optChill(2)", "click optChill(5)"},
     {"click btnSolve", "click btnSolve", "click optChill(%6)", "click mnuViewNeighbours"},
     {"activate", "csv %c", "clear %1", "click lblField(%l)"},
     {"click mnuViewFreedom", "click mnuViewNeighbours", "click mnuViewGroups", "value %f %v",
@@ -89,7 +90,8 @@ struct RandomUser {
     }
     std::string Sdk() const {
         std::string rows = Header("\"Sudoku\"");
-        for (int count = std::stoi(Pick({"9", "9", "9", "25", "16", "8"})); count > 0; --count) {
+        for (int count = std::stoi(Pick({"9", "9", "9", "25", "16", "49", "8"})); count > 0;
+             --count) {
             for (int i = Choice(OneIn(9) ? 12 : 9); i > 0; --i)
                 rows += Item(OneIn(3) ? Value() : 0).append(i > 1 ? "," : "");
             rows += "|";
