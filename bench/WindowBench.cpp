@@ -40,7 +40,7 @@ double MillisecondsSince(std::chrono::steady_clock::time_point start) {
 }
 
 struct Window {
-    qt::QtPlatform Platform;
+    qt::QtPlatform Platform{VersionRecord{}};
     qt::QtToolkit Toolkit{Platform};
     frmTessarin Form{Toolkit};
 
@@ -295,7 +295,7 @@ int ShowOnce(bool bare) {
     UntilFirstPaint filter;
     qApp->installEventFilter(&filter);
     if (!bare) {
-        qt::QtPlatform platform;
+        qt::QtPlatform platform(VersionRecord{});
         qt::QtToolkit toolkit(platform);
         frmTessarin form(toolkit);
         form.Show();

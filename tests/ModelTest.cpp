@@ -71,6 +71,7 @@ TEST(StringLibraryTest, PadsAndPositions) {
     EXPECT_EQ(PadInteger(7, 3, " "), "  7");
     EXPECT_EQ(DateTimeStamp({2023, 1, 2, 3, 4, 5}), "20230102 030405");
     EXPECT_EQ(DateTimeStamp({}), "               ");
+    EXPECT_EQ(DateTimeStamp({.Hour = 3}), "00000000 030000");
     EXPECT_EQ(ReplaceAll("aaab", "aa", "ca"), "caab");
     EXPECT_EQ(ReplaceAll("aab", "a", ""), "b");
     EXPECT_EQ(ReplaceAll("ab", "", "x"), "ab");

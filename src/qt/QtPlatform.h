@@ -23,7 +23,7 @@ class QtPlatform : public Platform {
 public:
     /// `version` is the program's record. Gives the application the same style and direction of
     /// controls on every desktop, and keeps Qt from writing into the user's settings.
-    explicit QtPlatform(VersionRecord version = {});
+    explicit QtPlatform(VersionRecord version);
     ~QtPlatform() override;
 
     void PumpEvents(Pump pump) override;

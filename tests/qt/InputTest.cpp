@@ -91,6 +91,8 @@ TEST_F(InputTest, AHeldKeyClicksOnceButArrowsGoOn) {
     TELLS(Repeat(1640, "Space"), "");
     TELLS(Up(1650, "Space"), "");
     TELLS(Key("Return"), "btnInfo");
+    TELLS(Down(2000, "PgDown"), "btnNextFreeAuto");
+    TELLS(Repeat(2600, "PgDown"), "");
     Focus("lblField(1)");
     const auto hold = [&](const char* arrow, const char* field) {
         TELLS(Down(4000, arrow), field);

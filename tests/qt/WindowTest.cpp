@@ -75,6 +75,7 @@ TEST_F(WindowTest, ABoxOpensWhereTheScreenHasRoom) {
     // In the corner where it covers least, here of a second screen.
     const QRect screen(1920, 100, 1000, 800);
     EXPECT_EQ(qt::PlaceBeside({1940, 120, 960, 760}, {100, 50}, screen), QPoint(2820, 100));
+    EXPECT_EQ(qt::PlaceBeside({1940, 120, 960, 700}, {100, 50}, screen), QPoint(2370, 820));
     // GNOME would fix a box with a parent over the fields.
     for (const char* const desktop : {"ubuntu:GNOME", "KDE"}) {
         qputenv("XDG_CURRENT_DESKTOP", desktop);
