@@ -177,6 +177,14 @@ TEST_F(WindowTest, ADialogOpensWhereTheFileIsEntersFoldersAndChangesNoFile) {
     EXPECT_TRUE(QDir(qEnvironmentVariable("XDG_CONFIG_HOME")).isEmpty());
 }
 
+// The fixture expects it only while the rotor runs and no box is open.
+TEST_F(WindowTest, TheHourglassComesBackAfterTheLastBox) {
+    window.ctlRotor1.SetRunning(true);
+    Meanwhile([&] { Click("mnuAbout"); });
+    Click("lblDeadEnd");
+    window.ctlRotor1.SetRunning(false);
+}
+
 TEST_F(WindowTest, AReturnRepaintsUnlessFromAnOwnBox) {
     QTest::qWait(200); // until the start is over
     form->findChild<QAction*>("mnuAbout")->trigger();
